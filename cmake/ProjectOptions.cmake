@@ -1,0 +1,38 @@
+# Compiler settings that every target of this project links PRIVATE.
+
+add_library(project_options INTERFACE)
+target_include_directories(project_options INTERFACE ${PROJECT_SOURCE_DIR})
+
+target_compile_options(project_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wdouble-promotion
+  -Wold-style-cast -Wcast-align -Wcast-qual -Wnon-virtual-dtor -Woverloaded-virtual -Wformat=2
+  -Wimplicit-fallthrough -Wnull-dereference -Wundef -Wextra-semi -Wredundant-decls
+  -Wzero-as-null-pointer-constant -Wmissing-declarations)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(project_options INTERFACE
+    -Wduplicated-cond -Wduplicated-branches -Wlogical-op -Wuseless-cast -Wsuggest-override)
+else()
+  target_compile_options(project_options INTERFACE
+    -Wunreachable-code-aggressive -Wcomma -Wnewline-eof -Winconsistent-missing-destructor-override)
+endif()
+if(WARNINGS_AS_ERRORS)
+  target_compile_options(project_options INTERFACE -Werror)
+endif()
+
+if(SANITIZER)
+  target_compile_options(project_options INTERFACE
+    -fsanitize=${SANITIZER} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(project_options INTERFACE -fsanitize=${SANITIZER})
+endif()
+
+# One seed gives one event on every machine: no fused products and sums. errno is not read, so the
+# compiler may join a sine and a cosine of the same angle; that changes no value.
+add_library(physics_options INTERFACE)
+target_compile_options(physics_options INTERFACE -ffp-contract=off -fno-math-errno)
+target_link_libraries(physics_options INTERFACE project_options)
+
+add_library(qt_options INTERFACE)
+target_compile_definitions(qt_options INTERFACE
+  QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
+  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+target_link_libraries(qt_options INTERFACE project_options)

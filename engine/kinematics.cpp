@@ -1,0 +1,35 @@
+#include "engine/kinematics.h"
+
+#include <cmath>
+
+namespace velquon {
+
+double dot_product(const Vector3& a, const Vector3& b) {
+  return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
+}
+
+double magnitude(const Vector3& vector) {
+  return std::sqrt(dot_product(vector, vector));
+}
+
+double total_energy(double mass, double momentum) {
+  return std::sqrt(mass * mass + momentum * momentum);
+}
+
+void to_the_lab(const Vector3& direction, Vector3& out, double along, double across_1,
+                double across_2) {
+  const double theta = std::acos(direction[2] / magnitude(direction));
+  const double phi = std::atan2(direction[1], direction[0]);
+  const double w = along * std::sin(theta) - across_2 * std::cos(theta);
+  out = {w * std::cos(phi) + across_1 * std::sin(phi), w * std::sin(phi) - across_1 * std::cos(phi),
+         along * std::cos(theta) + across_2 * std::sin(theta)};
+}
+
+int get_quadrant(double angle) {
+  if (angle > 0.0) {
+    return angle > PI / 2 ? 2 : 1;
+  }
+  return angle < -PI / 2 ? 4 : 3;
+}
+
+}  // namespace velquon

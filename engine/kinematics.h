@@ -1,0 +1,32 @@
+#pragma once
+
+#include "engine/particles.h"
+
+namespace velquon {
+
+inline constexpr double PI = 3.141592653589793;
+
+/// Scalar product, summed in the order x, y, z.
+[[nodiscard]] double dot_product(const Vector3& a, const Vector3& b);
+
+/// Magnitude of a vector.
+[[nodiscard]] double magnitude(const Vector3& vector);
+
+/// Total energy in MeV of a mass (MeV/c^2) and a momentum magnitude (MeV/c).
+[[nodiscard]] double total_energy(double mass, double momentum);
+
+/// Turns a vector given relative to a parent's flight into the chamber frame. A pure rotation: the
+/// boost along the flight is the caller's, who passes the boosted component as `along`.
+/// \param direction the parent's momentum; only its direction counts
+/// \param out       the resulting vector
+/// \param along     component along `direction`
+/// \param across_1  component against the azimuthal unit vector of `direction`
+/// \param across_2  component against the polar unit vector of `direction`
+void to_the_lab(const Vector3& direction, Vector3& out, double along, double across_1,
+                double across_2);
+
+/// Quadrant of an angle in radians, in this program's own numbering: 1 up to pi/2, 2 above it, 3
+/// from 0 down to -pi/2, 4 below it.
+[[nodiscard]] int get_quadrant(double angle);
+
+}  // namespace velquon

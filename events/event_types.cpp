@@ -1,0 +1,44 @@
+#include "events/event_types.h"
+
+#include <cmath>
+
+#include "events/lambda_decay.h"
+#include "events/lepton_decays.h"
+#include "events/neutral_pion_decay.h"
+
+namespace velquon {
+
+namespace {
+
+constexpr std::array<EventType, 6> types{{
+    {"pi-", "Negative Pion", true, pion_chain},
+    {"pi+", "Positive Pion", false, pion_chain},
+    {"pi0", "Neutral Pion", false, pizero_chain},
+    {"mu-", "Negative Muon", true, muon_chain},
+    {"mu+", "Positive Muon", false, muon_chain},
+    {"lambda", "Lambda", false, lambda_chain},
+}};
+
+}  // namespace
+
+std::span<const EventType> event_types() {
+  return types;
+}
+
+HandOver run_chain(const EventType& type, const ChamberValues& values, TrackBuffer& event) {
+  event.count = 0;
+  if (!(values.kinetic_Mev > 0.0F) || !std::isfinite(values.kinetic_Mev)) {
+    return HandOver::yes;
+  }
+  return type.chain(values, event);
+}
+
+HandOver make_event(const EventType& type, const ChamberValues& values, TrackBuffer& event) {
+  ChamberValues chain_values = values;
+  if (type.flips_field) {
+    chain_values.B_field = -chain_values.B_field;
+  }
+  return run_chain(type, chain_values, event);
+}
+
+}  // namespace velquon

@@ -1,0 +1,21 @@
+#include "files/fixed_point_record.h"
+
+#include <algorithm>
+
+namespace velquon {
+
+double Fix2X(std::int32_t fixed) {
+  return fixed / 65536.0;
+}
+
+std::int16_t TranslatePlotPoints(std::span<const FixedPlotPoint> source,
+                                 std::span<PlotPoint> destination, std::int16_t count) {
+  for (std::int16_t i = 0; i < count; ++i) {
+    const auto k = static_cast<std::size_t>(i);
+    std::ranges::transform(source[k].coords, destination[k].coords.begin(), Fix2X);
+    destination[k].code = source[k].code;
+  }
+  return count;
+}
+
+}  // namespace velquon

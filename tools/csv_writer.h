@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <span>
+#include <string>
+#include <system_error>
+
+#include "engine/event_record.h"
+
+namespace velquon {
+
+/// Writes events as lines `event,point,x,y,z,code` under a header of these names, buffered.
+class CsvWriter {
+ public:
+  /// \param file where the lines go; not closed
+  explicit CsvWriter(std::FILE* file);
+
+  /// Adds the lines of one event.
+  /// \param event number of the event, from 1; points are numbered from 0
+  /// \return what went wrong while a full buffer was written
+  std::error_code write(std::uint64_t event, std::span<const PlotPoint> points);
+
+  /// Writes what is still in the buffer.
+  std::error_code finish();
+
+ private:
+  std::error_code flush();
+
+  std::FILE* file_;
+  std::string buffer_;
+};
+
+}  // namespace velquon
