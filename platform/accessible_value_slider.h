@@ -1,0 +1,9 @@
+#pragma once
+
+namespace velquon {
+
+/// Lets screen readers see the real numbers of every ValueSlider and set them as the user would. To
+/// be called once, with the application object there.
+void install_accessible_value_sliders();
+
+}  // namespace velquon

@@ -1,0 +1,93 @@
+#include "platform/gl_view.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QMouseEvent>
+#include <QScreen>
+#include <algorithm>
+
+#include "platform/delayed_message.h"
+
+namespace velquon {
+
+GLView::GLView(QWidget* parent) : QOpenGLWidget(parent) {
+  setUpdateBehavior(QOpenGLWidget::PartialUpdate);
+}
+
+void GLView::display() {
+  if (!isValid() || !isVisible()) {
+    stale_ = true;
+    update();
+    return;
+  }
+  makeCurrent();
+  runDrawingPass();
+  present();
+}
+
+void GLView::displaySoon() {
+  stale_ = true;
+  if (display_pending_) {
+    return;
+  }
+  display_pending_ = true;
+  const double frame = 1.0 / std::max(screen()->refreshRate(), 1.0);
+  const double elapsed = since_presented_.isValid()
+                             ? static_cast<double>(since_presented_.nsecsElapsed()) * 1e-9
+                             : frame;
+  perform_after(frame - elapsed, this, [this] {
+    display_pending_ = false;
+    if (stale_) {
+      display();
+    }
+  });
+}
+
+QRectF GLView::visibleRect() const {
+  return {visible_origin_, QSizeF(size())};
+}
+
+bool GLView::makeContextCurrent() {
+  if (!isValid()) {
+    return false;
+  }
+  makeCurrent();
+  return true;
+}
+
+QPointF GLView::locationOf(const QMouseEvent& event) const {
+  const QPointF place = event.position();
+  return visible_origin_ + QPointF(place.x(), height() - place.y());
+}
+
+void GLView::initializeGL() {
+  stale_ = true;
+}
+
+void GLView::resizeGL(int /*width*/, int /*height*/) {
+  stale_ = true;
+  reshape();
+}
+
+void GLView::paintGL() {
+  if (stale_) {
+    runDrawingPass();
+  }
+}
+
+void GLView::runDrawingPass() {
+  stale_ = false;
+  ++passes_;
+  drawRect();
+}
+
+void GLView::present() {
+  // Qt holds a repaint to the screen's refresh rate; sending the request that it would post gets
+  // the picture out now.
+  since_presented_.start();
+  update();
+  QEvent request(QEvent::UpdateRequest);
+  QCoreApplication::sendEvent(window(), &request);
+}
+
+}  // namespace velquon

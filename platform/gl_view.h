@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QOpenGLWidget>
+#include <QPointF>
+#include <QRectF>
+
+class QMouseEvent;
+
+namespace velquon {
+
+/// An OpenGL view whose picture stays on the screen until it is drawn again, and which can be drawn
+/// at once even while the program does not return to its event loop. View coordinates are widget
+/// pixels with the origin at the lower left.
+class GLView : public QOpenGLWidget {
+  Q_OBJECT
+
+ public:
+  explicit GLView(QWidget* parent = nullptr);
+
+  /// Runs one full drawing pass and brings it to the screen before it returns. A view that is not
+  /// on the screen remembers that it has to be drawn.
+  void display();
+
+  /// Asks for a `display` soon: at once or, when the last was just now, as soon as the screen can
+  /// show another picture. Any number of requests until then make one pass.
+  void displaySoon();
+
+  /// The part of the view's document that can be seen; the origin is 0, 0 unless it is scrolled.
+  [[nodiscard]] QRectF visibleRect() const;
+  /// Set by the scrolling area.
+  void setVisibleOrigin(QPointF origin) { visible_origin_ = origin; }
+
+  /// Drawing passes run so far.
+  [[nodiscard]] int passes() const { return passes_; }
+
+ protected:
+  /// One drawing pass; the context is current.
+  virtual void drawRect() = 0;
+  /// The view has another size; the context is current. A drawing pass follows.
+  virtual void reshape() {}
+
+  /// Makes the context current for a change of its state outside a drawing pass.
+  /// \return false while the view has no context yet
+  bool makeContextCurrent();
+
+  /// The place of a mouse event in view coordinates.
+  [[nodiscard]] QPointF locationOf(const QMouseEvent& event) const;
+
+  void initializeGL() override;
+  void resizeGL(int width, int height) override;
+  void paintGL() override;
+
+ private:
+  void runDrawingPass();
+  void present();
+
+  QPointF visible_origin_;
+  QElapsedTimer since_presented_;
+  int passes_ = 0;
+  bool stale_ = true;
+  bool display_pending_ = false;
+};
+
+}  // namespace velquon

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <QSize>
+
+namespace velquon {
+
+class GLView;
+
+/// A scrolling area for one OpenGL view. The view fills the area and is told which part of its
+/// document it shows, so that the picture moves by being drawn again and not by being shifted.
+class ViewScrollArea : public QAbstractScrollArea {
+  Q_OBJECT
+
+ public:
+  explicit ViewScrollArea(QWidget* parent = nullptr);
+
+  /// \param view     a child of this area's viewport, to stay there for good
+  /// \param document size of what the view can show
+  void setView(GLView* view, QSize document);
+
+  /// Scrolls so that a point of the document, y upwards, is the lower left one seen, as far as the
+  /// document reaches.
+  void scrollPoint(QPointF point);
+
+  [[nodiscard]] QSize sizeHint() const override;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
+
+ private:
+  void placeView();
+
+  GLView* view_ = nullptr;
+  QSize document_;
+};
+
+}  // namespace velquon

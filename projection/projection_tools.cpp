@@ -1,0 +1,82 @@
+// The tape measure and the grab tool of the projection view.
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QMouseEvent>
+#include <cmath>
+
+#include "projection/projection_view.h"
+
+namespace velquon {
+
+void ProjectionView::setTool(QAbstractButton* sender) {
+  if (sender == outlets_.tape_tool) {
+    tool_choice_ = Tool::tape;
+  } else if (sender == outlets_.grab_tool) {
+    tool_choice_ = Tool::grab;
+  }
+  hideTape();
+  display();
+  resetCursorRects();
+}
+
+double ProjectionView::tapeLength() const {
+  const QPointF span = tape_start_point_ - tape_end_point_;
+  const double length = std::sqrt(span.x() * span.x() + span.y() * span.y());
+  return length * scaler_ / static_cast<double>(zoom_factor_);
+}
+
+void ProjectionView::mousePressEvent(QMouseEvent* event) {
+  if (tool_choice_ == Tool::tape) {
+    tape_start_point_ = locationOf(*event);
+  } else {
+    last_grab_ = locationOf(*event);
+  }
+}
+
+void ProjectionView::mouseMoveEvent(QMouseEvent* event) {
+  if (tool_choice_ == Tool::tape) {
+    tape_visible_ = true;
+    stretchTape(locationOf(*event));
+  } else {
+    grabTo(locationOf(*event));
+  }
+}
+
+void ProjectionView::mouseReleaseEvent(QMouseEvent* event) {
+  if (tool_choice_ == Tool::tape) {
+    stretchTape(locationOf(*event));
+  } else {
+    grabTo(locationOf(*event));
+  }
+}
+
+void ProjectionView::resetCursorRects() {
+  setCursor(tool_choice_ == Tool::tape ? cross_hair_cursor_ : grabber_cursor_);
+}
+
+void ProjectionView::hideTape() {
+  tape_visible_ = false;
+  showReading(0.0);
+}
+
+void ProjectionView::showReading(double centimetres) {
+  outlets_.tape_text->setText(QString::asprintf("D = %5.2f cm", centimetres));
+}
+
+void ProjectionView::stretchTape(QPointF place) {
+  tape_end_point_ = place;
+  showReading(tapeLength());
+  display();
+}
+
+void ProjectionView::grabTo(QPointF place) {
+  tape_visible_ = false;
+  const QPointF moved = last_grab_ - place;
+  last_grab_ = place;
+  OffV_ += moved.y();
+  OffH_ -= moved.x();
+  display();
+}
+
+}  // namespace velquon
