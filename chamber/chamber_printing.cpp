@@ -16,10 +16,6 @@ constexpr QPointF page_offset{-80.0, 120.0};
 
 }  // namespace
 
-void ChamberView::setPrinting(QPainter* page) {
-  page_ = page;
-}
-
 void ChamberView::printRect() {
   if (makeContextCurrent()) {
     drawForPrinting();

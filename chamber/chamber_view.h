@@ -10,6 +10,7 @@
 #include "engine/chamber_values.h"
 #include "engine/event_record.h"
 #include "platform/gl_view.h"
+#include "platform/page.h"
 
 class QAction;
 class QPainter;
@@ -28,7 +29,7 @@ struct RotationItems {
 /// The three-dimensional view of the chamber. It owns the shown event and the chamber values under
 /// which the event was made; it can turn like a turntable, replay the event point by point, and
 /// draw itself on a page.
-class ChamberView : public GLView {
+class ChamberView : public GLView, public Printable {
   Q_OBJECT
 
  public:
@@ -90,10 +91,8 @@ class ChamberView : public GLView {
   /// Stops the turntable; the replay begins after the turntable's delay.
   void replay();
 
-  /// Switches to drawing on a page, in points with y upwards, or with null back to the screen.
-  void setPrinting(QPainter* page);
-  /// One drawing pass on the page.
-  void printRect();
+  void setPrinting(QPainter* page) override { page_ = page; }
+  void printRect() override;
   /// The values line, on the screen or on the page; nothing without an event.
   void drawValues();
   /// The text of the values line.

@@ -25,12 +25,12 @@ std::span<const EventType> event_types() {
   return types;
 }
 
-HandOver run_chain(const EventType& type, const ChamberValues& values, TrackBuffer& event) {
+HandOver run_chain(DecayChain chain, const ChamberValues& values, TrackBuffer& event) {
   event.count = 0;
   if (!(values.kinetic_Mev > 0.0F) || !std::isfinite(values.kinetic_Mev)) {
     return HandOver::yes;
   }
-  return type.chain(values, event);
+  return chain(values, event);
 }
 
 HandOver make_event(const EventType& type, const ChamberValues& values, TrackBuffer& event) {
@@ -38,7 +38,7 @@ HandOver make_event(const EventType& type, const ChamberValues& values, TrackBuf
   if (type.flips_field) {
     chain_values.B_field = -chain_values.B_field;
   }
-  return run_chain(type, chain_values, event);
+  return run_chain(type.chain, chain_values, event);
 }
 
 }  // namespace velquon

@@ -10,13 +10,16 @@
 
 namespace velquon {
 
+/// A chain of decays that lays its event into an empty buffer.
+using DecayChain = HandOver (*)(const ChamberValues& values, TrackBuffer& event);
+
 /// One kind of event. Its index in `event_types` is the event type, 0 to 5.
 struct EventType {
   std::string_view key;   ///< name on a command line
   std::string_view name;  ///< name for people
   /// A negative particle is the positive chain in the opposite field.
   bool flips_field;
-  HandOver (*chain)(const ChamberValues&, TrackBuffer&);
+  DecayChain chain;
 };
 
 /// All kinds of events, in the order of their types.
@@ -25,7 +28,7 @@ struct EventType {
 /// Runs a chain into an emptied buffer. An energy that is not above 0 or not finite makes an event
 /// without points, which is handed over.
 /// \param values the field is that of the chain, already flipped for a negative particle
-HandOver run_chain(const EventType& type, const ChamberValues& values, TrackBuffer& event);
+HandOver run_chain(DecayChain chain, const ChamberValues& values, TrackBuffer& event);
 
 /// Makes an event of a type under a person's values: `run_chain` with the field flipped if the type
 /// wants it.

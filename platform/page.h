@@ -7,6 +7,22 @@ class QString;
 
 namespace velquon {
 
+/// A view that can be drawn on a page.
+class Printable {
+ public:
+  Printable() = default;
+  Printable(const Printable&) = delete;
+  Printable& operator=(const Printable&) = delete;
+  Printable(Printable&&) = delete;
+  Printable& operator=(Printable&&) = delete;
+  virtual ~Printable() = default;
+
+  /// Switches to drawing on a page, in points with y upwards, or with null back to the screen.
+  virtual void setPrinting(QPainter* page) = 0;
+  /// One drawing pass on the page.
+  virtual void printRect() = 0;
+};
+
 /// Writes a text on a page whose y points upwards.
 /// \param place lower left corner of the text
 void print_text(QPainter& page, QPointF place, const QString& text);

@@ -12,6 +12,7 @@ class ValueSlider : public QSlider {
   Q_PROPERTY(double maxValue READ maxValue WRITE setMaxValue)
   Q_PROPERTY(double minValue READ minValue WRITE setMinValue)
   Q_PROPERTY(int tickMarks READ tickMarks WRITE setTickMarks)
+  Q_PROPERTY(bool zeroExcluded READ zeroExcluded WRITE setZeroExcluded)
   Q_PROPERTY(QString unit READ unit WRITE setUnit)
 
  public:
@@ -32,6 +33,7 @@ class ValueSlider : public QSlider {
 
   /// Keeps the knob one step above a least value of 0, which the user then cannot choose.
   void setZeroExcluded(bool excluded);
+  [[nodiscard]] bool zeroExcluded() const { return zero_excluded_; }
 
   [[nodiscard]] float floatValue() const { return value_; }
   [[nodiscard]] double doubleValue() const { return static_cast<double>(value_); }

@@ -7,6 +7,7 @@
 
 #include "engine/event_record.h"
 #include "platform/gl_view.h"
+#include "platform/page.h"
 #include "projection/projection_mapping.h"
 
 class QAbstractButton;
@@ -33,7 +34,7 @@ inline constexpr int projection_width = 470;
 inline constexpr int projection_height = 420;
 
 /// The event projected onto one of the coordinate planes, with a tape measure and a grab tool.
-class ProjectionView : public GLView {
+class ProjectionView : public GLView, public Printable {
   Q_OBJECT
 
  public:
@@ -62,10 +63,8 @@ class ProjectionView : public GLView {
   /// Distance between the tape's ends, cm of the chamber.
   [[nodiscard]] double tapeLength() const;
 
-  /// Switches to drawing on a page, in points with y upwards, or with null back to the screen.
-  void setPrinting(QPainter* page) { page_ = page; }
-  /// One drawing pass on the page.
-  void printRect();
+  void setPrinting(QPainter* page) override { page_ = page; }
+  void printRect() override;
 
   [[nodiscard]] ProjectionMapping mapping() const;
   [[nodiscard]] ProjectionPlane projection_plane() const { return projection_plane_; }

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+#include <optional>
+
+namespace velquon {
+
+/// What the program is started with.
+struct CommandLine {
+  std::optional<std::uint32_t> seed;
+  QString file;      ///< event file to open, or empty
+  QString pictures;  ///< folder to leave pictures in, or empty
+};
+
+/// Outcome of reading a command line: what it says, or what to print and the status to end with.
+struct ParsedCommandLine {
+  std::optional<CommandLine> options;
+  QString message;
+  int status = 0;
+};
+
+/// Reads the command line. Needs no application object.
+/// \param arguments the program's name first
+[[nodiscard]] ParsedCommandLine parse_command_line(const QStringList& arguments);
+
+}  // namespace velquon

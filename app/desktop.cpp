@@ -1,0 +1,34 @@
+#include "app/desktop.h"
+
+#include <GL/freeglut.h>
+
+#include <QApplication>
+#include <QIcon>
+#include <clocale>
+
+#include "platform/accessible_value_slider.h"
+#include "platform/surface_format.h"
+
+namespace velquon {
+
+void prepare_desktop() {
+  // GLUT needs X, so on a Wayland desktop the windows go through its X server.
+  qputenv("QT_QPA_PLATFORM", "xcb");
+  use_compatibility_contexts();
+}
+
+void finish_desktop(int argc, char** argv) {
+  // A desktop's locale would put a comma into the values and end the reading of "2.5" at the point.
+  std::setlocale(LC_NUMERIC, "C");
+  glutInit(&argc, argv);
+  install_accessible_value_sliders();
+  QIcon icon;
+  for (const int size : {16, 32, 48, 64, 128, 256}) {
+    icon.addFile(QStringLiteral(":/icons/velquon-%1.png").arg(size));
+  }
+  QApplication::setWindowIcon(icon);
+  QGuiApplication::setDesktopFileName(QStringLiteral("velquon"));
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+}  // namespace velquon

@@ -1,0 +1,43 @@
+// The desktop program.
+
+#include <QApplication>
+#include <cstdio>
+#include <string>
+
+#include "app/application.h"
+#include "app/command_line.h"
+#include "app/desktop.h"
+#include "app/pictures.h"
+#include "app/x_display.h"
+
+namespace {
+
+int end_with(const QString& text, int status) {
+  std::fputs(qPrintable(text), status == 0 ? stdout : stderr);
+  return status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QStringList arguments;
+  for (int i = 0; i < argc; ++i) {
+    arguments << QString::fromLocal8Bit(argv[i]);
+  }
+  const velquon::ParsedCommandLine parsed = velquon::parse_command_line(arguments);
+  if (!parsed.options) {
+    return end_with(parsed.message, parsed.status);
+  }
+  if (const std::string missing = velquon::missing_for_windows(); !missing.empty()) {
+    return end_with(QStringLiteral("velquon: %1\n").arg(QString::fromStdString(missing)), 1);
+  }
+  velquon::prepare_desktop();
+  const QApplication qt_application(argc, argv);
+  velquon::finish_desktop(argc, argv);
+  velquon::Application application(parsed.options->seed);
+  if (!parsed.options->pictures.isEmpty()) {
+    return velquon::save_pictures(application, parsed.options->pictures);
+  }
+  application.showWindows();
+  return QApplication::exec();
+}

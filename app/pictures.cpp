@@ -1,0 +1,89 @@
+#include "app/pictures.h"
+
+#include <QDir>
+#include <QEventLoop>
+#include <QMenu>
+#include <QSaveFile>
+#include <QTimer>
+#include <QWindow>
+#include <cstdio>
+
+#include "app/application.h"
+#include "app/chamber_window.h"
+#include "app/menus.h"
+#include "app/projector_window.h"
+#include "chamber/chamber_view.h"
+#include "events/event_types.h"
+#include "projection/projection_view.h"
+#include "ui_menus.h"
+
+namespace velquon {
+
+namespace {
+
+constexpr int longest_wait = 10'000;  // milliseconds
+
+bool wait_until_exposed(const QWidget& window) {
+  QEventLoop loop;
+  QTimer poll;
+  QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
+    if (window.windowHandle()->isExposed()) {
+      loop.quit();
+    }
+  });
+  poll.start(5);
+  QTimer::singleShot(longest_wait, &loop, &QEventLoop::quit);
+  loop.exec();
+  return window.windowHandle()->isExposed();
+}
+
+bool save_picture(GLView& view, const QString& path) {
+  QSaveFile file(path);
+  const bool saved =
+      file.open(QIODevice::WriteOnly) && view.grabFramebuffer().save(&file, "PNG") && file.commit();
+  if (saved) {
+    std::printf("%s\n", qPrintable(path));
+  } else {
+    std::fprintf(stderr, "velquon: cannot write %s: %s\n", qPrintable(path),
+                 qPrintable(file.errorString()));
+  }
+  return saved;
+}
+
+QString picture_name(const EventType& type, const QString& view) {
+  QString name = QString::fromUtf8(type.name.data(), static_cast<qsizetype>(type.name.size()));
+  return name.toLower().replace(QLatin1Char(' '), QLatin1Char('-')) + QLatin1Char('-') + view +
+         QStringLiteral(".png");
+}
+
+}  // namespace
+
+int save_pictures(Application& application, const QString& folder) {
+  const QDir target(folder);
+  if (!target.mkpath(QStringLiteral("."))) {
+    std::fprintf(stderr, "velquon: cannot make the folder %s\n", qPrintable(folder));
+    return 1;
+  }
+  application.showWindows();
+  if (!wait_until_exposed(application.chamberWindow()) ||
+      !wait_until_exposed(application.projectorWindow())) {
+    std::fputs("velquon: the windows did not come up on the screen\n", stderr);
+    return 1;
+  }
+  const Ui::Menus& menus = application.menus().items();
+  const auto items = menus.event_menu->actions();
+  for (std::size_t type = 0; type < event_types().size(); ++type) {
+    items.at(static_cast<qsizetype>(type))->trigger();
+    menus.new_event_item->trigger();
+    const EventType& row = event_types()[type];
+    if (!save_picture(*application.chamberWindow().view(),
+                      target.filePath(picture_name(row, QStringLiteral("chamber")))) ||
+        !save_picture(*application.projectorWindow().view(),
+                      target.filePath(picture_name(row, QStringLiteral("projector"))))) {
+      return 1;
+    }
+  }
+  return 0;
+}
+
+}  // namespace velquon
