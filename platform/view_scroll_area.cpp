@@ -38,7 +38,11 @@ void ViewScrollArea::scrollContentsBy(int /*dx*/, int /*dy*/) {
 }
 
 void ViewScrollArea::placeView() {
-  const QSize seen = viewport()->size();
+  // A scroll bar that is there takes room that the whole document may not need once it is gone.
+  const QSize without_bars = maximumViewportSize();
+  const bool all_fits =
+      without_bars.width() >= document_.width() && without_bars.height() >= document_.height();
+  const QSize seen = all_fits ? without_bars : viewport()->size();
   const QSize hidden = (document_ - seen).expandedTo(QSize(0, 0));
   horizontalScrollBar()->setRange(0, hidden.width());
   verticalScrollBar()->setRange(0, hidden.height());
@@ -47,7 +51,7 @@ void ViewScrollArea::placeView() {
   view_->setVisibleOrigin(
       {static_cast<qreal>(horizontalScrollBar()->value()),
        static_cast<qreal>(std::max(hidden.height() - verticalScrollBar()->value(), 0))});
-  view_->setGeometry(QRect(QPoint(0, 0), seen));
+  view_->setGeometry(viewport()->rect());
 }
 
 }  // namespace velquon
