@@ -1,10 +1,8 @@
 #include "tools/decimal_text.h"
 
-#include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>
-#include <cmath>
 #include <cstdint>
 #include <cstring>
 
@@ -15,98 +13,146 @@ namespace {
 __extension__ using Wide = unsigned __int128;
 
 constexpr int digit_count = 17;
-constexpr std::uint64_t smallest_digits = 10'000'000'000'000'000U;  // 17 digits: 10^16 and more
 
-// The numbers of the short way: their digits, times a power of ten below 2^64, stay within 128
-// bits.
+// The numbers of the short way, 0.001 up to 1000, have these exponents in a double's bits. In that
+// range no number rounds up to the next power of ten: the one below a power is further away from
+// it than half a unit of the 17th digit.
 constexpr double short_way_begin = 0.001;
 constexpr double short_way_end = 1000.0;
+constexpr unsigned mantissa_bits = 52;
+constexpr std::uint64_t first_exponent =
+    std::bit_cast<std::uint64_t>(short_way_begin) >> mantissa_bits;
+constexpr std::uint64_t last_exponent = std::bit_cast<std::uint64_t>(short_way_end) >> mantissa_bits;
 
-constexpr std::array<std::uint64_t, 20> powers_of_ten = [] {
-  std::array<std::uint64_t, 20> powers{};
-  std::uint64_t power = 1;
-  for (std::uint64_t& entry : powers) {
-    entry = power;
-    power *= 10;
+/// How the numbers with one binary and one decimal exponent are scaled to 17 digits: with the
+/// mantissa's 53 bits at the upper end of a word, the upper word of its product with `factor` is
+/// the digits, the lower one the rest.
+struct Scaling {
+  std::uint64_t factor;
+  int exponent;  ///< decimal exponent of the first digit
+};
+
+/// The numbers with one binary exponent.
+struct Binade {
+  std::uint64_t limit;              ///< bits of the power of ten among them
+  std::array<Scaling, 2> scalings;  ///< below the limit and from it on
+};
+
+constexpr auto binades = [] {
+  constexpr std::array limits{short_way_begin, 0.01, 0.1, 1.0, 10.0, 100.0, short_way_end};
+  constexpr int first_decimal_exponent = -3;
+  std::array<std::uint64_t, 20> powers{1};
+  for (std::size_t i = 1; i < powers.size(); ++i) {
+    powers[i] = 10 * powers[i - 1];
   }
-  return powers;
+  std::array<Binade, last_exponent - first_exponent + 1> all{};
+  for (std::uint64_t i = 0; i < all.size(); ++i) {
+    const std::uint64_t first_bits = (first_exponent + i) << mantissa_bits;
+    const std::uint64_t end_bits = first_bits + (std::uint64_t{1} << mantissa_bits);
+    const auto scaling = [&](int exponent) {
+      // A number is its mantissa times 2^-shift.
+      const int shift = 1075 - static_cast<int>(first_exponent + i);
+      const std::uint64_t power = powers[static_cast<std::size_t>(digit_count - 1 - exponent)];
+      return Scaling{shift <= 53 ? power << (53 - shift) : power >> (shift - 53), exponent};
+    };
+    int exponent = first_decimal_exponent;
+    std::uint64_t limit = end_bits;
+    for (std::size_t j = 1; j < limits.size(); ++j) {
+      const auto bits = std::bit_cast<std::uint64_t>(limits[j]);
+      if (bits <= first_bits) {
+        ++exponent;
+      } else if (bits < end_bits) {
+        limit = bits;
+      }
+    }
+    all[i] = {limit, {scaling(exponent), scaling(limit < end_bits ? exponent + 1 : exponent)}};
+  }
+  return all;
 }();
 
-constexpr std::array<char, 200> digit_pairs = [] {
-  std::array<char, 200> pairs{};
-  for (std::size_t i = 0; i < 100; ++i) {
-    pairs[2 * i] = static_cast<char>('0' + i / 10);
-    pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
-  }
-  return pairs;
-}();
+// Digits of text in a word, the first in the lowest byte.
+constexpr std::uint64_t zeros = 0x3030'3030'3030'3030U;
+constexpr unsigned bits_per_digit = 8;
 
-int decimal_exponent(double magnitude) {
-  constexpr std::array limits{0.01, 0.1, 1.0, 10.0, 100.0};
-  return static_cast<int>(
-             std::ranges::count_if(limits, [&](double limit) { return magnitude >= limit; })) -
-         3;
+/// The eight digits of a number below 10^8 as values 0 to 9, by halves: two numbers of four digits,
+/// four of two, eight of one, each step for all parts of the word at once.
+constexpr std::uint64_t eight_digits(std::uint64_t number) {
+  const std::uint64_t thousands = number / 10'000;
+  const std::uint64_t fours = thousands | (number - thousands * 10'000) << 32U;
+  const std::uint64_t hundreds = ((fours * 10'486) >> 20U) & 0x0000'007F'0000'007FU;
+  const std::uint64_t twos = hundreds | (fours - hundreds * 100) << 16U;
+  const std::uint64_t tens = ((twos * 103) >> 10U) & 0x000F'000F'000F'000FU;
+  return tens | (twos - tens * 10) << 8U;
+}
+static_assert(eight_digits(12'345'678) == 0x0807'0605'0403'0201U);
+
+void put(char* out, std::uint64_t eight_characters) {
+  if constexpr (std::endian::native == std::endian::big) {
+    eight_characters = __builtin_bswap64(eight_characters);
+  }
+  std::memcpy(out, &eight_characters, sizeof eight_characters);
 }
 
-/// magnitude * 10^power to the nearest integer, ties to the even one.
-std::uint64_t scaled_digits(double magnitude, int power) {
-  const auto bits = std::bit_cast<std::uint64_t>(magnitude);
-  const std::uint64_t mantissa = (bits & 0x000F'FFFF'FFFF'FFFFU) | 0x0010'0000'0000'0000U;
-  const int shift = 1075 - static_cast<int>(bits >> 52U);
-  const Wide product = Wide{mantissa} * powers_of_ten[static_cast<std::size_t>(power)];
-  const auto quotient = static_cast<std::uint64_t>(product >> shift);
-  const Wide rest = product & ((Wide{1} << shift) - 1U);
-  const Wide half = Wide{1} << (shift - 1);
-  const bool up = rest > half || (rest == half && (quotient & 1U) != 0U);
-  return quotient + (up ? 1U : 0U);
+/// Digits up to the last that is not 0, of a word whose last digits are the highest bytes.
+int digits_in_use(std::uint64_t digits) {
+  return static_cast<int>(8U - static_cast<unsigned>(std::countl_zero(digits)) / bits_per_digit);
 }
 
-std::array<char, digit_count> digits_of(std::uint64_t number) {
-  std::array<char, digit_count> digits{};
-  for (std::size_t end = digit_count; end > 1; end -= 2) {
-    std::memcpy(&digits[end - 2], &digit_pairs[2 * (number % 100)], 2);
-    number /= 100;
-  }
-  digits[0] = static_cast<char>('0' + number);
-  return digits;
-}
+/// \param bits of a number of the short way
+char* write_short_way(char* out, std::uint64_t bits) {
+  const std::uint64_t mantissa = (bits << 11U) | std::uint64_t{1} << 63U;
+  const std::uint64_t magnitude = bits & ~(std::uint64_t{1} << 63U);
+  const Binade& binade = binades[(magnitude >> mantissa_bits) - first_exponent];
+  const auto& [factor, exponent] = binade.scalings[magnitude >= binade.limit ? 1 : 0];
+  const Wide product = Wide{mantissa} * factor;
+  auto number = static_cast<std::uint64_t>(product >> 64U);
+  // To the nearest, ties to the even one. The rest is a multiple of 2^11, so adding 1 is safe.
+  const auto rest = static_cast<std::uint64_t>(product);
+  number += rest + (number & 1U) > std::uint64_t{1} << 63U ? 1U : 0U;
 
-char* write_short_way(char* out, double value) {
-  const double magnitude = std::fabs(value);
-  int exponent = decimal_exponent(magnitude);
-  std::uint64_t number = scaled_digits(magnitude, digit_count - 1 - exponent);
-  if (number == 10 * smallest_digits) {
-    number = smallest_digits;
-    ++exponent;
-  }
-  const auto digits = digits_of(number);
-  std::ptrdiff_t used = digit_count;
-  while (digits[static_cast<std::size_t>(used - 1)] == '0') {
-    --used;
-  }
-  if (value < 0.0) {
-    *out++ = '-';
-  }
+  const std::uint64_t upper = number / 100'000'000;
+  const std::uint64_t first = upper / 100'000'000;
+  const std::uint64_t middle = eight_digits(upper - first * 100'000'000);
+  const std::uint64_t last = eight_digits(number - upper * 100'000'000);
+  const int used = last != 0 ? 9 + digits_in_use(last) : 1 + digits_in_use(middle);
+
+  *out = '-';
+  out += bits >> 63U;
   if (exponent < 0) {
-    constexpr std::array<char, 4> zeros{'0', '.', '0', '0'};
-    out = std::copy_n(zeros.begin(), 1 - exponent, out);
-    return std::copy_n(digits.begin(), used, out);
+    constexpr std::uint64_t zero_point_zeros = zeros ^ 0x1E00U;  // "0.000000"
+    put(out, zero_point_zeros);
+    out += 1 - exponent;
+    *out = static_cast<char>('0' + first);
+    put(out + 1, middle | zeros);
+    put(out + 9, last | zeros);
+    return out + used;
   }
-  const std::ptrdiff_t whole = exponent + 1;
-  out = std::copy_n(digits.begin(), whole, out);
-  if (used > whole) {
-    *out++ = '.';
-    out = std::copy(digits.begin() + whole, digits.begin() + used, out);
-  }
-  return out;
+  // The digits behind the point go where they belong, then the first eight characters over them.
+  put(out + 2, middle | zeros);
+  put(out + 10, last | zeros);
+  const int whole = exponent + 1;
+  const auto point_at = static_cast<unsigned>(whole) * bits_per_digit;
+  const std::uint64_t digits = zeros | first | middle << bits_per_digit;
+  const std::uint64_t before = digits & ((std::uint64_t{1} << point_at) - 1U);
+  put(out, before | std::uint64_t{'.'} << point_at | (digits ^ before) << bits_per_digit);
+  return out + (used > whole ? used + 1 : whole);
 }
 
 }  // namespace
 
 char* write_decimal(char* out, double value) {
-  const double magnitude = std::fabs(value);
-  if (magnitude >= short_way_begin && magnitude < short_way_end) {
-    return write_short_way(out, value);
+  const auto bits = std::bit_cast<std::uint64_t>(value);
+  const std::uint64_t magnitude = bits & ~(std::uint64_t{1} << 63U);
+  if (magnitude - std::bit_cast<std::uint64_t>(short_way_begin) <
+      std::bit_cast<std::uint64_t>(short_way_end) -
+          std::bit_cast<std::uint64_t>(short_way_begin)) {
+    return write_short_way(out, bits);
+  }
+  if (magnitude == 0) {
+    *out = '-';
+    out += bits >> 63U;
+    *out = '0';
+    return out + 1;
   }
   return std::to_chars(out, out + decimal_text_size, value, std::chars_format::general, digit_count)
       .ptr;
