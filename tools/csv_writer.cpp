@@ -91,11 +91,7 @@ std::error_code CsvWriter::write(std::uint64_t event, std::span<const PlotPoint>
     std::memcpy(out, number.data(), number.size());
     out = write_point_number(out + number_size, i);
     const auto& [x, y, z, w] = points[i].coords;
-    for (const double coordinate : {x, y, z}) {
-      out = write_decimal(out, coordinate);
-      *out++ = ',';
-    }
-    out = write_code(out, points[i].code);
+    out = write_code(write_coordinates(out, x, y, z), points[i].code);
   }
   used_ = static_cast<std::size_t>(out - buffer_.data());
   return {};

@@ -3,6 +3,7 @@
 #include <array>
 #include <bit>
 #include <charconv>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
@@ -24,12 +25,18 @@ constexpr std::uint64_t first_exponent =
     std::bit_cast<std::uint64_t>(short_way_begin) >> mantissa_bits;
 constexpr std::uint64_t last_exponent = std::bit_cast<std::uint64_t>(short_way_end) >> mantissa_bits;
 
+// Text in a word: the first character in the lowest byte.
+constexpr std::uint64_t zeros = 0x3030'3030'3030'3030U;
+constexpr unsigned bits_per_digit = 8;
+
 /// How the numbers with one binary and one decimal exponent are scaled to 17 digits: with the
 /// mantissa's 53 bits at the upper end of a word, the upper word of its product with `factor` is
 /// the digits, the lower one the rest.
 struct Scaling {
   std::uint64_t factor;
-  int exponent;  ///< decimal exponent of the first digit
+  std::uint64_t before_point;  ///< mask of the text before the point; 0 for a number below 1
+  std::uint64_t point;         ///< the point in its place
+  std::ptrdiff_t whole;        ///< digits before the point; -n for n zeros behind it
 };
 
 /// The numbers with one binary exponent.
@@ -53,7 +60,10 @@ constexpr auto binades = [] {
       // A number is its mantissa times 2^-shift.
       const int shift = 1075 - static_cast<int>(first_exponent + i);
       const std::uint64_t power = powers[static_cast<std::size_t>(digit_count - 1 - exponent)];
-      return Scaling{shift <= 53 ? power << (53 - shift) : power >> (shift - 53), exponent};
+      const std::ptrdiff_t whole = exponent + 1;
+      const std::uint64_t point_unit = whole > 0 ? std::uint64_t{1} << (whole * bits_per_digit) : 1;
+      return Scaling{shift <= 53 ? power << (53 - shift) : power >> (shift - 53), point_unit - 1,
+                     point_unit * std::uint64_t{'.'}, whole};
     };
     int exponent = first_decimal_exponent;
     std::uint64_t limit = end_bits;
@@ -70,19 +80,22 @@ constexpr auto binades = [] {
   return all;
 }();
 
-// Digits of text in a word, the first in the lowest byte.
-constexpr std::uint64_t zeros = 0x3030'3030'3030'3030U;
-constexpr unsigned bits_per_digit = 8;
+/// Splits each part of a word in two parts of half the width, the quotient and the rest of a
+/// division; the quotient becomes the lower one. One multiplication does both the rest and its
+/// place: quotient + (parts - quotient * divisor) * 2^width.
+constexpr std::uint64_t split(std::uint64_t parts, std::uint64_t quotients, std::uint64_t divisor,
+                              unsigned width) {
+  return (parts << width) - quotients * ((divisor << width) - 1U);
+}
 
 /// The eight digits of a number below 10^8 as values 0 to 9, by halves: two numbers of four digits,
-/// four of two, eight of one, each step for all parts of the word at once.
+/// four of two, eight of one.
 constexpr std::uint64_t eight_digits(std::uint64_t number) {
-  const std::uint64_t thousands = number / 10'000;
-  const std::uint64_t fours = thousands | (number - thousands * 10'000) << 32U;
+  const std::uint64_t fours = split(number, (number * 109'951'163) >> 40U, 10'000, 32);
   const std::uint64_t hundreds = ((fours * 10'486) >> 20U) & 0x0000'007F'0000'007FU;
-  const std::uint64_t twos = hundreds | (fours - hundreds * 100) << 16U;
+  const std::uint64_t twos = split(fours, hundreds, 100, 16);
   const std::uint64_t tens = ((twos * 103) >> 10U) & 0x000F'000F'000F'000FU;
-  return tens | (twos - tens * 10) << 8U;
+  return split(twos, tens, 10, bits_per_digit);
 }
 static_assert(eight_digits(12'345'678) == 0x0807'0605'0403'0201U);
 
@@ -94,8 +107,8 @@ void put(char* out, std::uint64_t eight_characters) {
 }
 
 /// Digits up to the last that is not 0, of a word whose last digits are the highest bytes.
-int digits_in_use(std::uint64_t digits) {
-  return static_cast<int>(8U - static_cast<unsigned>(std::countl_zero(digits)) / bits_per_digit);
+std::ptrdiff_t digits_in_use(std::uint64_t digits) {
+  return 8 - std::countl_zero(digits) / static_cast<int>(bits_per_digit);
 }
 
 /// \param bits of a number of the short way
@@ -103,8 +116,8 @@ char* write_short_way(char* out, std::uint64_t bits) {
   const std::uint64_t mantissa = (bits << 11U) | std::uint64_t{1} << 63U;
   const std::uint64_t magnitude = bits & ~(std::uint64_t{1} << 63U);
   const Binade& binade = binades[(magnitude >> mantissa_bits) - first_exponent];
-  const auto& [factor, exponent] = binade.scalings[magnitude >= binade.limit ? 1 : 0];
-  const Wide product = Wide{mantissa} * factor;
+  const Scaling& scaling = binade.scalings[magnitude >= binade.limit ? 1 : 0];
+  const Wide product = Wide{mantissa} * scaling.factor;
   auto number = static_cast<std::uint64_t>(product >> 64U);
   // To the nearest, ties to the even one. The rest is a multiple of 2^11, so adding 1 is safe.
   const auto rest = static_cast<std::uint64_t>(product);
@@ -114,15 +127,15 @@ char* write_short_way(char* out, std::uint64_t bits) {
   const std::uint64_t first = upper / 100'000'000;
   const std::uint64_t middle = eight_digits(upper - first * 100'000'000);
   const std::uint64_t last = eight_digits(number - upper * 100'000'000);
-  const int used = last != 0 ? 9 + digits_in_use(last) : 1 + digits_in_use(middle);
+  const std::ptrdiff_t used = last != 0 ? 9 + digits_in_use(last) : 1 + digits_in_use(middle);
 
   *out = '-';
   out += bits >> 63U;
-  if (exponent < 0) {
-    constexpr std::uint64_t zero_point_zeros = zeros ^ 0x1E00U;  // "0.000000"
-    put(out, zero_point_zeros);
-    out += 1 - exponent;
-    *out = static_cast<char>('0' + first);
+  const std::uint64_t digits = zeros | first | middle << bits_per_digit;
+  if (scaling.before_point == 0) {
+    put(out, zeros ^ 0x1E00U);  // "0.000000"
+    out += 2 - scaling.whole;
+    put(out, digits);
     put(out + 1, middle | zeros);
     put(out + 9, last | zeros);
     return out + used;
@@ -130,17 +143,12 @@ char* write_short_way(char* out, std::uint64_t bits) {
   // The digits behind the point go where they belong, then the first eight characters over them.
   put(out + 2, middle | zeros);
   put(out + 10, last | zeros);
-  const int whole = exponent + 1;
-  const auto point_at = static_cast<unsigned>(whole) * bits_per_digit;
-  const std::uint64_t digits = zeros | first | middle << bits_per_digit;
-  const std::uint64_t before = digits & ((std::uint64_t{1} << point_at) - 1U);
-  put(out, before | std::uint64_t{'.'} << point_at | (digits ^ before) << bits_per_digit);
-  return out + (used > whole ? used + 1 : whole);
+  const std::uint64_t before = digits & scaling.before_point;
+  put(out, before | scaling.point | (digits ^ before) << bits_per_digit);
+  return out + (used > scaling.whole ? used + 1 : scaling.whole);
 }
 
-}  // namespace
-
-char* write_decimal(char* out, double value) {
+char* write_number(char* out, double value) {
   const auto bits = std::bit_cast<std::uint64_t>(value);
   const std::uint64_t magnitude = bits & ~(std::uint64_t{1} << 63U);
   if (magnitude - std::bit_cast<std::uint64_t>(short_way_begin) <
@@ -156,6 +164,20 @@ char* write_decimal(char* out, double value) {
   }
   return std::to_chars(out, out + decimal_text_size, value, std::chars_format::general, digit_count)
       .ptr;
+}
+
+}  // namespace
+
+char* write_decimal(char* out, double value) {
+  return write_number(out, value);
+}
+
+char* write_coordinates(char* out, double x, double y, double z) {
+  for (const double coordinate : {x, y, z}) {
+    out = write_number(out, coordinate);
+    *out++ = ',';
+  }
+  return out;
 }
 
 }  // namespace velquon
