@@ -46,9 +46,8 @@ void generation(benchmark::State& state, std::size_t type, const ChamberValues& 
   TrackBuffer event;
   std::int64_t points = 0;
   for ([[maybe_unused]] auto _ : state) {
-    make_batch(event_types()[type], values, event, [&](const TrackBuffer& made) {
-      points += made.count;
-    });
+    make_batch(event_types()[type], values, event,
+               [&](const TrackBuffer& made) { points += made.count; });
     benchmark::ClobberMemory();
   }
   count_events(state, points);
@@ -106,9 +105,8 @@ int main(int argc, char** argv) {
                                       {"9999 MeV", {.kinetic_Mev = 9999.0F}}};
   for (std::size_t type = 0; type < event_types().size(); ++type) {
     for (const auto& [setting, values] : settings) {
-      add(name_of("make", type, setting), [type, chosen = values](benchmark::State& state) {
-        generation(state, type, chosen);
-      });
+      add(name_of("make", type, setting),
+          [type, chosen = values](benchmark::State& state) { generation(state, type, chosen); });
     }
     add(name_of("make+csv", type, settings.front().name),
         [type](benchmark::State& state) { generation_and_text(state, type, {}); });

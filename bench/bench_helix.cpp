@@ -89,8 +89,7 @@ int main(int argc, char** argv) {
   using velquon::bench::Medians;
   return velquon::bench::run_benchmarks(
       argc, argv,
-      {{"point of a long helix, times the floor", Bound::at_most, 1.15,
-        [](const Medians& medians) {
+      {{"point of a long helix, times the floor", Bound::at_most, 1.15, [](const Medians& medians) {
           return medians.of("helix", "ns/point") / medians.of("floor", "ns/point");
         }}});
 }

@@ -23,8 +23,8 @@ class KeepingReporter : public benchmark::ConsoleReporter {
       if (run.error_occurred) {
         failed_ = true;
       } else if (run.aggregate_name == "median") {
-        const std::string name = run.run_name.function_name +
-                                 (run.run_name.args.empty() ? "" : "/" + run.run_name.args);
+        const std::string name =
+            run.run_name.function_name + (run.run_name.args.empty() ? "" : "/" + run.run_name.args);
         medians_.add(name, "seconds", run.real_accumulated_time);
         for (const auto& [figure, counter] : run.counters) {
           medians_.add(name, figure, counter.value);
@@ -63,8 +63,9 @@ double Medians::of(const std::string& benchmark, const std::string& figure) cons
 std::string take_option(int& argc, char** argv, std::string_view name) {
   const std::string start = "--" + std::string(name) + "=";
   char** const end = argv + argc;
-  char** const found = std::find_if(
-      argv, end, [&](const char* argument) { return std::string_view(argument).starts_with(start); });
+  char** const found = std::find_if(argv, end, [&](const char* argument) {
+    return std::string_view(argument).starts_with(start);
+  });
   if (found == end) {
     return {};
   }

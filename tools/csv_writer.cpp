@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "tools/decimal_text.h"
+#include "tools/small_numbers.h"
 
 namespace velquon {
 
@@ -25,33 +26,9 @@ char* write_integer(char* out, Integer value) {
   return std::to_chars(out, out + 20, value).ptr;
 }
 
-/// The texts of the numbers that most points have, each with the comma behind it.
-struct SmallNumber {
-  std::array<char, 4> text;
-  std::uint8_t size;
-};
-constexpr std::size_t small_numbers_end = 1000;
-constexpr auto small_numbers = [] {
-  std::array<SmallNumber, small_numbers_end> all{};
-  for (std::size_t number = 0; number < all.size(); ++number) {
-    auto& [text, size] = all[number];
-    for (const std::size_t unit : {std::size_t{100}, std::size_t{10}, std::size_t{1}}) {
-      if (number >= unit || unit == 1) {
-        text[size++] = static_cast<char>('0' + number / unit % 10);
-      }
-    }
-    text[size++] = ',';
-  }
-  return all;
-}();
-
 char* write_point_number(char* out, std::size_t number) {
-  if (number < small_numbers_end) {
-    const auto& [text, size] = small_numbers[number];
-    std::memcpy(out, text.data(), text.size());
-    return out + size;
-  }
-  out = write_integer(out, number);
+  out = number < small_numbers_end ? write_small_number(out, small_numbers[number])
+                                   : write_integer(out, number);
   *out++ = ',';
   return out;
 }
