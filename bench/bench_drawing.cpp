@@ -104,6 +104,7 @@ int main(int argc, char** argv) {
         benchmark::RegisterBenchmark("glut", glut_passes)->Arg(350)->Arg(5000)}) {
     measured->Unit(benchmark::kMillisecond)
         ->UseRealTime()
+        ->MeasureProcessCPUTime()
         ->MinTime(shortest_time)
         ->Repetitions(repetitions)
         ->ReportAggregatesOnly();
