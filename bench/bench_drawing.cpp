@@ -40,8 +40,8 @@ void draw_passes(benchmark::State& state, DrawEvent draw_event) {
   if (glGetError() != GL_NO_ERROR) {
     state.SkipWithError("OpenGL reports an error");
   }
-  state.counters["passes/s"] = benchmark::Counter(static_cast<double>(state.iterations()),
-                                                  benchmark::Counter::kIsRate);
+  state.counters["passes/s"] =
+      benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
 }
 
 void empty_passes(benchmark::State& state) {
