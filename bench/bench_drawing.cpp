@@ -105,9 +105,7 @@ int main(int argc, char** argv) {
     measured->Unit(benchmark::kMillisecond)
         ->UseRealTime()
         ->MeasureProcessCPUTime()
-        ->MinTime(shortest_time)
-        ->Repetitions(repetitions)
-        ->ReportAggregatesOnly();
+        ->MinTime(shortest_time);
   }
   using velquon::bench::Bound;
   using velquon::bench::Medians;
@@ -115,7 +113,7 @@ int main(int argc, char** argv) {
     return medians.of(name, "passes/s");
   };
   return velquon::bench::run_benchmarks(
-      argc, argv,
+      argc, argv, repetitions,
       {{"drawing 350 points, times a cube a GLUT call", Bound::at_least, 8.0,
         [=](const Medians& m) { return rate(m, "array/350") / rate(m, "glut/350"); }},
        {"drawing 5000 points, times a cube a GLUT call", Bound::at_least, 4.0,

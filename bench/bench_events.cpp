@@ -83,9 +83,7 @@ template <typename Function>
 void add(const std::string& name, Function function) {
   benchmark::RegisterBenchmark(name.c_str(), function)
       ->Unit(benchmark::kMillisecond)
-      ->MinTime(shortest_time)
-      ->Repetitions(repetitions)
-      ->ReportAggregatesOnly();
+      ->MinTime(shortest_time);
 }
 
 std::string name_of(const std::string& what, std::size_t type, const std::string& values) {
@@ -127,5 +125,5 @@ int main(int argc, char** argv) {
            return rate(medians, "make+csv", type) / rate(medians, "make", type);
          }});
   }
-  return velquon::bench::run_benchmarks(argc, argv, requirements);
+  return velquon::bench::run_benchmarks(argc, argv, repetitions, requirements);
 }

@@ -80,15 +80,12 @@ int main(int argc, char** argv) {
   for (benchmark::internal::Benchmark* const measured :
        {benchmark::RegisterBenchmark("helix", walk),
         benchmark::RegisterBenchmark("floor", floor_of_the_walk)}) {
-    measured->Unit(benchmark::kMicrosecond)
-        ->MinTime(shortest_time)
-        ->Repetitions(repetitions)
-        ->ReportAggregatesOnly();
+    measured->Unit(benchmark::kMicrosecond)->MinTime(shortest_time);
   }
   using velquon::bench::Bound;
   using velquon::bench::Medians;
   return velquon::bench::run_benchmarks(
-      argc, argv,
+      argc, argv, repetitions,
       {{"point of a long helix, times the floor", Bound::at_most, 1.15, [](const Medians& medians) {
           return medians.of("helix", "ns/point") / medians.of("floor", "ns/point");
         }}});

@@ -102,13 +102,11 @@ int main(int argc, char** argv) {
       ->Arg(5000)
       ->Unit(benchmark::kMillisecond)
       ->UseRealTime()
-      ->Iterations(1)
-      ->Repetitions(repetitions)
-      ->ReportAggregatesOnly();
+      ->Iterations(1);
   using velquon::bench::Bound;
   using velquon::bench::Medians;
   return velquon::bench::run_benchmarks(
-      argc, argv,
+      argc, argv, repetitions,
       {{"turntable steps with 350 points, share of 200 a second", Bound::at_least, 0.95,
         [](const Medians& m) { return m.of("turn/350", "steps/s") / nominal_steps; }},
        {"turntable steps with 5000 points, share of 200 a second", Bound::at_least, 0.95,

@@ -102,11 +102,17 @@ bool report_requirements(const Medians& medians, const std::vector<Requirement>&
   return measured && (file.empty() || lines.good());
 }
 
-int run_benchmarks(int argc, char** argv, const std::vector<Requirement>& requirements) {
+int run_benchmarks(int argc, char** argv, int repetitions,
+                   const std::vector<Requirement>& requirements) {
   const std::string file = take_option(argc, argv, "requirements");
-  std::string in_random_order = "--benchmark_enable_random_interleaving=true";
   // The arguments of the command line come later and win.
-  std::vector<char*> arguments{argv[0], in_random_order.data()};
+  std::array defaults{std::string("--benchmark_enable_random_interleaving=true"),
+                      std::string("--benchmark_report_aggregates_only=true"),
+                      "--benchmark_repetitions=" + std::to_string(repetitions)};
+  std::vector<char*> arguments{argv[0]};
+  for (std::string& option : defaults) {
+    arguments.push_back(option.data());
+  }
   for (int i = 1; i < argc; ++i) {
     arguments.push_back(argv[i]);
   }

@@ -38,8 +38,10 @@ struct Requirement {
 /// machine's speed falls on all alike, and prints a line for each requirement at the end. With
 /// `--requirements=FILE` the lines are also added to FILE, fields separated by tabs: what, figure,
 /// bound, whether it holds.
+/// \param repetitions of each benchmark, unless the arguments say another number
 /// \return exit status: 0 when every figure was measured, whether or not the requirements hold
-int run_benchmarks(int argc, char** argv, const std::vector<Requirement>& requirements);
+int run_benchmarks(int argc, char** argv, int repetitions,
+                   const std::vector<Requirement>& requirements);
 
 /// Takes `--name=VALUE` out of a program's arguments.
 /// \return VALUE; empty when the option is not there
