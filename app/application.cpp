@@ -5,6 +5,7 @@
 #include "app/chamber_controller.h"
 #include "app/chamber_window.h"
 #include "app/choices.h"
+#include "app/event_documents.h"
 #include "app/menus.h"
 #include "app/projector_window.h"
 #include "chamber/chamber_view.h"
@@ -13,7 +14,7 @@
 
 namespace velquon {
 
-Application::Application(std::optional<std::uint32_t> seed)
+Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs)
     : menus_(std::make_unique<Menus>()),
       chamber_window_(std::make_unique<ChamberWindow>(seed, menus_->items())),
       projector_window_(std::make_unique<ProjectorWindow>()) {
@@ -27,7 +28,10 @@ Application::Application(std::optional<std::uint32_t> seed)
                      .chamber_area = chamber_window_->area(),
                      .projector_area = projector_window_->area(),
                      .menus = &menus_->items(),
+                     .dialogs = &dialogs,
                      .settings = chamber_window_->settings()});
+  documents_ = std::make_unique<EventDocuments>(*controller_, *chamber_window_->view(), dialogs);
+  connectDocuments();
   connectWindowMenu();
   controller_->awakeFromNib();
 }
@@ -43,6 +47,19 @@ void Application::showWindows() {
   projector_window_->move(chamber_corner + QPoint(chamber_window_->width() + gap, 0));
   projector_window_->show();
   chamber_window_->makeKeyAndOrderFront();
+}
+
+void Application::connectDocuments() {
+  const Ui::Menus& items = menus_->items();
+  EventDocuments* const documents = documents_.get();
+  on_triggered({items.open_item, items.import_item}, this, [&items, documents](QAction* sender) {
+    documents->open_event_file(sender != items.open_item);
+  });
+  on_triggered({items.save_item}, this, [documents](QAction*) { documents->save_event_file(); });
+  for (GLPanel* const window : {static_cast<GLPanel*>(chamber_window_.get()),
+                                static_cast<GLPanel*>(projector_window_.get())}) {
+    connect(window, &GLPanel::fileDropped, documents, &EventDocuments::application_openFile);
+  }
 }
 
 void Application::connectWindowMenu() {

@@ -9,8 +9,10 @@ namespace velquon {
 
 class ChamberController;
 class ChamberWindow;
+class EventDocuments;
 class Menus;
 class ProjectorWindow;
+class UserDialogs;
 
 /// The program's windows, menus and controllers, built and joined.
 class Application : public QObject {
@@ -18,8 +20,9 @@ class Application : public QObject {
 
  public:
   /// Needs the QApplication and GLUT.
-  /// \param seed seed of the random generator; without one the clock's
-  explicit Application(std::optional<std::uint32_t> seed);
+  /// \param seed    seed of the random generator; without one the clock's
+  /// \param dialogs asks and tells the user; must outlive this object
+  Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs);
   ~Application() override;
   Application(const Application&) = delete;
   Application& operator=(const Application&) = delete;
@@ -33,14 +36,17 @@ class Application : public QObject {
   [[nodiscard]] ChamberWindow& chamberWindow() { return *chamber_window_; }
   [[nodiscard]] ProjectorWindow& projectorWindow() { return *projector_window_; }
   [[nodiscard]] ChamberController& controller() { return *controller_; }
+  [[nodiscard]] EventDocuments& documents() { return *documents_; }
 
  private:
+  void connectDocuments();
   void connectWindowMenu();
 
   std::unique_ptr<Menus> menus_;
   std::unique_ptr<ChamberWindow> chamber_window_;
   std::unique_ptr<ProjectorWindow> projector_window_;
   std::unique_ptr<ChamberController> controller_;
+  std::unique_ptr<EventDocuments> documents_;
 };
 
 }  // namespace velquon
