@@ -1,11 +1,12 @@
 #include "app/application.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 
 #include "app/chamber_controller.h"
 #include "app/chamber_window.h"
 #include "app/choices.h"
 #include "app/event_documents.h"
+#include "app/guide_window.h"
 #include "app/menus.h"
 #include "app/projector_window.h"
 #include "chamber/chamber_view.h"
@@ -33,6 +34,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   documents_ = std::make_unique<EventDocuments>(*controller_, *chamber_window_->view(), dialogs);
   connectDocuments();
   connectWindowMenu();
+  connectHelpMenu();
   controller_->awakeFromNib();
 }
 
@@ -69,6 +71,22 @@ void Application::connectWindowMenu() {
   on_triggered({items.projector_window_item}, this,
                [this](QAction*) { projector_window_->makeKeyAndOrderFront(); });
   on_triggered({items.quit_item}, this, [](QAction*) { QCoreApplication::quit(); });
+}
+
+void Application::connectHelpMenu() {
+  const Ui::Menus& items = menus_->items();
+  on_triggered({items.guide_item}, this, [this](QAction*) { showGuide(); });
+  on_triggered({items.about_item}, this,
+               [](QAction*) { show_about(QApplication::activeWindow()); });
+}
+
+void Application::showGuide() {
+  if (!guide_window_) {
+    guide_window_ = std::make_unique<GuideWindow>();
+  }
+  guide_window_->show();
+  guide_window_->raise();
+  guide_window_->activateWindow();
 }
 
 }  // namespace velquon

@@ -10,6 +10,7 @@ namespace velquon {
 class ChamberController;
 class ChamberWindow;
 class EventDocuments;
+class GuideWindow;
 class Menus;
 class ProjectorWindow;
 class UserDialogs;
@@ -41,10 +42,13 @@ class Application : public QObject {
  private:
   void connectDocuments();
   void connectWindowMenu();
+  void connectHelpMenu();
+  void showGuide();
 
   std::unique_ptr<Menus> menus_;
   std::unique_ptr<ChamberWindow> chamber_window_;
   std::unique_ptr<ProjectorWindow> projector_window_;
+  std::unique_ptr<GuideWindow> guide_window_;  ///< made when first asked for
   std::unique_ptr<ChamberController> controller_;
   std::unique_ptr<EventDocuments> documents_;
 };
