@@ -9,6 +9,7 @@
 #include "app/guide_window.h"
 #include "app/menus.h"
 #include "app/projector_window.h"
+#include "app/track_window.h"
 #include "chamber/chamber_view.h"
 #include "projection/projection_view.h"
 #include "ui_menus.h"
@@ -18,9 +19,11 @@ namespace velquon {
 Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs)
     : menus_(std::make_unique<Menus>()),
       chamber_window_(std::make_unique<ChamberWindow>(seed, menus_->items())),
-      projector_window_(std::make_unique<ProjectorWindow>()) {
-  menus_->installIn(*chamber_window_);
-  menus_->installIn(*projector_window_);
+      projector_window_(std::make_unique<ProjectorWindow>()),
+      track_window_(std::make_unique<TrackWindow>(menus_->items())) {
+  for (GLPanel* const window : windows()) {
+    menus_->installIn(*window);
+  }
   controller_ = std::make_unique<ChamberController>(
       ChamberOutlets{.chamber_window = chamber_window_.get(),
                      .projector_window = projector_window_.get(),
@@ -36,6 +39,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   connectWindowMenu();
   connectHelpMenu();
   controller_->awakeFromNib();
+  track_window_->awakeFromNib();
 }
 
 Application::~Application() = default;
@@ -51,6 +55,10 @@ void Application::showWindows() {
   chamber_window_->makeKeyAndOrderFront();
 }
 
+std::array<GLPanel*, 3> Application::windows() const {
+  return {chamber_window_.get(), projector_window_.get(), track_window_.get()};
+}
+
 void Application::connectDocuments() {
   const Ui::Menus& items = menus_->items();
   EventDocuments* const documents = documents_.get();
@@ -58,8 +66,7 @@ void Application::connectDocuments() {
     documents->open_event_file(sender != items.open_item);
   });
   on_triggered({items.save_item}, this, [documents](QAction*) { documents->save_event_file(); });
-  for (GLPanel* const window : {static_cast<GLPanel*>(chamber_window_.get()),
-                                static_cast<GLPanel*>(projector_window_.get())}) {
+  for (GLPanel* const window : windows()) {
     connect(window, &GLPanel::fileDropped, documents, &EventDocuments::application_openFile);
   }
 }
