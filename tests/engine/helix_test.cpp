@@ -129,6 +129,17 @@ TEST(PathCalculation, WithASurvivalAbove0LaysAPointThenDrawsForEachStep) {
   EXPECT_EQ(slots[4], PlotPoint{}) << "nothing is written behind the end point";
 }
 
+TEST(PathCalculation, ADrawEqualToTheSurvivalIsADecay) {
+  for (const double survival : {1.0, 1000.0 / 2147483647.0}) {
+    HelixPath path = circle();
+    std::vector<PlotPoint> slots(10);
+    std::int16_t count = 0;
+    const ScriptedRand script({survival == 1.0 ? highest_draw : 1000});
+    EXPECT_EQ(path_calculation(10, count, slots, path, 4, bound, survival), TrackEnd::decayed);
+    EXPECT_EQ(count, 2);
+  }
+}
+
 TEST(PathCalculation, AfterADecayPhiIsTheCountedPointsTimesDphi) {
   HelixPath path = circle();
   std::vector<PlotPoint> slots(10);

@@ -122,6 +122,15 @@ TEST(StraightPath, SurvivesWhileTheSurvivalIsGreaterThanTheDraw) {
   EXPECT_EQ(walk.count, 3);
 }
 
+TEST(StraightPath, ADrawEqualToTheSurvivalIsADecay) {
+  // So fast a proton that its survival is 1 in double precision.
+  ParticleState particle = moving(proton, {0.0, 1e12, 0.0});
+  Walk walk;
+  const ScriptedRand script({highest_draw});
+  EXPECT_EQ(walk.run(particle), TrackEnd::decayed);
+  EXPECT_EQ(walk.count, 2);
+}
+
 TEST(StraightPath, EveryStepHasTheSameDirectionAndLengthOneStep) {
   const testing::FloatTraps traps;
   std::srand(41);
