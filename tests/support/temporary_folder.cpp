@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <cstring>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
@@ -42,7 +41,7 @@ std::string file_text(const std::filesystem::path& path) {
 std::vector<std::byte> file_bytes(const std::filesystem::path& path) {
   const std::string text = file_text(path);
   std::vector<std::byte> bytes(text.size());
-  std::memcpy(bytes.data(), text.data(), text.size());
+  std::ranges::transform(text, bytes.begin(), [](char c) { return static_cast<std::byte>(c); });
   return bytes;
 }
 
