@@ -12,7 +12,7 @@ inline constexpr int track_area_width = 490;
 inline constexpr int track_area_height = 456;
 
 /// What the user has chosen.
-struct TrackSettings {
+struct LiveTrackSettings {
   double B_field = 0.0;        ///< from the slider, signed
   double speed = 0.0;          ///< view units per step of length 1
   double charge = 0.0;         ///< -1 for the electron, +1 for the positron
@@ -43,7 +43,7 @@ class TrackSimulation {
  public:
   static constexpr std::size_t capacity = 10'000;
 
-  TrackSettings settings;
+  LiveTrackSettings settings;
 
   /// The flags that say how the next drawing is made, beside `show_points`.
   bool do_all = false;      ///< every point, not only the newest

@@ -133,7 +133,7 @@ TEST(MakeEvent, BeginsWithAnEmptiedBuffer) {
 TEST(RunChain, TakesTheFieldAsItIsGiven) {
   TrackBuffer event;
   std::srand(9);
-  ASSERT_EQ(run_chain(testing::event_type("pi-"), in_field, event), HandOver::yes);
+  ASSERT_EQ(run_chain(testing::event_type("pi-").chain, in_field, event), HandOver::yes);
   const std::vector<PlotPoint> points(event.points().begin(), event.points().end());
   EXPECT_EQ(points, seeded_event("pi+", in_field, 9));
 }

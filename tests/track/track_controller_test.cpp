@@ -23,7 +23,7 @@ TEST(TrackController, StartsInactiveWithItsDefaults) {
   EXPECT_EQ(rig.controller->v_choice(), 2);
   EXPECT_EQ(rig.controller->particle_choice(), 1);
   EXPECT_EQ(rig.controller->direction_choice(), 1);
-  const TrackSettings& settings = rig.view->simulation().settings;
+  const LiveTrackSettings& settings = rig.view->simulation().settings;
   EXPECT_EQ(settings.speed, 2.0);
   EXPECT_EQ(settings.charge, -1.0);
   EXPECT_EQ(settings.direction, 1);
@@ -73,7 +73,7 @@ TEST_P(TrackChoice, ChecksItsItemAloneAndReachesTheView) {
     for (const auto other : row.others) {
       EXPECT_FALSE((rig.*other)->isChecked());
     }
-    const TrackSettings& settings = rig.view->simulation().settings;
+    const LiveTrackSettings& settings = rig.view->simulation().settings;
     EXPECT_EQ(settings.charge, row.charge);
     EXPECT_EQ(settings.speed, row.speed);
     EXPECT_EQ(settings.direction, row.direction);
@@ -107,7 +107,7 @@ TEST(TrackController, AStrangerChoosesNothing) {
   rig.controller->setParticle(rig.v_item);
   rig.controller->setSpeed(rig.electron_item);
   rig.controller->setDirection(rig.electron_item);
-  const TrackSettings& settings = rig.view->simulation().settings;
+  const LiveTrackSettings& settings = rig.view->simulation().settings;
   EXPECT_EQ(settings.charge, 0.5) << "the charge is left alone";
   EXPECT_EQ(settings.speed, 2.0) << "the present choice is passed on again";
   EXPECT_EQ(settings.direction, 1);

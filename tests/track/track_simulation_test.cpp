@@ -20,7 +20,7 @@ constexpr TrackStart legacy{.y = 235.0, .time_interval = 0.25};
 /// A run as the view makes it, without the drawing.
 class ParticleRun {
  public:
-  explicit ParticleRun(const TrackSettings& settings, const TrackStart& start = timed_start) {
+  explicit ParticleRun(const LiveTrackSettings& settings, const TrackStart& start = timed_start) {
     simulation->settings = settings;
     simulation->launch();
     simulation->enter(start);
@@ -62,11 +62,11 @@ class ParticleRun {
   [[nodiscard]] bool drawsCleared() const { return simulation->needsClearing(); }
 };
 
-TrackSettings electron(double B_field, double speed) {
+LiveTrackSettings electron(double B_field, double speed) {
   return {.B_field = B_field, .speed = speed, .charge = -1.0, .direction = 1};
 }
 
-TrackSettings positron(double B_field, double speed) {
+LiveTrackSettings positron(double B_field, double speed) {
   return {.B_field = B_field, .speed = speed, .charge = 1.0, .direction = 1};
 }
 
@@ -100,7 +100,7 @@ struct EntryCase {
 class TrackEntry : public ::testing::TestWithParam<EntryCase> {};
 
 TEST_P(TrackEntry, IsAtMidHeightOfTheSideThatTheParticleComesFrom) {
-  TrackSettings settings = electron(0.7, 3.0);
+  LiveTrackSettings settings = electron(0.7, 3.0);
   settings.direction = GetParam().direction;
   const ParticleRun run(settings);
   EXPECT_EQ(run.x(), GetParam().x);
@@ -119,7 +119,7 @@ INSTANTIATE_TEST_SUITE_P(BothSides, TrackEntry,
 
 TEST(TrackSimulation, WithoutAFieldTheTrackIsTheLineAtMidHeight) {
   for (const std::int32_t direction : {1, 2}) {
-    TrackSettings settings = electron(0.0, 2.0);
+    LiveTrackSettings settings = electron(0.0, 2.0);
     settings.direction = direction;
     ParticleRun run(settings);
     run.finish();
