@@ -1,5 +1,6 @@
 #include "app/chamber_controller.h"
 
+#include <QFileInfo>
 #include <QMenu>
 #include <algorithm>
 #include <array>
@@ -8,6 +9,8 @@
 
 #include "app/choices.h"
 #include "app/gl_panel.h"
+#include "app/print_panel.h"
+#include "app/print_view.h"
 #include "chamber/chamber_view.h"
 #include "events/lambda_decay.h"
 #include "events/lepton_decays.h"
@@ -133,6 +136,7 @@ void ChamberController::setCurrentChamberValues() {
 void ChamberController::renameWindows(const QString& name) {
   set_title(*outlets_.chamber_window, QStringLiteral("Particle Chamber: "), name);
   set_title(*outlets_.projector_window, QStringLiteral("Projector: "), name);
+  shown_name_ = name;
 }
 
 void ChamberController::reorderWindows() {
@@ -143,6 +147,19 @@ void ChamberController::reorderWindows() {
 void ChamberController::displayViews() {
   outlets_.chamber_view->display();
   outlets_.projection_view->display();
+}
+
+void ChamberController::print() {
+  // The panel takes the keys from the view's window, and with them the choice of what is printed.
+  Printable* const view = print_view_;
+  if (view == nullptr) {
+    return;
+  }
+  GLPanel* const window = view == static_cast<Printable*>(outlets_.chamber_view)
+                              ? outlets_.chamber_window
+                              : outlets_.projector_window;
+  PrintView page(*view, window->windowTitle(), *outlets_.chamber_view);
+  PrintPanel(page, QFileInfo(shown_name_).completeBaseName(), *outlets_.dialogs, window).exec();
 }
 
 void ChamberController::set_event_type(QAction* sender) {
@@ -192,23 +209,22 @@ void ChamberController::setPrintView(Printable* view) {
   outlets_.menus->print_item->setEnabled(validateMenuItem(outlets_.menus->print_item));
 }
 
-void ChamberController::windowDidBecomeKey(const GLPanel* window) {
-  if (window == outlets_.chamber_window) {
+void ChamberController::keyWindowChanged() {
+  // A window hears that it has the keys before the other one hears that it lost them, so both look
+  // at where the keys are. The turntable runs only while the chamber's window has them.
+  if (outlets_.chamber_window->isActiveWindow()) {
     setPrintView(outlets_.chamber_view);
-  } else if (window == outlets_.projector_window) {
-    setPrintView(outlets_.projection_view);
+    return;
   }
-}
-
-void ChamberController::windowDidResignKey() {
   outlets_.chamber_view->stopRotating();
-  setPrintView(nullptr);
+  setPrintView(outlets_.projector_window->isActiveWindow() ? outlets_.projection_view : nullptr);
 }
 
 void ChamberController::connectMenus() {
   const Ui::Menus& menus = *outlets_.menus;
   ChamberView* const view = outlets_.chamber_view;
   on_triggered({menus.new_event_item}, this, [this](QAction*) { makeNewEvent(); });
+  on_triggered({menus.print_item}, this, [this](QAction*) { print(); });
   on_triggered({menus.replay_item}, this, [view](QAction*) { view->replay(); });
   on_triggered({menus.rotate_item, menus.reverse_rotate_item}, this,
                [view](QAction* sender) { view->doRotation(sender); });
@@ -233,8 +249,8 @@ void ChamberController::connectMenus() {
 
 void ChamberController::connectWindows() {
   for (GLPanel* const window : {outlets_.chamber_window, outlets_.projector_window}) {
-    connect(window, &GLPanel::becameKey, this, [this, window] { windowDidBecomeKey(window); });
-    connect(window, &GLPanel::resignedKey, this, &ChamberController::windowDidResignKey);
+    connect(window, &GLPanel::becameKey, this, &ChamberController::keyWindowChanged);
+    connect(window, &GLPanel::resignedKey, this, &ChamberController::keyWindowChanged);
   }
 }
 
