@@ -19,8 +19,8 @@ namespace {
 using namespace velquon;
 
 constexpr int batch = 1000;
-constexpr int repetitions = 9;
-constexpr double shortest_time = 0.05;  // seconds of one repetition
+constexpr int repetitions = 21;
+constexpr double shortest_time = 0.02;  // seconds of one repetition
 
 constexpr std::size_t positive_pion = 1;
 
