@@ -23,8 +23,8 @@ namespace {
 
 using namespace velquon;
 
-constexpr int repetitions = 7;
-constexpr double shortest_time = 0.2;  // seconds of one repetition
+constexpr int repetitions = 21;
+constexpr double shortest_time = 0.05;  // seconds of one repetition
 
 template <typename DrawEvent>
 void draw_passes(benchmark::State& state, DrawEvent draw_event) {
