@@ -164,7 +164,7 @@ TEST(PathCalculation, LeavesThroughEachOfTheSixWallsWithoutADrawForThePointOutsi
     return HelixPath{.radius = 0.0, .centre_x = x, .centre_y = y, .code = 3};
   };
   struct Case {
-    const char* name;
+    const char* name = "";
     HelixPath path;
   };
   Case cases[] = {{"+x", still(404.99, 0)},  {"-x", still(-404.99, 0)}, {"+y", still(0, 404.99)},
