@@ -23,9 +23,8 @@ char* write_integer(char* out, Integer value) {
 
 }  // namespace
 
-CsvWriter::CsvWriter(std::FILE* file) : file_(file) {
+CsvWriter::CsvWriter(std::FILE* file) : file_(file), buffer_("event,point,x,y,z,code\n") {
   buffer_.reserve(buffer_size);
-  buffer_ = "event,point,x,y,z,code\n";
 }
 
 std::error_code CsvWriter::write(std::uint64_t event, std::span<const PlotPoint> points) {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/event_helpers.h"
+#include "tests/support/event_making.h"
 #include "tests/tools/tool_run.h"
 
 namespace velquon {
