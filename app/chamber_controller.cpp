@@ -137,6 +137,12 @@ void ChamberController::renameWindows(const QString& name) {
 
 void ChamberController::reorderWindows() {
   GLPanel* const window = chamber_on_top_ ? outlets_.chamber_window : outlets_.projector_window;
+  makeKey(window);
+}
+
+void ChamberController::makeKey(GLPanel* window) {
+  // The desktop moves the keys some time later; what goes with them is settled at once.
+  windowDidBecomeKey(window);
   window->makeKeyAndOrderFront();
 }
 
@@ -193,6 +199,11 @@ void ChamberController::setPrintView(Printable* view) {
 }
 
 void ChamberController::windowDidBecomeKey(const GLPanel* window) {
+  // A window hears of getting the keys before the other hears of losing them.
+  if (key_window_ != window) {
+    windowDidResignKey(key_window_);
+  }
+  key_window_ = window;
   if (window == outlets_.chamber_window) {
     setPrintView(outlets_.chamber_view);
   } else if (window == outlets_.projector_window) {
@@ -200,7 +211,11 @@ void ChamberController::windowDidBecomeKey(const GLPanel* window) {
   }
 }
 
-void ChamberController::windowDidResignKey() {
+void ChamberController::windowDidResignKey(const GLPanel* window) {
+  if (window == nullptr || window != key_window_) {
+    return;
+  }
+  key_window_ = nullptr;
   outlets_.chamber_view->stopRotating();
   setPrintView(nullptr);
 }
@@ -234,8 +249,10 @@ void ChamberController::connectMenus() {
 void ChamberController::connectWindows() {
   for (GLPanel* const window : {outlets_.chamber_window, outlets_.projector_window}) {
     connect(window, &GLPanel::becameKey, this, [this, window] { windowDidBecomeKey(window); });
-    connect(window, &GLPanel::resignedKey, this, &ChamberController::windowDidResignKey);
+    connect(window, &GLPanel::resignedKey, this, [this, window] { windowDidResignKey(window); });
   }
+  connect(outlets_.chamber_view, &ChamberView::windowWanted, this,
+          [this] { makeKey(outlets_.chamber_window); });
 }
 
 }  // namespace velquon

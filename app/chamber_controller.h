@@ -85,12 +85,14 @@ class ChamberController : public QObject {
   void connectMenus();
   void connectWindows();
   void setPrintView(Printable* view);
+  void makeKey(GLPanel* window);
   void windowDidBecomeKey(const GLPanel* window);
-  void windowDidResignKey();
+  void windowDidResignKey(const GLPanel* window);
 
   ChamberOutlets outlets_;
   ChamberSettings settings_;
   bool chamber_on_top_ = true;
+  const GLPanel* key_window_ = nullptr;  ///< of the two windows the one that keys go to
   Printable* print_view_ = nullptr;
 };
 
