@@ -1,24 +1,29 @@
 #include "app/application.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 
 #include "app/chamber_controller.h"
 #include "app/chamber_window.h"
 #include "app/choices.h"
+#include "app/event_documents.h"
+#include "app/guide_window.h"
 #include "app/menus.h"
 #include "app/projector_window.h"
+#include "app/track_window.h"
 #include "chamber/chamber_view.h"
 #include "projection/projection_view.h"
 #include "ui_menus.h"
 
 namespace velquon {
 
-Application::Application(std::optional<std::uint32_t> seed)
+Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs)
     : menus_(std::make_unique<Menus>()),
       chamber_window_(std::make_unique<ChamberWindow>(seed, menus_->items())),
-      projector_window_(std::make_unique<ProjectorWindow>()) {
-  menus_->installIn(*chamber_window_);
-  menus_->installIn(*projector_window_);
+      projector_window_(std::make_unique<ProjectorWindow>()),
+      track_window_(std::make_unique<TrackWindow>(menus_->items())) {
+  for (GLPanel* const window : windows()) {
+    menus_->installIn(*window);
+  }
   controller_ = std::make_unique<ChamberController>(
       ChamberOutlets{.chamber_window = chamber_window_.get(),
                      .projector_window = projector_window_.get(),
@@ -27,9 +32,14 @@ Application::Application(std::optional<std::uint32_t> seed)
                      .chamber_area = chamber_window_->area(),
                      .projector_area = projector_window_->area(),
                      .menus = &menus_->items(),
+                     .dialogs = &dialogs,
                      .settings = chamber_window_->settings()});
+  documents_ = std::make_unique<EventDocuments>(*controller_, *chamber_window_->view(), dialogs);
+  connectDocuments();
   connectWindowMenu();
+  connectHelpMenu();
   controller_->awakeFromNib();
+  track_window_->awakeFromNib();
 }
 
 Application::~Application() = default;
@@ -45,6 +55,22 @@ void Application::showWindows() {
   chamber_window_->makeKeyAndOrderFront();
 }
 
+std::array<GLPanel*, 3> Application::windows() const {
+  return {chamber_window_.get(), projector_window_.get(), track_window_.get()};
+}
+
+void Application::connectDocuments() {
+  const Ui::Menus& items = menus_->items();
+  EventDocuments* const documents = documents_.get();
+  on_triggered({items.open_item, items.import_item}, this, [&items, documents](QAction* sender) {
+    documents->open_event_file(sender != items.open_item);
+  });
+  on_triggered({items.save_item}, this, [documents](QAction*) { documents->save_event_file(); });
+  for (GLPanel* const window : windows()) {
+    connect(window, &GLPanel::fileDropped, documents, &EventDocuments::application_openFile);
+  }
+}
+
 void Application::connectWindowMenu() {
   const Ui::Menus& items = menus_->items();
   on_triggered({items.chamber_window_item}, this,
@@ -55,6 +81,22 @@ void Application::connectWindowMenu() {
     // Not quit(): that would first ask the windows to close, and they only hide.
     QCoreApplication::exit();
   });
+}
+
+void Application::connectHelpMenu() {
+  const Ui::Menus& items = menus_->items();
+  on_triggered({items.guide_item}, this, [this](QAction*) { showGuide(); });
+  on_triggered({items.about_item}, this,
+               [](QAction*) { show_about(QApplication::activeWindow()); });
+}
+
+void Application::showGuide() {
+  if (!guide_window_) {
+    guide_window_ = std::make_unique<GuideWindow>();
+  }
+  guide_window_->show();
+  guide_window_->raise();
+  guide_window_->activateWindow();
 }
 
 }  // namespace velquon

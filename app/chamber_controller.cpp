@@ -1,5 +1,6 @@
 #include "app/chamber_controller.h"
 
+#include <QFileInfo>
 #include <QMenu>
 #include <algorithm>
 #include <array>
@@ -8,6 +9,8 @@
 
 #include "app/choices.h"
 #include "app/gl_panel.h"
+#include "app/print_panel.h"
+#include "app/print_view.h"
 #include "chamber/chamber_view.h"
 #include "events/lambda_decay.h"
 #include "events/lepton_decays.h"
@@ -133,22 +136,30 @@ void ChamberController::setCurrentChamberValues() {
 void ChamberController::renameWindows(const QString& name) {
   set_title(*outlets_.chamber_window, QStringLiteral("Particle Chamber: "), name);
   set_title(*outlets_.projector_window, QStringLiteral("Projector: "), name);
+  shown_name_ = name;
 }
 
 void ChamberController::reorderWindows() {
   GLPanel* const window = chamber_on_top_ ? outlets_.chamber_window : outlets_.projector_window;
-  makeKey(window);
-}
-
-void ChamberController::makeKey(GLPanel* window) {
-  // The desktop moves the keys some time later; what goes with them is settled at once.
-  windowDidBecomeKey(window);
   window->makeKeyAndOrderFront();
 }
 
 void ChamberController::displayViews() {
   outlets_.chamber_view->display();
   outlets_.projection_view->display();
+}
+
+void ChamberController::print() {
+  // The panel takes the keys from the view's window, and with them the choice of what is printed.
+  Printable* const view = print_view_;
+  if (view == nullptr) {
+    return;
+  }
+  GLPanel* const window = view == static_cast<Printable*>(outlets_.chamber_view)
+                              ? outlets_.chamber_window
+                              : outlets_.projector_window;
+  PrintView page(*view, window->windowTitle(), *outlets_.chamber_view);
+  PrintPanel(page, QFileInfo(shown_name_).completeBaseName(), *outlets_.dialogs, window).exec();
 }
 
 void ChamberController::set_event_type(QAction* sender) {
@@ -198,32 +209,22 @@ void ChamberController::setPrintView(Printable* view) {
   outlets_.menus->print_item->setEnabled(validateMenuItem(outlets_.menus->print_item));
 }
 
-void ChamberController::windowDidBecomeKey(const GLPanel* window) {
-  // A window hears of getting the keys before the other hears of losing them.
-  if (key_window_ != window) {
-    windowDidResignKey(key_window_);
-  }
-  key_window_ = window;
-  if (window == outlets_.chamber_window) {
+void ChamberController::keyWindowChanged() {
+  // A window hears that it has the keys before the other one hears that it lost them, so both look
+  // at where the keys are. The turntable runs only while the chamber's window has them.
+  if (outlets_.chamber_window->isActiveWindow()) {
     setPrintView(outlets_.chamber_view);
-  } else if (window == outlets_.projector_window) {
-    setPrintView(outlets_.projection_view);
-  }
-}
-
-void ChamberController::windowDidResignKey(const GLPanel* window) {
-  if (window == nullptr || window != key_window_) {
     return;
   }
-  key_window_ = nullptr;
   outlets_.chamber_view->stopRotating();
-  setPrintView(nullptr);
+  setPrintView(outlets_.projector_window->isActiveWindow() ? outlets_.projection_view : nullptr);
 }
 
 void ChamberController::connectMenus() {
   const Ui::Menus& menus = *outlets_.menus;
   ChamberView* const view = outlets_.chamber_view;
   on_triggered({menus.new_event_item}, this, [this](QAction*) { makeNewEvent(); });
+  on_triggered({menus.print_item}, this, [this](QAction*) { print(); });
   on_triggered({menus.replay_item}, this, [view](QAction*) { view->replay(); });
   on_triggered({menus.rotate_item, menus.reverse_rotate_item}, this,
                [view](QAction* sender) { view->doRotation(sender); });
@@ -248,11 +249,11 @@ void ChamberController::connectMenus() {
 
 void ChamberController::connectWindows() {
   for (GLPanel* const window : {outlets_.chamber_window, outlets_.projector_window}) {
-    connect(window, &GLPanel::becameKey, this, [this, window] { windowDidBecomeKey(window); });
-    connect(window, &GLPanel::resignedKey, this, [this, window] { windowDidResignKey(window); });
+    connect(window, &GLPanel::becameKey, this, &ChamberController::keyWindowChanged);
+    connect(window, &GLPanel::resignedKey, this, &ChamberController::keyWindowChanged);
   }
-  connect(outlets_.chamber_view, &ChamberView::windowWanted, this,
-          [this] { makeKey(outlets_.chamber_window); });
+  connect(outlets_.chamber_view, &ChamberView::windowWanted, outlets_.chamber_window,
+          &GLPanel::makeKeyAndOrderFront);
 }
 
 }  // namespace velquon

@@ -20,6 +20,7 @@ class ChamberView;
 class GLPanel;
 class Printable;
 class ProjectionView;
+class UserDialogs;
 class ViewScrollArea;
 
 /// What the controller works on; all of it must outlive the controller.
@@ -31,6 +32,7 @@ struct ChamberOutlets {
   ViewScrollArea* chamber_area = nullptr;
   ViewScrollArea* projector_area = nullptr;
   const Ui::Menus* menus = nullptr;
+  UserDialogs* dialogs = nullptr;
   ChamberSettingsOutlets settings;
 };
 
@@ -57,10 +59,14 @@ class ChamberController : public QObject {
   /// The controls of the chamber values.
   [[nodiscard]] ChamberSettings& settings() { return settings_; }
 
+  /// The name in the titles of both windows.
+  [[nodiscard]] const QString& shownName() const { return shown_name_; }
   /// Titles both windows after a name. A name too long for a title of 256 bytes ends the program.
   void renameWindows(const QString& name);
   /// Brings the window that the user wants in front there.
   void reorderWindows();
+  /// Prints the view whose window has the keys: shows the print panel.
+  void print();
   /// Draws both views.
   void displayViews();
 
@@ -85,14 +91,12 @@ class ChamberController : public QObject {
   void connectMenus();
   void connectWindows();
   void setPrintView(Printable* view);
-  void makeKey(GLPanel* window);
-  void windowDidBecomeKey(const GLPanel* window);
-  void windowDidResignKey(const GLPanel* window);
+  void keyWindowChanged();
 
   ChamberOutlets outlets_;
   ChamberSettings settings_;
+  QString shown_name_;
   bool chamber_on_top_ = true;
-  const GLPanel* key_window_ = nullptr;  ///< of the two windows the one that keys go to
   Printable* print_view_ = nullptr;
 };
 

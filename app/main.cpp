@@ -7,7 +7,9 @@
 #include "app/application.h"
 #include "app/command_line.h"
 #include "app/desktop.h"
+#include "app/event_documents.h"
 #include "app/pictures.h"
+#include "app/user_dialogs.h"
 #include "app/x_display.h"
 
 namespace {
@@ -34,10 +36,15 @@ int main(int argc, char** argv) {
   velquon::prepare_desktop();
   const QApplication qt_application(argc, argv);
   velquon::finish_desktop(argc, argv);
-  velquon::Application application(parsed.options->seed);
+  velquon::DesktopDialogs dialogs;
+  velquon::Application application(parsed.options->seed, dialogs);
   if (!parsed.options->pictures.isEmpty()) {
     return velquon::save_pictures(application, parsed.options->pictures);
   }
   application.showWindows();
+  const QString& file = parsed.options->file;
+  if (!file.isEmpty() && !application.documents().application_openFile(file)) {
+    std::fprintf(stderr, "velquon: cannot open %s\n", qPrintable(file));
+  }
   return QApplication::exec();
 }

@@ -99,7 +99,7 @@ class ChamberView : public GLView, public Printable {
   [[nodiscard]] std::string values_text() const;
 
  Q_SIGNALS:
-  /// The view's window has to come to the front and get the keys, before the signal returns.
+  /// The view's window has to come to the front and get the keys.
   void windowWanted();
 
  protected:

@@ -20,14 +20,10 @@ struct PlaneCase {
   PlotPoint (*point)(double across, double upward, double depth);
 };
 const std::array planes{
-    PlaneCase{"xy_button",
-              [](double across, double upward, double depth) {
-                return point_at(-upward, across, depth, 3);
-              }},
-    PlaneCase{"xz_button",
-              [](double across, double upward, double depth) {
-                return point_at(across, depth, upward, 4);
-              }},
+    PlaneCase{"xy_button", [](double across, double upward,
+                              double depth) { return point_at(-upward, across, depth, 3); }},
+    PlaneCase{"xz_button", [](double across, double upward,
+                              double depth) { return point_at(across, depth, upward, 4); }},
     PlaneCase{"yz_button", [](double across, double upward, double depth) {
                 return point_at(depth, across, upward, 7);
               }}};

@@ -265,8 +265,7 @@ TEST_F(TurntableTest, TurnsAtItsRates) {
     const char* item;
     double steps_per_second;
   };
-  constexpr std::array cases{Case{"rotate_faster_item", 200.0},
-                             Case{"default_rotate_item", 100.0},
+  constexpr std::array cases{Case{"rotate_faster_item", 200.0}, Case{"default_rotate_item", 100.0},
                              Case{"rotate_slower_item", 50.0}};
   choose("rotate_item");
   for (const auto& [name, steps_per_second] : cases) {

@@ -83,8 +83,8 @@ TEST_F(WindowsTest, PrintingIsPossibleFromTheStartAndGoesWithTheKeys) {
 }
 
 TEST_F(WindowsTest, PrintingIsPossibleBeforeAnyWindowHasTheKeys) {
-  const Application not_shown(fixture_seed);
-  auto& unseen = const_cast<Application&>(not_shown);
+  SilentDialogs dialogs;
+  Application unseen(fixture_seed, dialogs);
   EXPECT_NE(unseen.controller().printView(), nullptr);
   EXPECT_TRUE(item_named(unseen.chamberWindow(), QStringLiteral("print_item"))->isEnabled());
 }

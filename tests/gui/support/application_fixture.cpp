@@ -31,8 +31,21 @@ QAction* find_named(const QList<QAction*>& actions, const QString& name) {
 
 }  // namespace
 
+void SilentDialogs::alert(const QString& title, const QString& message) {
+  alerts << title + QStringLiteral(": ") + message;
+}
+
+QString SilentDialogs::fileToOpen(const QString& /*title*/, const QString& /*filter*/) {
+  return {};
+}
+
+QString SilentDialogs::fileToSave(const QString& /*title*/, const QString& /*suggestion*/,
+                                  const QString& /*filter*/, const QString& /*suffix*/) {
+  return {};
+}
+
 void ApplicationFixture::SetUp() {
-  application_ = std::make_unique<Application>(fixture_seed);
+  application_ = std::make_unique<Application>(fixture_seed, dialogs_);
   chamber_ = &control<ChamberView>("chamber_view");
   projection_ = &control<ProjectionView>("projection_view");
   application_->showWindows();
@@ -43,6 +56,7 @@ void ApplicationFixture::SetUp() {
 }
 
 void ApplicationFixture::TearDown() {
+  EXPECT_TRUE(dialogs_.alerts.isEmpty()) << dialogs_.alerts.join(QLatin1Char('\n')).toStdString();
   another_program_.reset();
   application_.reset();
 }

@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 #include <cstdint>
 #include <memory>
@@ -14,6 +15,7 @@
 #include "app/chamber_controller.h"
 #include "app/chamber_window.h"
 #include "app/projector_window.h"
+#include "app/user_dialogs.h"
 #include "chamber/chamber_view.h"
 #include "engine/event_record.h"
 #include "projection/projection_view.h"
@@ -21,6 +23,17 @@
 namespace velquon::test {
 
 inline constexpr std::uint32_t fixture_seed = 20'240'611;
+
+/// Dialogs that nobody answers: no file is chosen, and what is told is kept.
+class SilentDialogs : public UserDialogs {
+ public:
+  void alert(const QString& title, const QString& message) override;
+  QString fileToOpen(const QString& title, const QString& filter) override;
+  QString fileToSave(const QString& title, const QString& suggestion, const QString& filter,
+                     const QString& suffix) override;
+
+  QStringList alerts;
+};
 
 /// The whole program with its windows on the screen, the chamber window having the keys, as it is
 /// right after its start.
@@ -65,6 +78,7 @@ class ApplicationFixture : public testing::Test {
   void hideAxesAndValues();
 
  private:
+  SilentDialogs dialogs_;
   std::unique_ptr<Application> application_;
   std::unique_ptr<QWidget> another_program_;
   ChamberView* chamber_ = nullptr;

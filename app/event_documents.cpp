@@ -1,0 +1,114 @@
+#include "app/event_documents.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <optional>
+#include <variant>
+
+#include "app/chamber_controller.h"
+#include "app/user_dialogs.h"
+#include "chamber/chamber_view.h"
+
+namespace velquon {
+
+namespace {
+
+// No layout has a field beyond that many bytes, and what follows the last field is ignored.
+constexpr qint64 longest_event_file = 256 * 1024;
+
+/// The bytes of a regular file that a reader can want; nothing when it cannot be loaded.
+std::optional<QByteArray> load(const QString& path) {
+  QFile file(path);
+  if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+    return std::nullopt;
+  }
+  QByteArray bytes = file.read(longest_event_file);
+  if (file.error() != QFileDevice::NoError) {
+    return std::nullopt;
+  }
+  return bytes;
+}
+
+}  // namespace
+
+EventDocuments::EventDocuments(ChamberController& controller, ChamberView& chamber_view,
+                               UserDialogs& dialogs, QObject* parent)
+    : QObject(parent), controller_(controller), chamber_view_(chamber_view), dialogs_(dialogs) {}
+
+void EventDocuments::save_event_file() {
+  const auto bytes = encode_event(chamber_view_.data_ptr(), chamber_view_.current_values());
+  const QString path = dialogs_.fileToSave(tr("Save Event"), controller_.shownName(),
+                                           tr("Event files (*.cwd)"), QStringLiteral("cwd"));
+  if (path.isEmpty()) {
+    return;
+  }
+  QSaveFile file(path);
+  const auto size = static_cast<qint64>(bytes.size());
+  const bool saved = file.open(QIODevice::WriteOnly) &&
+                     file.write(reinterpret_cast<const char*>(bytes.data()), size) == size &&
+                     file.commit();
+  if (!saved) {
+    dialogs_.alert(tr("Not saved"),
+                   tr("Velquon can't write the file %1: %2.").arg(path, file.errorString()));
+    return;
+  }
+  controller_.renameWindows(QFileInfo(path).fileName());
+}
+
+void EventDocuments::open_event_file(bool importing) {
+  const QString path = importing
+                           ? dialogs_.fileToOpen(tr("Import PC Event"),
+                                                 tr("PC event files (*.cwd *.CWD *.txt *.TXT)"))
+                           : dialogs_.fileToOpen(tr("Open Event"), tr("Event files (*.cwd)"));
+  if (!path.isEmpty()) {
+    readAndDisplayFile(path);
+  }
+}
+
+bool EventDocuments::application_openFile(const QString& path) {
+  return readAndDisplayFile(path);
+}
+
+bool EventDocuments::readAndDisplayFile(const QString& path) {
+  const std::optional<QByteArray> bytes = load(path);
+  if (!bytes) {
+    return false;
+  }
+  const ReadResult result = read_event_file(
+      std::as_bytes(std::span(bytes->data(), static_cast<std::size_t>(bytes->size()))));
+  if (const auto* const refusal = std::get_if<Refusal>(&result)) {
+    tellRefusal(*refusal);
+    return false;
+  }
+  show(std::get<StoredEvent>(result), QFileInfo(path).fileName());
+  return true;
+}
+
+void EventDocuments::tellRefusal(Refusal refusal) {
+  dialogs_.alert(
+      refusal == Refusal::bad_data ? QStringLiteral("Bad data") : QStringLiteral("Wrong format"),
+      QStringLiteral("Sorry, Velquon can't read this file."));
+}
+
+void EventDocuments::show(const StoredEvent& event, const QString& name) {
+  controller_.setChamberData(event.points);
+  if (event.field_was_negative) {
+    dialogs_.alert(QStringLiteral("You should know..."),
+                   QStringLiteral("The event was created with the chamber's magnetic field set to "
+                                  "a negative value.  The controls and display will show the "
+                                  "absolute value of the field."));
+  }
+  ChamberSettings& settings = controller_.settings();
+  settings.setFieldControl(event.values.B_field);
+  settings.setSidesControl(event.values.sides_cm);
+  settings.setEnergyControl(event.values.kinetic_Mev);
+  settings.setNextChamberValues();
+  controller_.setCurrentChamberValues();
+  chamber_view_.setHasEvent(true);
+  controller_.renameWindows(name);
+  controller_.displayViews();
+  controller_.reorderWindows();
+}
+
+}  // namespace velquon

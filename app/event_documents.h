@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include "files/event_file.h"
+
+namespace velquon {
+
+class ChamberController;
+class ChamberView;
+class UserDialogs;
+
+/// Event files: asks for them, reads them into the views and writes the shown event.
+class EventDocuments : public QObject {
+  Q_OBJECT
+
+ public:
+  /// All of these must outlive this object.
+  EventDocuments(ChamberController& controller, ChamberView& chamber_view, UserDialogs& dialogs,
+                 QObject* parent = nullptr);
+
+  /// Asks for a name and writes the shown event there, whole or not at all. A failure leaves a file
+  /// of that name as it was and is told in an alert.
+  void save_event_file();
+
+  /// Asks for an event file and shows it.
+  /// \param importing offers the names that files of the PC edition have, too
+  void open_event_file(bool importing);
+
+  /// Shows an event file opened on the program's behalf: named at the start, dropped on a window.
+  /// \return whether it is shown
+  bool application_openFile(const QString& path);
+
+  /// Reads, checks and shows one event file. A refusal is told in an alert and changes nothing; a
+  /// file that cannot be loaded is left without a word. \return whether it is shown
+  bool readAndDisplayFile(const QString& path);
+
+ private:
+  void tellRefusal(Refusal refusal);
+  void show(const StoredEvent& event, const QString& name);
+
+  ChamberController& controller_;
+  ChamberView& chamber_view_;
+  UserDialogs& dialogs_;
+};
+
+}  // namespace velquon

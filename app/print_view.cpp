@@ -1,0 +1,78 @@
+#include "app/print_view.h"
+
+#include <QDateTime>
+#include <QLocale>
+#include <QPageLayout>
+#include <QPagedPaintDevice>
+#include <QPainter>
+#include <algorithm>
+
+#include "chamber/chamber_view.h"
+#include "platform/page.h"
+
+namespace velquon {
+
+namespace {
+
+// Points, 1/72 inch.
+constexpr QSizeF page_size(500.0, 720.0);
+constexpr double margin = 36.0;
+constexpr int font_size = 12;
+constexpr double line_width = 1.0;
+constexpr double points_per_inch = 72.0;
+
+constexpr QPointF date_place(0.0, 700.0);
+constexpr QPointF title_place(120.0, 675.0);
+
+QString date_text() {
+  return QLocale::c().toString(QDateTime::currentDateTime(),
+                               QStringLiteral("ddd MM/dd/yy hh:mm AP"));
+}
+
+/// Puts the origin at the page's lower left corner with y upwards and a point as the unit.
+void place_page(QPainter& painter, const QPagedPaintDevice& device) {
+  const QSizeF paper = device.pageLayout().fullRect(QPageLayout::Point).size();
+  const double fit = std::min({1.0, (paper.width() - 2.0 * margin) / page_size.width(),
+                               (paper.height() - 2.0 * margin) / page_size.height()});
+  const QPointF paint_origin = device.pageLayout().paintRect(QPageLayout::Point).topLeft();
+  painter.scale(device.logicalDpiX() / points_per_inch, device.logicalDpiY() / points_per_inch);
+  painter.translate(-paint_origin);
+  painter.translate((paper.width() - fit * page_size.width()) / 2.0,
+                    (paper.height() + fit * page_size.height()) / 2.0);
+  painter.scale(fit, -fit);
+  painter.setClipRect(QRectF(QPointF(0.0, 0.0), page_size));
+}
+
+}  // namespace
+
+PrintView::PrintView(Printable& pview, const QString& title, ChamberView& chamber_view)
+    : pview_(pview), title_(title), chamber_view_(chamber_view) {}
+
+bool PrintView::print(QPagedPaintDevice& device) {
+  QPainter page;
+  if (!page.begin(&device)) {
+    return false;
+  }
+  place_page(page, device);
+  QFont font = page.font();
+  font.setPixelSize(font_size);
+  page.setFont(font);
+  page.setPen(QPen(Qt::black, line_width));
+  drawRect(page);
+  return page.end();
+}
+
+void PrintView::drawRect(QPainter& page) {
+  print_text(page, date_place, date_text());
+  print_text(page, title_place, title_);
+  pview_.setPrinting(&page);
+  pview_.printRect();
+  pview_.setPrinting(nullptr);
+  if (&pview_ != static_cast<Printable*>(&chamber_view_)) {
+    chamber_view_.setPrinting(&page);
+    chamber_view_.drawValues();
+    chamber_view_.setPrinting(nullptr);
+  }
+}
+
+}  // namespace velquon

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QSizeF>
+#include <QString>
+
+class QPagedPaintDevice;
+class QPainter;
+
+namespace velquon {
+
+class ChamberView;
+class Printable;
+
+/// The printed page: date and time, title and chamber values above the picture of a view.
+class PrintView {
+ public:
+  /// \param pview        the view to print
+  /// \param title        the title of its window
+  /// \param chamber_view where the values line comes from
+  PrintView(Printable& pview, const QString& title, ChamberView& chamber_view);
+
+  /// Draws the page in the middle of the device's paper, at its own size where that fits with
+  /// margins of 36 points. \return whether the device could be drawn on
+  bool print(QPagedPaintDevice& device);
+
+ private:
+  void drawRect(QPainter& page);
+
+  Printable& pview_;
+  QString title_;
+  ChamberView& chamber_view_;
+};
+
+}  // namespace velquon

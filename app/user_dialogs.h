@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QWidget;
+
+namespace velquon {
+
+/// What the program asks the user and tells him. The tests answer in his place.
+class UserDialogs {
+ public:
+  UserDialogs() = default;
+  UserDialogs(const UserDialogs&) = delete;
+  UserDialogs& operator=(const UserDialogs&) = delete;
+  UserDialogs(UserDialogs&&) = delete;
+  UserDialogs& operator=(UserDialogs&&) = delete;
+  virtual ~UserDialogs() = default;
+
+  /// Tells something and waits for the single button "OK".
+  virtual void alert(const QString& title, const QString& message) = 0;
+
+  /// Asks for a file to open.
+  /// \param filter kinds of files offered, as "Name (*.one *.two)"; upper and lower case differ
+  /// \return its path, or empty when the user gives up
+  virtual QString fileToOpen(const QString& title, const QString& filter) = 0;
+
+  /// Asks for the name of a file to save, and once whether an existing one may be overwritten.
+  /// \param suggestion name offered
+  /// \param suffix     ending that the name gets when the user leaves it out, without the dot
+  /// \return its path, or empty when the user gives up
+  virtual QString fileToSave(const QString& title, const QString& suggestion, const QString& filter,
+                             const QString& suffix) = 0;
+};
+
+/// The desktop's own dialogs.
+class DesktopDialogs : public UserDialogs {
+ public:
+  void alert(const QString& title, const QString& message) override;
+  QString fileToOpen(const QString& title, const QString& filter) override;
+  QString fileToSave(const QString& title, const QString& suggestion, const QString& filter,
+                     const QString& suffix) override;
+};
+
+}  // namespace velquon
