@@ -77,7 +77,10 @@ void Application::connectWindowMenu() {
                [this](QAction*) { chamber_window_->makeKeyAndOrderFront(); });
   on_triggered({items.projector_window_item}, this,
                [this](QAction*) { projector_window_->makeKeyAndOrderFront(); });
-  on_triggered({items.quit_item}, this, [](QAction*) { QCoreApplication::quit(); });
+  on_triggered({items.quit_item}, this, [](QAction*) {
+    // Not quit(): that would first ask the windows to close, and they only hide.
+    QCoreApplication::exit();
+  });
 }
 
 void Application::connectHelpMenu() {
