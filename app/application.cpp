@@ -47,8 +47,9 @@ Application::~Application() = default;
 void Application::showWindows() {
   constexpr QPoint chamber_corner(20, 20);
   constexpr int gap = 16;
-  chamber_window_->adjustSize();
-  projector_window_->adjustSize();
+  // adjustSize would leave a third of the screen free and cut the pictures on a low one.
+  chamber_window_->resize(chamber_window_->sizeHint());
+  projector_window_->resize(projector_window_->sizeHint());
   chamber_window_->move(chamber_corner);
   projector_window_->move(chamber_corner + QPoint(chamber_window_->width() + gap, 0));
   projector_window_->show();

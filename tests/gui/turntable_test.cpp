@@ -61,11 +61,13 @@ class TurntableTest : public ApplicationFixture {
     run_loop_for(80);
     EXPECT_EQ(chamber().rotation_steps(), steps);
   }
+  static constexpr double tolerance = 0.05;
+
   /// Expects steps a second over two seconds, in the best of some attempts: a machine that is busy
   /// with other things has no time for the steps.
   void expectRate(double nominal) {
     double nearest = 0.0;
-    for (int attempt = 0; attempt < 5; ++attempt) {
+    for (int attempt = 0; attempt < 3; ++attempt) {
       const double rate = measuredRate();
       if (std::fabs(rate - nominal) < std::fabs(nearest - nominal)) {
         nearest = rate;
@@ -79,9 +81,6 @@ class TurntableTest : public ApplicationFixture {
     }
     EXPECT_NEAR(nearest, nominal, tolerance * nominal);
   }
-
- private:
-  static constexpr double tolerance = 0.05;
 
   [[nodiscard]] double measuredRate() {
     EXPECT_TRUE(waitForSteps(1));
@@ -161,7 +160,7 @@ TEST_F(TurntableTest, ReversingTurnsBackWithoutASecondChain) {
   // Chosen again and again it starts nothing more.
   choose("reverse_rotate_item");
   choose("reverse_rotate_item");
-  expectRate(100.0);
+  EXPECT_LT(measuredRate(), 110.0);
   chamber().stopRotating();
   const auto back = static_cast<double>(chamber().rotation_steps()) - forward;
   expectMarksSeenBy(resting_camera().turned((forward - back) * degrees_per_step, along_x));

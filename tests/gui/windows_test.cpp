@@ -44,6 +44,10 @@ TEST_F(WindowsTest, BothAreEmptyAtStart) {
   EXPECT_FALSE(chamber().has_event());
   EXPECT_EQ(chamber().point_number(), 0);
   EXPECT_TRUE(chamber().data_ptr().empty());
+}
+
+TEST_F(WindowsTest, BothShowTheirWholeViewAtStart) {
+  // Also on a screen that leaves them little room.
   EXPECT_EQ(chamber().size(), QSize(682, 500));
   EXPECT_EQ(projection().size(), QSize(470, 420));
 }
