@@ -1,0 +1,27 @@
+// Runs the tests in a program set up as the desktop program is.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <cstdio>
+
+#include "app/desktop.h"
+#include "app/x_display.h"
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  if (const std::string missing = velquon::missing_for_windows(); !missing.empty()) {
+    std::fprintf(stderr, "%s; run under scripts/with-display\n", missing.c_str());
+    return 1;
+  }
+  velquon::prepare_desktop();
+  const QApplication qt_application(argc, argv);
+  velquon::finish_desktop(argc, argv);
+  const int result = RUN_ALL_TESTS();
+  if (testing::UnitTest::GetInstance()->test_to_run_count() == 0 &&
+      !testing::GTEST_FLAG(list_tests)) {
+    std::fputs("the filter leaves no test to run\n", stderr);
+    return 1;
+  }
+  return result;
+}
