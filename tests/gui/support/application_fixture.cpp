@@ -32,7 +32,7 @@ QAction* find_named(const QList<QAction*>& actions, const QString& name) {
 }  // namespace
 
 void ApplicationFixture::SetUp() {
-  application_ = std::make_unique<Application>(fixture_seed);
+  application_ = std::make_unique<Application>(fixture_seed, dialogs());
   chamber_ = &control<ChamberView>("chamber_view");
   projection_ = &control<ProjectionView>("projection_view");
   application_->showWindows();

@@ -14,6 +14,7 @@
 #include "app/chamber_controller.h"
 #include "app/chamber_window.h"
 #include "app/projector_window.h"
+#include "app/user_dialogs.h"
 #include "chamber/chamber_view.h"
 #include "engine/event_record.h"
 #include "projection/projection_view.h"
@@ -64,7 +65,13 @@ class ApplicationFixture : public testing::Test {
   /// Shows neither axes nor values, so that what is left of these colours belongs to points.
   void hideAxesAndValues();
 
+  [[nodiscard]] Application& application() { return *application_; }
+  /// Asks and tells the user, from the program's start on; the desktop's own unless a suite has
+  /// someone to answer in his place.
+  [[nodiscard]] virtual UserDialogs& dialogs() { return desktop_dialogs_; }
+
  private:
+  DesktopDialogs desktop_dialogs_;
   std::unique_ptr<Application> application_;
   std::unique_ptr<QWidget> another_program_;
   ChamberView* chamber_ = nullptr;
