@@ -19,7 +19,7 @@ constexpr double picture_height = 500.0;
 constexpr QPointF page_offset{-80.0, 120.0};
 constexpr PaperColor ink{0.0, 0.0, 0.0};
 
-class ChamberPage : public DocumentsFixture {
+class ChamberPageTest : public DocumentsFixture {
  protected:
   void openEvent(const std::vector<PlotPoint>& points) {
     const QString file = write(QStringLiteral("event.cwd"), event_file(points));
@@ -116,7 +116,7 @@ bool belongs_to(const PaperLine& line, const std::vector<Edge>& edges, const Pap
                              [&](const Edge& edge) { return runs_along(line, edge, paper); });
 }
 
-TEST_F(ChamberPage, is_on_the_paper_chosen_with_each_point_in_its_place) {
+TEST_F(ChamberPageTest, IsOnThePaperChosenWithEachPointInItsPlace) {
   const std::vector<PlotPoint> points = spiral(350);
   openEvent(points);
   for (const Paper& paper : {a4, letter}) {
@@ -127,7 +127,7 @@ TEST_F(ChamberPage, is_on_the_paper_chosen_with_each_point_in_its_place) {
   }
 }
 
-TEST_F(ChamberPage, has_the_chamber_its_axes_and_its_middle_plane_as_lines_of_one_colour) {
+TEST_F(ChamberPageTest, HasTheChamberItsAxesAndItsMiddlePlaneAsLinesOfOneColour) {
   openEvent({point_at(0, 0, 0, 3)});
   for (const Paper& paper : {a4, letter}) {
     SCOPED_TRACE(paper.size.width());
@@ -144,7 +144,7 @@ TEST_F(ChamberPage, has_the_chamber_its_axes_and_its_middle_plane_as_lines_of_on
   }
 }
 
-TEST_F(ChamberPage, leaves_the_axes_out_when_they_are_not_shown) {
+TEST_F(ChamberPageTest, LeavesTheAxesOutWhenTheyAreNotShown) {
   openEvent({point_at(0, 0, 0, 3)});
   chamber().set_show_axes(false);
   const PdfPage page = print();
@@ -153,19 +153,19 @@ TEST_F(ChamberPage, leaves_the_axes_out_when_they_are_not_shown) {
   EXPECT_EQ(printed_edges(page, middle_plane(), a4), 4U);
 }
 
-TEST_F(ChamberPage, has_its_lines_without_an_event) {
+TEST_F(ChamberPageTest, HasItsLinesWithoutAnEvent) {
   const PdfPage page = print();
   EXPECT_TRUE(page.rectangles.empty());
   EXPECT_EQ(printed_edges(page, cube_edges(), a4), 12U);
 }
 
-TEST_F(ChamberPage, holds_the_largest_event) {
+TEST_F(ChamberPageTest, HoldsTheLargestEvent) {
   const std::vector<PlotPoint> points = spiral(5000);
   openEvent(points);
   expect_cubes(print(), points, resting_camera(), a4);
 }
 
-TEST_F(ChamberPage, leaves_out_points_that_are_not_in_the_picture) {
+TEST_F(ChamberPageTest, LeavesOutPointsThatAreNotInThePicture) {
   const PlotPoint near_point = point_at(10, 20, 30, 4);
   const PlotPoint far_point = point_at(-50, 0, 200, 5);
   // Far to the side, behind the eye, and beyond the far plane.
@@ -174,7 +174,7 @@ TEST_F(ChamberPage, leaves_out_points_that_are_not_in_the_picture) {
   expect_cubes(print(), {near_point, far_point}, resting_camera(), a4);
 }
 
-TEST_F(ChamberPage, leaves_out_points_that_are_nowhere) {
+TEST_F(ChamberPageTest, LeavesOutPointsThatAreNowhere) {
   const double nan = std::numeric_limits<double>::quiet_NaN();
   const double infinity = std::numeric_limits<double>::infinity();
   const PlotPoint somewhere = point_at(10, 20, 30, 4);
@@ -186,7 +186,7 @@ TEST_F(ChamberPage, leaves_out_points_that_are_nowhere) {
   expect_cubes(page, {somewhere}, resting_camera(), a4);
 }
 
-TEST_F(ChamberPage, shows_the_chamber_as_it_is_turned) {
+TEST_F(ChamberPageTest, ShowsTheChamberAsItIsTurned) {
   const std::vector<PlotPoint> points = spiral(100);
   openEvent(points);
   choose("rotate_item");
@@ -196,7 +196,7 @@ TEST_F(ChamberPage, shows_the_chamber_as_it_is_turned) {
   expect_cubes(print(), points, resting_camera().turned(degrees, along_x), a4);
 }
 
-TEST_F(ChamberPage, does_not_follow_the_scroll_bars) {
+TEST_F(ChamberPageTest, DoesNotFollowTheScrollBars) {
   const std::vector<PlotPoint> points = spiral(50);
   openEvent(points);
   chamberWindow().resize(450, 450);
@@ -206,7 +206,7 @@ TEST_F(ChamberPage, does_not_follow_the_scroll_bars) {
   expect_cubes(print(), points, resting_camera(), a4);
 }
 
-TEST_F(ChamberPage, is_the_same_when_printed_again) {
+TEST_F(ChamberPageTest, IsTheSameWhenPrintedAgain) {
   openEvent(spiral(200));
   const PdfPage first = print();
   const PdfPage second = print();
@@ -221,7 +221,7 @@ TEST_F(ChamberPage, is_the_same_when_printed_again) {
   }
 }
 
-TEST_F(ChamberPage, leaves_the_screen_as_it_was) {
+TEST_F(ChamberPageTest, LeavesTheScreenAsItWas) {
   makeEvent(5);
   const Shown before = shown();
   print();
@@ -233,7 +233,7 @@ TEST_F(ChamberPage, leaves_the_screen_as_it_was) {
   EXPECT_EQ(differences(before, shown()), "");
 }
 
-TEST_F(ChamberPage, can_be_printed_while_its_window_is_hidden) {
+TEST_F(ChamberPageTest, CanBePrintedWhileItsWindowIsHidden) {
   const std::vector<PlotPoint> points = spiral(50);
   openEvent(points);
   chamberWindow().close();

@@ -20,14 +20,14 @@ constexpr auto bitmap = static_cast<float>(GL_BITMAP_TOKEN);
 constexpr float not_a_number = std::numeric_limits<float>::quiet_NaN();
 constexpr float infinite = std::numeric_limits<float>::infinity();
 
-TEST(Feedback, a_buffer_has_room_for_the_lines_and_six_faces_a_point) {
+TEST(FeedbackTest, ABufferHasRoomForTheLinesAndSixFacesAPoint) {
   EXPECT_EQ(feedback_buffer_size(0), 217);
   EXPECT_EQ(feedback_buffer_size(1), 301);
   EXPECT_EQ(feedback_buffer_size(10), 1057);
   EXPECT_EQ(feedback_buffer_size(5000), 420217);
 }
 
-TEST(Feedback, lines_keep_their_ends_and_lose_their_depth) {
+TEST(FeedbackTest, LinesKeepTheirEndsAndLoseTheirDepth) {
   const FeedbackPicture picture =
       read_feedback({line_reset, 10, 20, 0.5F, 30, 40, 0.6F, line, 30, 40, 0.6F, 50, 60, 0.7F});
   ASSERT_EQ(picture.lines.size(), 2U);
@@ -36,7 +36,7 @@ TEST(Feedback, lines_keep_their_ends_and_lose_their_depth) {
   EXPECT_TRUE(picture.cubes.empty());
 }
 
-TEST(Feedback, the_polygons_behind_a_mark_are_one_cube) {
+TEST(FeedbackTest, ThePolygonsBehindAMarkAreOneCube) {
   const FeedbackPicture picture = read_feedback({mark, 1,                                   //
                                                  polygon, 3, 1, 2, 0, 4, 3, 0, 2, 9, 0,     //
                                                  polygon, 4, 0, 5, 0, 3, 3, 0, 7, 4, 0, 2, 2, 0});
@@ -44,7 +44,7 @@ TEST(Feedback, the_polygons_behind_a_mark_are_one_cube) {
   EXPECT_EQ(picture.cubes[0], QRectF(QPointF(0, 2), QPointF(7, 9)));
 }
 
-TEST(Feedback, each_mark_begins_a_cube_of_its_own) {
+TEST(FeedbackTest, EachMarkBeginsACubeOfItsOwn) {
   const FeedbackPicture picture =
       read_feedback({mark, 1, polygon, 3, 1, 1, 0, 2, 1, 0, 2, 3, 0,  //
                      mark, 1,                                         // clipped away
@@ -54,7 +54,7 @@ TEST(Feedback, each_mark_begins_a_cube_of_its_own) {
   EXPECT_EQ(picture.cubes[1], QRectF(QPointF(5, 5), QPointF(6, 8)));
 }
 
-TEST(Feedback, what_is_neither_line_nor_polygon_is_passed_over) {
+TEST(FeedbackTest, WhatIsNeitherLineNorPolygonIsPassedOver) {
   // The values of a point or a bitmap may look like tokens.
   const FeedbackPicture picture = read_feedback({point, line, polygon, mark, bitmap, line, 1, 2,  //
                                                  0, 0, 17, line, 1, 2, 0, 3, 4, 0});
@@ -68,16 +68,16 @@ struct HostileStream {
   std::vector<float> values;
 };
 
-class HostileFeedback : public testing::TestWithParam<HostileStream> {};
+class HostileFeedbackTest : public testing::TestWithParam<HostileStream> {};
 
-TEST_P(HostileFeedback, ends_without_a_line_or_a_cube) {
+TEST_P(HostileFeedbackTest, EndsWithoutALineOrACube) {
   const FeedbackPicture picture = read_feedback(GetParam().values);
   EXPECT_TRUE(picture.lines.empty());
   EXPECT_TRUE(picture.cubes.empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Streams, HostileFeedback,
+    Streams, HostileFeedbackTest,
     testing::Values(HostileStream{"empty", {}},  //
                     HostileStream{"zeros", std::vector<float>(217, 0.0F)},
                     HostileStream{"line_cut_in_its_end", {line, 1, 2, 0, 3, 4}},
@@ -101,7 +101,7 @@ INSTANTIATE_TEST_SUITE_P(
                                    not_a_number, 3, 0}}),
     [](const auto& tested) { return tested.param.name; });
 
-TEST(Feedback, a_stream_of_huge_counts_is_read_at_once) {
+TEST(FeedbackTest, AStreamOfHugeCountsIsReadAtOnce) {
   std::vector<float> values;
   for (int i = 0; i < 1000; ++i) {
     values.insert(values.end(), {mark, 1, polygon, 2.0e9F, 1, 1, 0});
@@ -111,7 +111,7 @@ TEST(Feedback, a_stream_of_huge_counts_is_read_at_once) {
   EXPECT_LE(picture.cubes.size(), 1U);
 }
 
-TEST(Feedback, a_polygon_that_is_cut_off_counts_as_far_as_it_goes) {
+TEST(FeedbackTest, APolygonThatIsCutOffCountsAsFarAsItGoes) {
   const FeedbackPicture picture =
       read_feedback({mark, 1, polygon, 4, 1, 2, 0, 3, 8, 0, 100});
   ASSERT_EQ(picture.cubes.size(), 1U);

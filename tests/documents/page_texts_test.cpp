@@ -28,7 +28,7 @@ QString date_text(const QDateTime& time) {
                                  time.time().minute(), hour < 12 ? "AM" : "PM");
 }
 
-class PageTexts : public DocumentsFixture {
+class PageTextsTest : public DocumentsFixture {
  protected:
   void openEvent() {
     const QString file = write(QStringLiteral("event.cwd"), event_file(spiral(3)));
@@ -52,7 +52,7 @@ QPointF start_of_line(const std::vector<PaperWord>& words, const Paper& paper, d
   return first == words.end() ? QPointF() : first->corner - paper.origin;
 }
 
-TEST_F(PageTexts, are_the_date_the_title_and_the_values_at_their_places) {
+TEST_F(PageTextsTest, AreTheDateTheTitleAndTheValuesAtTheirPlaces) {
   openEvent();
   for (Printable* const view : {static_cast<Printable*>(&chamber()),
                                 static_cast<Printable*>(&projection())}) {
@@ -73,12 +73,12 @@ TEST_F(PageTexts, are_the_date_the_title_and_the_values_at_their_places) {
   }
 }
 
-TEST_F(PageTexts, have_no_values_without_an_event) {
+TEST_F(PageTextsTest, HaveNoValuesWithoutAnEvent) {
   EXPECT_EQ(valuesLine(chamber()), QString());
   EXPECT_EQ(valuesLine(projection()), QString());
 }
 
-TEST_F(PageTexts, have_the_values_on_the_chamber_page_only_when_they_are_shown) {
+TEST_F(PageTextsTest, HaveTheValuesOnTheChamberPageOnlyWhenTheyAreShown) {
   openEvent();
   chamber().set_show_values(false);
   EXPECT_EQ(valuesLine(chamber()), QString());
@@ -87,7 +87,7 @@ TEST_F(PageTexts, have_the_values_on_the_chamber_page_only_when_they_are_shown) 
   EXPECT_EQ(valuesLine(chamber()), values_line);
 }
 
-TEST_F(PageTexts, have_no_values_on_the_chamber_page_while_it_turns) {
+TEST_F(PageTextsTest, HaveNoValuesOnTheChamberPageWhileItTurns) {
   openEvent();
   choose("rotate_item");
   ASSERT_TRUE(wait_until([this] { return chamber().rotation_steps() > 0; }));
@@ -97,7 +97,7 @@ TEST_F(PageTexts, have_no_values_on_the_chamber_page_while_it_turns) {
   EXPECT_EQ(valuesLine(chamber()), values_line);
 }
 
-TEST_F(PageTexts, have_the_values_of_the_shown_event_not_of_the_controls) {
+TEST_F(PageTextsTest, HaveTheValuesOfTheShownEventNotOfTheControls) {
   openEvent();
   controller().settings().setFieldControl(7.5F);
   EXPECT_EQ(valuesLine(chamber()), values_line);

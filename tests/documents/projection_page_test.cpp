@@ -16,7 +16,7 @@ namespace {
 constexpr QPointF page_offset{20.0, 100.0};
 constexpr PaperColor ink{0.0, 0.0, 0.0};
 
-class ProjectionPage : public DocumentsFixture {
+class ProjectionPageTest : public DocumentsFixture {
  protected:
   void openEvent(const std::vector<PlotPoint>& points) {
     const QString file = write(QStringLiteral("event.cwd"), event_file(points));
@@ -75,7 +75,7 @@ void expect_frame(const PdfPage& page, QPointF low, QPointF high) {
   }
 }
 
-TEST_F(ProjectionPage, has_a_gray_frame_and_a_square_for_each_point_on_either_paper) {
+TEST_F(ProjectionPageTest, HasAGrayFrameAndASquareForEachPointOnEitherPaper) {
   const std::vector<PlotPoint> points = spiral(350);
   openEvent(points);
   const double height = projection().height();
@@ -95,7 +95,7 @@ TEST_F(ProjectionPage, has_a_gray_frame_and_a_square_for_each_point_on_either_pa
   }
 }
 
-TEST_F(ProjectionPage, shows_the_plane_that_is_chosen) {
+TEST_F(ProjectionPageTest, ShowsThePlaneThatIsChosen) {
   openEvent({point_at(100, 50, -20, 3)});
   const double height = projection().height();
   clickButton("xz_button");
@@ -106,7 +106,7 @@ TEST_F(ProjectionPage, shows_the_plane_that_is_chosen) {
   expect_squares(print(), {on_paper({}, 50, -100, height, a4)});
 }
 
-TEST_F(ProjectionPage, shows_the_zoom_that_is_chosen) {
+TEST_F(ProjectionPageTest, ShowsTheZoomThatIsChosen) {
   openEvent({point_at(100, 50, -20, 3)});
   const double height = projection().height();
   clickButton("zoom_2");
@@ -118,7 +118,7 @@ TEST_F(ProjectionPage, shows_the_zoom_that_is_chosen) {
   expect_squares(print(), {on_paper({.zoom = 3.0}, 50, -100, height, a4)});
 }
 
-TEST_F(ProjectionPage, shows_the_picture_where_it_was_dragged) {
+TEST_F(ProjectionPageTest, ShowsThePictureWhereItWasDragged) {
   openEvent({point_at(100, 50, -20, 3)});
   const double height = projection().height();
   clickButton("grab_tool");
@@ -127,7 +127,7 @@ TEST_F(ProjectionPage, shows_the_picture_where_it_was_dragged) {
   expect_squares(print(), {on_paper({.across = 500.0, .up = 400.0}, 50, -100, height, a4)});
 }
 
-TEST_F(ProjectionPage, has_the_tape_when_it_is_on_the_screen) {
+TEST_F(ProjectionPageTest, HasTheTapeWhenItIsOnTheScreen) {
   openEvent({point_at(100, 50, -20, 3)});
   const double height = projection().height();
   clickButton("tape_tool");
@@ -145,13 +145,13 @@ TEST_F(ProjectionPage, has_the_tape_when_it_is_on_the_screen) {
   EXPECT_EQ(print().lines.size(), 4U);
 }
 
-TEST_F(ProjectionPage, has_only_its_frame_without_an_event) {
+TEST_F(ProjectionPageTest, HasOnlyItsFrameWithoutAnEvent) {
   const PdfPage page = print();
   EXPECT_TRUE(page.rectangles.empty());
   EXPECT_EQ(page.lines.size(), 4U);
 }
 
-TEST_F(ProjectionPage, leaves_out_points_that_are_nowhere) {
+TEST_F(ProjectionPageTest, LeavesOutPointsThatAreNowhere) {
   const double nan = std::numeric_limits<double>::quiet_NaN();
   const double infinity = std::numeric_limits<double>::infinity();
   openEvent({point_at(nan, 0, 0, 3), point_at(0, nan, 0, 3), point_at(infinity, 0, 0, 3),
@@ -163,7 +163,7 @@ TEST_F(ProjectionPage, leaves_out_points_that_are_nowhere) {
   expect_squares(page, {on_paper({}, 50, -100, projection().height(), a4)});
 }
 
-TEST_F(ProjectionPage, does_not_follow_the_scroll_bars) {
+TEST_F(ProjectionPageTest, DoesNotFollowTheScrollBars) {
   openEvent({point_at(100, 50, -20, 3)});
   projectorWindow().resize(projectorWindow().width(), 320);
   auto* const bar = projectorWindow().area()->verticalScrollBar();
@@ -174,7 +174,7 @@ TEST_F(ProjectionPage, does_not_follow_the_scroll_bars) {
   expect_squares(print(), {on_paper({}, 50, -100, document_height, a4)});
 }
 
-TEST_F(ProjectionPage, is_the_same_when_printed_again) {
+TEST_F(ProjectionPageTest, IsTheSameWhenPrintedAgain) {
   openEvent(spiral(200));
   const PdfPage first = print();
   const PdfPage second = print();
@@ -184,7 +184,7 @@ TEST_F(ProjectionPage, is_the_same_when_printed_again) {
   }
 }
 
-TEST_F(ProjectionPage, leaves_the_screen_as_it_was) {
+TEST_F(ProjectionPageTest, LeavesTheScreenAsItWas) {
   makeEvent(2);
   const Shown before = shown();
   print();

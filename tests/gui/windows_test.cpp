@@ -83,7 +83,7 @@ TEST_F(WindowsTest, PrintingIsPossibleFromTheStartAndGoesWithTheKeys) {
 }
 
 TEST_F(WindowsTest, PrintingIsPossibleBeforeAnyWindowHasTheKeys) {
-  const Application not_shown(fixture_seed);
+  const Application not_shown(fixture_seed, dialogs());
   auto& unseen = const_cast<Application&>(not_shown);
   EXPECT_NE(unseen.controller().printView(), nullptr);
   EXPECT_TRUE(item_named(unseen.chamberWindow(), QStringLiteral("print_item"))->isEnabled());
