@@ -56,11 +56,13 @@ ReadResult read_event_layout(std::span<const std::byte> bytes) {
     return Refusal::bad_data;
   }
   const auto trailer = bytes.subspan(trailer_offset(count), trailer_size);
+  const double energy = big_endian_double(trailer, energy_slot);
   StoredEvent event;
   event.values = {.B_field = static_cast<float>(big_endian_double(trailer, field_slot)),
                   .sides_cm = static_cast<float>(big_endian_double(trailer, side_slot)),
-                  .kinetic_Mev = static_cast<float>(big_endian_double(trailer, energy_slot))};
-  if (!is_chamber_possible(event.values)) {
+                  .kinetic_Mev = static_cast<float>(energy)};
+  // A tiny negative energy is a zero in single precision.
+  if (energy < 0.0 || !is_chamber_possible(event.values)) {
     return Refusal::bad_data;
   }
   event.points.reserve(count);

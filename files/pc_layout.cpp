@@ -48,13 +48,15 @@ ReadResult read_pc_layout(std::size_t tag_length, std::span<const std::byte> byt
     return Refusal::bad_data;
   }
   const double field = little_endian_double(body, field_offset);
+  const double energy = little_endian_double(body, energy_offset);
   StoredEvent event;
   event.field_was_negative = field < 0.0;
   event.values = {
       .B_field = static_cast<float>(event.field_was_negative ? std::fabs(field) : field),
       .sides_cm = static_cast<float>(little_endian_double(body, side_offset)),
-      .kinetic_Mev = static_cast<float>(little_endian_double(body, energy_offset))};
-  if (!is_chamber_possible(event.values)) {
+      .kinetic_Mev = static_cast<float>(energy)};
+  // A tiny negative energy is a zero in single precision.
+  if (energy < 0.0 || !is_chamber_possible(event.values)) {
     return Refusal::bad_data;
   }
   event.points.resize(points);
