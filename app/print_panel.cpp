@@ -12,11 +12,11 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QVBoxLayout>
 
 #include "app/print_view.h"
 #include "app/user_dialogs.h"
+#include "app/whole_file.h"
 
 namespace velquon {
 
@@ -128,14 +128,12 @@ void PrintPanel::saveAsPdf() {
   QPdfWriter writer(&buffer);
   writer.setPageSize(printer_->pageLayout().pageSize());
   set_margins(writer);
-  QSaveFile file(path);
-  const bool saved = view_.print(writer) && file.open(QIODevice::WriteOnly) &&
-                     file.write(document) == document.size() && file.commit();
-  if (saved) {
-    accept();
+  const auto reason = view_.print(writer) ? write_whole_file(path, document)
+                                          : std::optional(tr("the page cannot be drawn"));
+  if (reason) {
+    dialogs_.alert(tr("Not saved"), tr("Velquon can't write the file %1: %2.").arg(path, *reason));
   } else {
-    dialogs_.alert(tr("Not saved"),
-                   tr("Velquon can't write the file %1: %2.").arg(path, file.errorString()));
+    accept();
   }
 }
 
