@@ -68,7 +68,9 @@ void Application::connectDocuments() {
   });
   on_triggered({items.save_item}, this, [documents](QAction*) { documents->save_event_file(); });
   for (GLPanel* const window : windows()) {
-    connect(window, &GLPanel::fileDropped, documents, &EventDocuments::application_openFile);
+    // Queued: the program that the file comes from waits for the drop's end, not for an alert's.
+    connect(window, &GLPanel::fileDropped, documents, &EventDocuments::application_openFile,
+            Qt::QueuedConnection);
   }
 }
 

@@ -77,8 +77,13 @@ class ApplicationFixture : public testing::Test {
   /// Shows neither axes nor values, so that what is left of these colours belongs to points.
   void hideAxesAndValues();
 
+  [[nodiscard]] Application& application() { return *application_; }
+  /// Asks and tells the user, from the program's start on; silent unless a suite has someone to
+  /// answer in his place.
+  [[nodiscard]] virtual UserDialogs& dialogs() { return silent_dialogs_; }
+
  private:
-  SilentDialogs dialogs_;
+  SilentDialogs silent_dialogs_;
   std::unique_ptr<Application> application_;
   std::unique_ptr<QWidget> another_program_;
   ChamberView* chamber_ = nullptr;
