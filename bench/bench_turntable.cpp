@@ -8,8 +8,6 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QEventLoop>
-#include <QTimer>
 #include <QWindow>
 #include <cstdio>
 #include <ctime>
@@ -19,7 +17,9 @@
 #include "app/desktop.h"
 #include "app/menus.h"
 #include "app/projector_window.h"
+#include "app/user_dialogs.h"
 #include "app/x_display.h"
+#include "bench/event_loop.h"
 #include "bench/requirement.h"
 #include "bench/tracks.h"
 #include "chamber/chamber_view.h"
@@ -34,12 +34,6 @@ constexpr double nominal_steps = 200.0;  // a second, at the fastest rate
 constexpr int settling_time = 500;       // milliseconds
 constexpr int counting_time = 3000;      // milliseconds
 
-void run_event_loop(int milliseconds) {
-  QEventLoop loop;
-  QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-  loop.exec();
-}
-
 double processor_seconds() {
   timespec used{};
   clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
@@ -53,7 +47,7 @@ void turn(benchmark::State& state, Application& application) {
   view.setHasEvent(true);
   items.rotate_faster_item->trigger();
   items.rotate_item->trigger();
-  run_event_loop(settling_time);
+  bench::run_event_loop(settling_time);
 
   double seconds = 0.0;
   double processor = 0.0;
@@ -65,7 +59,7 @@ void turn(benchmark::State& state, Application& application) {
     const int first_frame = view.passes();
     QElapsedTimer clock;
     clock.start();
-    run_event_loop(counting_time);
+    bench::run_event_loop(counting_time);
     seconds += static_cast<double>(clock.nsecsElapsed()) * 1e-9;
     steps += static_cast<double>(view.rotation_steps() - first_step);
     frames += view.passes() - first_frame;
@@ -90,12 +84,11 @@ int main(int argc, char** argv) {
   prepare_desktop();
   const QApplication qt_application(argc, argv);
   finish_desktop(argc, argv);
-  Application application(1);
+  DesktopDialogs dialogs;
+  Application application(1, dialogs);
   application.showWindows();
-  for (int waits = 0; waits < 100 && !application.chamberWindow().windowHandle()->isExposed();
-       ++waits) {
-    run_event_loop(50);
-  }
+  velquon::bench::run_event_loop_until(
+      [&] { return application.chamberWindow().windowHandle()->isExposed(); });
   const auto turn_it = [&application](benchmark::State& state) { turn(state, application); };
   benchmark::RegisterBenchmark("turn", turn_it)
       ->Arg(350)
