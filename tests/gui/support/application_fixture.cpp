@@ -56,7 +56,8 @@ void ApplicationFixture::SetUp() {
 }
 
 void ApplicationFixture::TearDown() {
-  EXPECT_TRUE(dialogs_.alerts.isEmpty()) << dialogs_.alerts.join(QLatin1Char('\n')).toStdString();
+  EXPECT_TRUE(silent_dialogs_.alerts.isEmpty())
+      << silent_dialogs_.alerts.join(QLatin1Char('\n')).toStdString();
   another_program_.reset();
   application_.reset();
 }
