@@ -10,7 +10,6 @@
 #include <QElapsedTimer>
 #include <QWindow>
 #include <cstdio>
-#include <ctime>
 
 #include "app/application.h"
 #include "app/chamber_window.h"
@@ -20,6 +19,7 @@
 #include "app/user_dialogs.h"
 #include "app/x_display.h"
 #include "bench/event_loop.h"
+#include "bench/processor_time.h"
 #include "bench/requirement.h"
 #include "bench/tracks.h"
 #include "chamber/chamber_view.h"
@@ -33,12 +33,6 @@ constexpr int repetitions = 3;
 constexpr double nominal_steps = 200.0;  // a second, at the fastest rate
 constexpr int settling_time = 500;       // milliseconds
 constexpr int counting_time = 3000;      // milliseconds
-
-double processor_seconds() {
-  timespec used{};
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
-  return static_cast<double>(used.tv_sec) + static_cast<double>(used.tv_nsec) * 1e-9;
-}
 
 void turn(benchmark::State& state, Application& application) {
   ChamberView& view = *application.chamberWindow().view();
@@ -54,7 +48,7 @@ void turn(benchmark::State& state, Application& application) {
   double steps = 0.0;
   double frames = 0.0;
   for ([[maybe_unused]] auto _ : state) {
-    const double processor_start = processor_seconds();
+    const double processor_start = bench::processor_seconds();
     const std::int64_t first_step = view.rotation_steps();
     const int first_frame = view.passes();
     QElapsedTimer clock;
@@ -63,7 +57,7 @@ void turn(benchmark::State& state, Application& application) {
     seconds += static_cast<double>(clock.nsecsElapsed()) * 1e-9;
     steps += static_cast<double>(view.rotation_steps() - first_step);
     frames += view.passes() - first_frame;
-    processor += processor_seconds() - processor_start;
+    processor += bench::processor_seconds() - processor_start;
   }
   view.stopRotating();
   if (frames > steps) {

@@ -25,7 +25,7 @@ class KeepingReporter : public benchmark::ConsoleReporter {
       } else if (run.aggregate_name == "median") {
         const std::string name =
             run.run_name.function_name + (run.run_name.args.empty() ? "" : "/" + run.run_name.args);
-        medians_.add(name, "seconds", run.real_accumulated_time);
+        medians_.add(name, "processor time", run.GetAdjustedCPUTime());
         for (const auto& [figure, counter] : run.counters) {
           medians_.add(name, figure, counter.value);
         }

@@ -16,7 +16,7 @@ class Medians {
   }
 
   /// \param benchmark name as registered
-  /// \param figure    name of a counter, or "seconds" for the time of an iteration
+  /// \param figure    name of a counter, or "processor time" for that of an iteration
   /// \return NaN when it was not measured
   [[nodiscard]] double of(const std::string& benchmark, const std::string& figure) const;
 

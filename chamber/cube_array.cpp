@@ -156,7 +156,9 @@ void CubeArray::draw(std::size_t points) {
   if (indices_.empty()) {
     return;
   }
+  glPushAttrib(GL_LIGHTING_BIT);
   glPushClientAttrib(GL_CLIENT_VERTEX_ARRAY_BIT);
+  glShadeModel(GL_FLAT);
   glEnableClientState(GL_VERTEX_ARRAY);
   glEnableClientState(GL_COLOR_ARRAY);
   glVertexPointer(3, GL_FLOAT, sizeof(Corner), &corners_.front().x);
@@ -164,6 +166,7 @@ void CubeArray::draw(std::size_t points) {
   glDrawElements(GL_TRIANGLES, static_cast<GLsizei>(indices_.size()), GL_UNSIGNED_INT,
                  indices_.data());
   glPopClientAttrib();
+  glPopAttrib();
 }
 
 }  // namespace velquon
