@@ -106,8 +106,8 @@ bool runs_along(const PaperLine& line, const Edge& edge, const Paper& paper) {
 /// How many of the edges have a line of their own on the page.
 std::size_t printed_edges(const PdfPage& page, const std::vector<Edge>& edges, const Paper& paper) {
   return static_cast<std::size_t>(std::ranges::count_if(edges, [&](const Edge& edge) {
-    return std::ranges::any_of(page.lines,
-                               [&](const PaperLine& line) { return runs_along(line, edge, paper); });
+    return std::ranges::any_of(
+        page.lines, [&](const PaperLine& line) { return runs_along(line, edge, paper); });
   }));
 }
 

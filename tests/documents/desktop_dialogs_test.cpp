@@ -39,9 +39,9 @@ class DesktopDialogsTest : public ApplicationFixture {
     QString result;
     EXPECT_TRUE(with_dialogs(
         [&] {
-          result = dialogs().fileToSave(QStringLiteral("Save Event"), suggestion,
-                                        QStringLiteral("Event files (*.cwd)"),
-                                        QStringLiteral("cwd"));
+          result =
+              dialogs().fileToSave(QStringLiteral("Save Event"), suggestion,
+                                   QStringLiteral("Event files (*.cwd)"), QStringLiteral("cwd"));
         },
         turns));
     return result;
@@ -72,24 +72,24 @@ class DesktopDialogsTest : public ApplicationFixture {
 
 TEST_F(DesktopDialogsTest, AnAlertHasItsTitleItsTextAndOneButton) {
   const QString text = QStringLiteral("One.  Two <b>three</b> & four.");
-  const bool well = with_dialogs(
-      [&] { dialogs().alert(QStringLiteral("You should know..."), text); },
-      {{"QMessageBox", [&](QWidget& widget) {
-          auto& box = dynamic_cast<QMessageBox&>(widget);
-          EXPECT_EQ(box.windowTitle(), QStringLiteral("You should know..."));
-          EXPECT_EQ(box.text(), text);
-          EXPECT_EQ(box.textFormat(), Qt::PlainText);
-          ASSERT_EQ(box.buttons().size(), 1);
-          EXPECT_EQ(box.buttons().front()->text(), QStringLiteral("OK"));
-          QTest::keyClick(&box, Qt::Key_Return);
-        }}});
+  const bool well =
+      with_dialogs([&] { dialogs().alert(QStringLiteral("You should know..."), text); },
+                   {{"QMessageBox", [&](QWidget& widget) {
+                       auto& box = dynamic_cast<QMessageBox&>(widget);
+                       EXPECT_EQ(box.windowTitle(), QStringLiteral("You should know..."));
+                       EXPECT_EQ(box.text(), text);
+                       EXPECT_EQ(box.textFormat(), Qt::PlainText);
+                       ASSERT_EQ(box.buttons().size(), 1);
+                       EXPECT_EQ(box.buttons().front()->text(), QStringLiteral("OK"));
+                       QTest::keyClick(&box, Qt::Key_Return);
+                     }}});
   EXPECT_TRUE(well);
 }
 
 TEST_F(DesktopDialogsTest, AnAlertEndsByEscapeToo) {
-  EXPECT_TRUE(with_dialogs(
-      [&] { dialogs().alert(QStringLiteral("Bad data"), QStringLiteral("text")); },
-      {{"QMessageBox", [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); }}}));
+  EXPECT_TRUE(
+      with_dialogs([&] { dialogs().alert(QStringLiteral("Bad data"), QStringLiteral("text")); },
+                   {{"QMessageBox", [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); }}}));
 }
 
 /// The files that an open dialog offers.
@@ -118,10 +118,9 @@ TEST_F(DesktopDialogsTest, FilesAreOfferedByTheirEndingInItsCase) {
     }
     return result;
   };
-  for (const Offer& offer :
-       {Offer{"Event files (*.cwd)", names({"a.cwd"})},
-        Offer{"PC event files (*.cwd *.CWD *.txt *.TXT)",
-              names({"B.CWD", "D.TXT", "a.cwd", "c.txt"})}}) {
+  for (const Offer& offer : {Offer{"Event files (*.cwd)", names({"a.cwd"})},
+                             Offer{"PC event files (*.cwd *.CWD *.txt *.TXT)",
+                                   names({"B.CWD", "D.TXT", "a.cwd", "c.txt"})}}) {
     QString result;
     const Turn look{"QFileDialog", [&](QWidget& dialog) {
                       dynamic_cast<QFileDialog&>(dialog).setDirectory(path({}));

@@ -37,18 +37,17 @@ TEST(FeedbackTest, LinesKeepTheirEndsAndLoseTheirDepth) {
 }
 
 TEST(FeedbackTest, ThePolygonsBehindAMarkAreOneCube) {
-  const FeedbackPicture picture = read_feedback({mark, 1,                                   //
-                                                 polygon, 3, 1, 2, 0, 4, 3, 0, 2, 9, 0,     //
+  const FeedbackPicture picture = read_feedback({mark,    1,                             //
+                                                 polygon, 3, 1, 2, 0, 4, 3, 0, 2, 9, 0,  //
                                                  polygon, 4, 0, 5, 0, 3, 3, 0, 7, 4, 0, 2, 2, 0});
   ASSERT_EQ(picture.cubes.size(), 1U);
   EXPECT_EQ(picture.cubes[0], QRectF(QPointF(0, 2), QPointF(7, 9)));
 }
 
 TEST(FeedbackTest, EachMarkBeginsACubeOfItsOwn) {
-  const FeedbackPicture picture =
-      read_feedback({mark, 1, polygon, 3, 1, 1, 0, 2, 1, 0, 2, 3, 0,  //
-                     mark, 1,                                         // clipped away
-                     mark, 1, polygon, 3, 5, 5, 0, 6, 5, 0, 6, 8, 0});
+  const FeedbackPicture picture = read_feedback({mark, 1, polygon, 3, 1, 1, 0, 2, 1, 0, 2, 3, 0,  //
+                                                 mark, 1,  // clipped away
+                                                 mark, 1, polygon, 3, 5, 5, 0, 6, 5, 0, 6, 8, 0});
   ASSERT_EQ(picture.cubes.size(), 2U);
   EXPECT_EQ(picture.cubes[0], QRectF(QPointF(1, 1), QPointF(2, 3)));
   EXPECT_EQ(picture.cubes[1], QRectF(QPointF(5, 5), QPointF(6, 8)));
@@ -93,7 +92,8 @@ INSTANTIATE_TEST_SUITE_P(
                     HostileStream{"token_not_a_number", {not_a_number, 1, 2}},
                     HostileStream{"negative_token", {-1794.0F, 1, 2, 0, 3, 4, 0}},
                     HostileStream{"infinite_token", {infinite, -infinite, 3.0e38F}},
-                    HostileStream{"polygon_without_a_mark", {polygon, 3, 1, 1, 0, 2, 1, 0, 2, 3, 0}},
+                    HostileStream{"polygon_without_a_mark",
+                                  {polygon, 3, 1, 1, 0, 2, 1, 0, 2, 3, 0}},
                     HostileStream{"line_to_nowhere", {line, 1, 2, 0, not_a_number, 4, 0}},
                     HostileStream{"line_from_infinity", {line, infinite, 2, 0, 3, 4, 0}},
                     HostileStream{"cube_nowhere",
@@ -112,8 +112,7 @@ TEST(FeedbackTest, AStreamOfHugeCountsIsReadAtOnce) {
 }
 
 TEST(FeedbackTest, APolygonThatIsCutOffCountsAsFarAsItGoes) {
-  const FeedbackPicture picture =
-      read_feedback({mark, 1, polygon, 4, 1, 2, 0, 3, 8, 0, 100});
+  const FeedbackPicture picture = read_feedback({mark, 1, polygon, 4, 1, 2, 0, 3, 8, 0, 100});
   ASSERT_EQ(picture.cubes.size(), 1U);
   EXPECT_EQ(picture.cubes[0], QRectF(QPointF(1, 2), QPointF(3, 8)));
 }

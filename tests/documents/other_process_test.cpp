@@ -44,8 +44,9 @@ QString long_name_message(const QString& name) {
   return QStringLiteral("velquon: the name '%1' does not fit into a window's title\n").arg(name);
 }
 
-const FileSettings start_up{
-    .field_kG = static_cast<double>(0.6F), .side_cm = 500.0, .energy_MeV = static_cast<double>(0.4F)};
+const FileSettings start_up{.field_kG = static_cast<double>(0.6F),
+                            .side_cm = 500.0,
+                            .energy_MeV = static_cast<double>(0.4F)};
 
 TEST_F(OtherProcessTest, SavesUnderTheLongestNameThatFitsATitle) {
   const QString file = path(name_of_length(237));
@@ -69,8 +70,7 @@ TEST_F(OtherProcessTest, EndsAfterSavingUnderANameTooLongForATitle) {
 
 TEST_F(OtherProcessTest, EndsOnOpeningAFileWithANameTooLongForATitle) {
   const QString name = name_of_length(238);
-  const Ending ending =
-      run_program(VELQUON_PROGRAM, {write(name, event_file(spiral(3)))});
+  const Ending ending = run_program(VELQUON_PROGRAM, {write(name, event_file(spiral(3)))});
   EXPECT_TRUE(ending.crashed);
   EXPECT_TRUE(ending.errors.contains(long_name_message(name))) << ending.errors.toStdString();
 }
@@ -111,9 +111,9 @@ TEST_F(OtherProcessTest, PrintsTheSameWhateverTheScreensScale) {
     std::vector<QString> words;
     for (const char* const scale : {"1", "2"}) {
       const QString page = path(QLatin1String(scale) + QStringLiteral(".pdf"));
-      const Ending ending = run_program(
-          SCRIPTED_PROGRAM, {QStringLiteral("print"), QLatin1String(view), event, page},
-          {QStringLiteral("QT_SCALE_FACTOR=") + QLatin1String(scale)});
+      const Ending ending =
+          run_program(SCRIPTED_PROGRAM, {QStringLiteral("print"), QLatin1String(view), event, page},
+                      {QStringLiteral("QT_SCALE_FACTOR=") + QLatin1String(scale)});
       ASSERT_EQ(ending.status, 0);
       ASSERT_EQ(ending.output.trimmed(), QLatin1String(scale));
       pages.push_back(read_pdf(read(page)));

@@ -54,8 +54,8 @@ QPointF start_of_line(const std::vector<PaperWord>& words, const Paper& paper, d
 
 TEST_F(PageTextsTest, AreTheDateTheTitleAndTheValuesAtTheirPlaces) {
   openEvent();
-  for (Printable* const view : {static_cast<Printable*>(&chamber()),
-                                static_cast<Printable*>(&projection())}) {
+  for (Printable* const view :
+       {static_cast<Printable*>(&chamber()), static_cast<Printable*>(&projection())}) {
     for (const Paper& paper : {a4, letter}) {
       const QDateTime before = QDateTime::currentDateTime();
       const auto found = words(*view, paper);
@@ -65,7 +65,8 @@ TEST_F(PageTextsTest, AreTheDateTheTitleAndTheValuesAtTheirPlaces) {
       EXPECT_EQ(line_at(found, paper, title_height), QStringLiteral("Some Title"));
       EXPECT_EQ(line_at(found, paper, values_height), values_line);
       EXPECT_TRUE(is_near(start_of_line(found, paper, date_height), {0.0, date_height}, 0.1));
-      EXPECT_TRUE(is_near(start_of_line(found, paper, title_height), {text_start, title_height}, 0.1));
+      EXPECT_TRUE(
+          is_near(start_of_line(found, paper, title_height), {text_start, title_height}, 0.1));
       EXPECT_TRUE(
           is_near(start_of_line(found, paper, values_height), {text_start, values_height}, 0.1));
       EXPECT_EQ(found.size(), 4U + 2U + 12U);

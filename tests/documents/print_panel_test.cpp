@@ -31,9 +31,9 @@ class PrintPanelTest : public DocumentsFixture {
   /// Presses Ctrl+P in a window and acts on the panel that comes up.
   void onPanel(QWidget& window, const std::function<void(QWidget&)>& act) {
     activate(window);
-    EXPECT_TRUE(
-        with_dialogs([&] { QTest::keyClick(window.windowHandle(), Qt::Key_P, Qt::ControlModifier); },
-                     {{"velquon::PrintPanel", act}}));
+    EXPECT_TRUE(with_dialogs(
+        [&] { QTest::keyClick(window.windowHandle(), Qt::Key_P, Qt::ControlModifier); },
+        {{"velquon::PrintPanel", act}}));
   }
 
   static void click(QWidget& panel, const char* button) {

@@ -26,7 +26,6 @@ class ProjectionPageTest : public DocumentsFixture {
   PdfPage print(const Paper& paper = a4) {
     return print_to_pdf(projection(), chamber(), paper, path(QStringLiteral("page.pdf")));
   }
-
 };
 
 struct View {

@@ -65,16 +65,15 @@ const auto name_of_case = [](const auto& tested) { return tested.param.name; };
 
 INSTANTIATE_TEST_SUITE_P(
     Files, WrongFormatTest,
-    testing::Values(Refused{"Empty", [] { return QByteArray(); }},
-                    Refused{"TagIAlone", [] { return hex("49"); }},
-                    Refused{"TagIWithABody",
-                            [] { return event_file(spiral(3)).replace(0, 1, "I"); }},
-                    Refused{"LowerCaseTag",
-                            [] { return event_file(spiral(3)).replace(0, 1, "p"); }},
-                    Refused{"LowerCasePcTag", [] { return pc_file(spiral(3)).replace(0, 1, "w"); }},
-                    Refused{"ZeroByte", [] { return hex("00"); }},
-                    Refused{"TextFile", [] { return QByteArray("event,point,x,y,z,code\n"); }},
-                    Refused{"HighByte", [] { return hex("FF 0001"); }}),
+    testing::Values(
+        Refused{"Empty", [] { return QByteArray(); }},
+        Refused{"TagIAlone", [] { return hex("49"); }},
+        Refused{"TagIWithABody", [] { return event_file(spiral(3)).replace(0, 1, "I"); }},
+        Refused{"LowerCaseTag", [] { return event_file(spiral(3)).replace(0, 1, "p"); }},
+        Refused{"LowerCasePcTag", [] { return pc_file(spiral(3)).replace(0, 1, "w"); }},
+        Refused{"ZeroByte", [] { return hex("00"); }},
+        Refused{"TextFile", [] { return QByteArray("event,point,x,y,z,code\n"); }},
+        Refused{"HighByte", [] { return hex("FF 0001"); }}),
     name_of_case);
 
 INSTANTIATE_TEST_SUITE_P(
@@ -88,7 +87,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Refused{"PcMinusOne", [] { return pc_file(-1, spiral(2)); }},
                     Refused{"PcOneTooMany", [] { return pc_file(5001, spiral(5001)); }},
                     Refused{"PcOneInItsLowBytes", [] { return pc_file(65537, spiral(2)); }},
-                    Refused{"PcMostNegative", [] {
+                    Refused{"PcMostNegative",
+                            [] {
                               return pc_file(std::numeric_limits<std::int32_t>::min(), spiral(2));
                             }}),
     name_of_case);
@@ -209,7 +209,8 @@ TEST_F(RefusedFileTest, AFileThatMayNotBeReadIsLeftWithoutAWord) {
 
 TEST_F(RefusedFileTest, AGoodFileIsReadAfterARefusedOne) {
   EXPECT_FALSE(documents().readAndDisplayFile(write(QStringLiteral("a.cwd"), hex("57"))));
-  EXPECT_TRUE(documents().readAndDisplayFile(write(QStringLiteral("b.cwd"), event_file(spiral(3)))));
+  EXPECT_TRUE(
+      documents().readAndDisplayFile(write(QStringLiteral("b.cwd"), event_file(spiral(3)))));
   EXPECT_EQ(chamber().point_number(), 3);
 }
 

@@ -36,8 +36,9 @@ class FileSizeLimit {
 };
 
 RecordingDialogs::Alert not_saved(const QString& path, const char* reason) {
-  return {QStringLiteral("Not saved"), QStringLiteral("Velquon can't write the file %1: %2.")
-                                           .arg(path, QString::fromUtf8(reason))};
+  return {
+      QStringLiteral("Not saved"),
+      QStringLiteral("Velquon can't write the file %1: %2.").arg(path, QString::fromUtf8(reason))};
 }
 
 class SaveFailureTest : public DocumentsFixture {

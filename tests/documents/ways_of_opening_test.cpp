@@ -4,6 +4,7 @@
 #include <QMimeData>
 #include <QUrl>
 
+#include "gui/support/pictures.h"
 #include "gui/support/waiting.h"
 #include "support/documents_fixture.h"
 #include "support/event_bytes.h"
@@ -169,6 +170,34 @@ class ProgramTest : public testing::Test {
 TEST_F(ProgramTest, OpensTheFileItIsStartedWith) {
   expectTitles(write(QStringLiteral("event.cwd"), event_file(spiral(7))),
                QStringLiteral("event.cwd"));
+}
+
+/// Pixels of a colour in a window that another program has on the screen.
+std::size_t pixels_in(RunningProgram& program, const QString& title, QRgb color) {
+  return pixels_of(program.windowPicture(title), color).size();
+}
+
+TEST_F(ProgramTest, ShowsTheFileItIsStartedWithInBothViews) {
+  std::vector<PlotPoint> points = spiral(300);
+  for (PlotPoint& point : points) {
+    point.code = 3;  // red
+  }
+  const QString file = write(QStringLiteral("red.cwd"), event_file(points));
+  std::size_t white_without_event = 0;
+  {
+    RunningProgram empty(VELQUON_PROGRAM, {});
+    ASSERT_TRUE(wait_until([&] {
+      white_without_event = pixels_in(empty, QStringLiteral("Projector: Empty"), white);
+      return white_without_event > 500;  // the dotted frame
+    }));
+  }
+  RunningProgram program(VELQUON_PROGRAM, {file});
+  EXPECT_TRUE(wait_until(
+      [&] { return pixels_in(program, QStringLiteral("Particle Chamber: red.cwd"), red) > 300; }));
+  EXPECT_TRUE(wait_until([&] {
+    return pixels_in(program, QStringLiteral("Projector: red.cwd"), white) >
+           white_without_event + 200;
+  }));
 }
 
 TEST_F(ProgramTest, OpensAFileOfThePcEdition) {

@@ -1,5 +1,8 @@
 #include "support/other_program.h"
 
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QScreen>
 #include <stdexcept>
 
 namespace velquon::test {
@@ -15,6 +18,10 @@ QString output_of(const QString& tool, const QStringList& arguments) {
     throw std::runtime_error("no answer from " + tool.toStdString());
   }
   return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+QString title_of(const QString& window) {
+  return output_of(QStringLiteral("xdotool"), {QStringLiteral("getwindowname"), window}).trimmed();
 }
 
 }  // namespace
@@ -61,20 +68,35 @@ QString RunningProgram::nextLine() {
   return QString::fromUtf8(process_.readLine()).trimmed();
 }
 
+QStringList RunningProgram::windows() {
+  return output_of(
+             QStringLiteral("xdotool"),
+             {QStringLiteral("search"), QStringLiteral("--all"), QStringLiteral("--onlyvisible"),
+              QStringLiteral("--pid"), QString::number(process_.processId()),
+              QStringLiteral("--name"), QStringLiteral(".")})
+      .split(u'\n', Qt::SkipEmptyParts);
+}
+
 QStringList RunningProgram::windowTitles() {
-  const QString windows = output_of(
-      QStringLiteral("xdotool"),
-      {QStringLiteral("search"), QStringLiteral("--all"), QStringLiteral("--onlyvisible"),
-       QStringLiteral("--pid"), QString::number(process_.processId()), QStringLiteral("--name"),
-       QStringLiteral(".")});
   QStringList titles;
-  for (const QString& window : windows.split(u'\n', Qt::SkipEmptyParts)) {
-    titles << output_of(QStringLiteral("xdotool"), {QStringLiteral("getwindowname"), window})
-                  .trimmed();
+  for (const QString& window : windows()) {
+    titles << title_of(window);
   }
   titles.sort();
   titles.removeDuplicates();
   return titles;
+}
+
+QImage RunningProgram::windowPicture(const QString& title) {
+  for (const QString& window : windows()) {
+    if (title_of(window) == title) {
+      return QGuiApplication::primaryScreen()
+          ->grabWindow(window.toULongLong())
+          .toImage()
+          .convertToFormat(QImage::Format_RGB32);
+    }
+  }
+  return {};
 }
 
 }  // namespace velquon::test

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QProcess>
 #include <QStringList>
 
@@ -33,8 +34,13 @@ class RunningProgram {
   QString nextLine();
   /// Titles of the windows that it has on the screen.
   [[nodiscard]] QStringList windowTitles();
+  /// The picture on the screen of its window with a title; nothing without one.
+  [[nodiscard]] QImage windowPicture(const QString& title);
 
  private:
+  /// The numbers of its windows that are on the screen.
+  [[nodiscard]] QStringList windows();
+
   QProcess process_;
 };
 
