@@ -1,13 +1,15 @@
 #include "app/application.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 
 #include "app/chamber_controller.h"
 #include "app/chamber_window.h"
 #include "app/choices.h"
 #include "app/event_documents.h"
+#include "app/guide_window.h"
 #include "app/menus.h"
 #include "app/projector_window.h"
+#include "app/track_window.h"
 #include "chamber/chamber_view.h"
 #include "projection/projection_view.h"
 #include "ui_menus.h"
@@ -17,9 +19,11 @@ namespace velquon {
 Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs)
     : menus_(std::make_unique<Menus>()),
       chamber_window_(std::make_unique<ChamberWindow>(seed, menus_->items())),
-      projector_window_(std::make_unique<ProjectorWindow>()) {
-  menus_->installIn(*chamber_window_);
-  menus_->installIn(*projector_window_);
+      projector_window_(std::make_unique<ProjectorWindow>()),
+      track_window_(std::make_unique<TrackWindow>(menus_->items())) {
+  for (GLPanel* const window : windows()) {
+    menus_->installIn(*window);
+  }
   controller_ = std::make_unique<ChamberController>(
       ChamberOutlets{.chamber_window = chamber_window_.get(),
                      .projector_window = projector_window_.get(),
@@ -33,7 +37,9 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   documents_ = std::make_unique<EventDocuments>(*controller_, *chamber_window_->view(), dialogs);
   connectDocuments();
   connectWindowMenu();
+  connectHelpMenu();
   controller_->awakeFromNib();
+  track_window_->awakeFromNib();
 }
 
 Application::~Application() = default;
@@ -41,12 +47,17 @@ Application::~Application() = default;
 void Application::showWindows() {
   constexpr QPoint chamber_corner(20, 20);
   constexpr int gap = 16;
-  chamber_window_->adjustSize();
-  projector_window_->adjustSize();
+  // adjustSize would leave a third of the screen free and cut the pictures on a low one.
+  chamber_window_->resize(chamber_window_->sizeHint());
+  projector_window_->resize(projector_window_->sizeHint());
   chamber_window_->move(chamber_corner);
   projector_window_->move(chamber_corner + QPoint(chamber_window_->width() + gap, 0));
   projector_window_->show();
   chamber_window_->makeKeyAndOrderFront();
+}
+
+std::array<GLPanel*, 3> Application::windows() const {
+  return {chamber_window_.get(), projector_window_.get(), track_window_.get()};
 }
 
 void Application::connectDocuments() {
@@ -56,8 +67,7 @@ void Application::connectDocuments() {
     documents->open_event_file(sender != items.open_item);
   });
   on_triggered({items.save_item}, this, [documents](QAction*) { documents->save_event_file(); });
-  for (GLPanel* const window : {static_cast<GLPanel*>(chamber_window_.get()),
-                                static_cast<GLPanel*>(projector_window_.get())}) {
+  for (GLPanel* const window : windows()) {
     // Queued: the program that the file comes from waits for the drop's end, not for an alert's.
     connect(window, &GLPanel::fileDropped, documents, &EventDocuments::application_openFile,
             Qt::QueuedConnection);
@@ -70,7 +80,26 @@ void Application::connectWindowMenu() {
                [this](QAction*) { chamber_window_->makeKeyAndOrderFront(); });
   on_triggered({items.projector_window_item}, this,
                [this](QAction*) { projector_window_->makeKeyAndOrderFront(); });
-  on_triggered({items.quit_item}, this, [](QAction*) { QCoreApplication::quit(); });
+  on_triggered({items.quit_item}, this, [](QAction*) {
+    // Not quit(): that would first ask the windows to close, and they only hide.
+    QCoreApplication::exit();
+  });
+}
+
+void Application::connectHelpMenu() {
+  const Ui::Menus& items = menus_->items();
+  on_triggered({items.guide_item}, this, [this](QAction*) { showGuide(); });
+  on_triggered({items.about_item}, this,
+               [](QAction*) { show_about(QApplication::activeWindow()); });
+}
+
+void Application::showGuide() {
+  if (!guide_window_) {
+    guide_window_ = std::make_unique<GuideWindow>();
+  }
+  guide_window_->show();
+  guide_window_->raise();
+  guide_window_->activateWindow();
 }
 
 }  // namespace velquon

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -10,8 +11,11 @@ namespace velquon {
 class ChamberController;
 class ChamberWindow;
 class EventDocuments;
+class GLPanel;
+class GuideWindow;
 class Menus;
 class ProjectorWindow;
+class TrackWindow;
 class UserDialogs;
 
 /// The program's windows, menus and controllers, built and joined.
@@ -35,16 +39,22 @@ class Application : public QObject {
   [[nodiscard]] Menus& menus() { return *menus_; }
   [[nodiscard]] ChamberWindow& chamberWindow() { return *chamber_window_; }
   [[nodiscard]] ProjectorWindow& projectorWindow() { return *projector_window_; }
+  [[nodiscard]] TrackWindow& trackWindow() { return *track_window_; }
   [[nodiscard]] ChamberController& controller() { return *controller_; }
   [[nodiscard]] EventDocuments& documents() { return *documents_; }
 
  private:
+  [[nodiscard]] std::array<GLPanel*, 3> windows() const;
   void connectDocuments();
   void connectWindowMenu();
+  void connectHelpMenu();
+  void showGuide();
 
   std::unique_ptr<Menus> menus_;
   std::unique_ptr<ChamberWindow> chamber_window_;
   std::unique_ptr<ProjectorWindow> projector_window_;
+  std::unique_ptr<TrackWindow> track_window_;
+  std::unique_ptr<GuideWindow> guide_window_;  ///< made when first asked for
   std::unique_ptr<ChamberController> controller_;
   std::unique_ptr<EventDocuments> documents_;
 };

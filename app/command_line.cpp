@@ -33,7 +33,11 @@ ParsedCommandLine parse_command_line(const QStringList& arguments) {
     return refusal(parser.errorText());
   }
   if (parser.isSet(help)) {
-    return {std::nullopt, parser.helpText(), 0};
+    // Without an application object the parser does not know the program's name.
+    return {
+        std::nullopt,
+        parser.helpText().replace(QStringLiteral("<executable_name>"), QStringLiteral("velquon")),
+        0};
   }
   if (parser.isSet(version)) {
     return {std::nullopt, QStringLiteral("velquon " VELQUON_VERSION "\n"), 0};

@@ -1,5 +1,6 @@
 #include "app/menus.h"
 
+#include <QActionGroup>
 #include <QMainWindow>
 #include <QMenuBar>
 
@@ -7,8 +8,25 @@
 
 namespace velquon {
 
+namespace {
+
+/// One item of the menu is chosen at a time, and looks so.
+void make_radio_group(const QMenu& menu) {
+  auto* const group = new QActionGroup(menu.parent());
+  for (QAction* const item : menu.actions()) {
+    group->addAction(item);
+  }
+}
+
+}  // namespace
+
 Menus::Menus() : owner_(std::make_unique<QMenuBar>()), ui_(std::make_unique<Ui::Menus>()) {
   ui_->setupUi(owner_.get());
+  for (const QMenu* const menu :
+       {ui_->event_menu, ui_->axis_menu, ui_->rate_menu, ui_->monitor_menu, ui_->particle_menu,
+        ui_->direction_menu, ui_->velocity_menu}) {
+    make_radio_group(*menu);
+  }
 }
 
 Menus::~Menus() = default;

@@ -3,7 +3,6 @@
 #include <GL/gl.h>
 
 #include <QAction>
-#include <QWindow>
 #include <algorithm>
 #include <array>
 
@@ -40,9 +39,7 @@ void ChamberView::setRotationRate(QAction* sender) {
 }
 
 void ChamberView::doRotation(QAction* sender) {
-  window()->show();
-  window()->raise();
-  window()->activateWindow();
+  Q_EMIT windowWanted();
   rot_angle_ = sender == rotation_items_.reverse_rotate_item ? -step_degrees : step_degrees;
   if (is_rotating_) {
     return;
@@ -60,13 +57,17 @@ void ChamberView::rotate() {
   if (!is_rotating_ || !makeContextCurrent()) {
     return;
   }
-  // The next step is due a delay after this one was, however late this one came: what a frame costs
-  // does not slow the turntable down.
+  // A step is due a delay after the one before it was, however late that came: what a frame costs
+  // does not slow the turntable down. The steps that fell due while a frame was drawn are made at
+  // once, as a message for each would have to wait behind the next frame.
   const std::uint64_t now = Microseconds();
   if (now > next_step_at_ + most_lateness) {
     next_step_at_ = now;
   }
-  next_step_at_ += static_cast<std::uint64_t>(rot_delay_ * microseconds_per_second);
+  const auto delay = static_cast<std::uint64_t>(rot_delay_ * microseconds_per_second);
+  const std::uint64_t late = now > next_step_at_ ? now - next_step_at_ : 0;
+  const std::uint64_t steps_due = 1 + late / delay;
+  next_step_at_ += steps_due * delay;
   scheduleRotation(next_step_at_ > now
                        ? static_cast<double>(next_step_at_ - now) / microseconds_per_second
                        : 0.0);
@@ -75,8 +76,10 @@ void ChamberView::rotate() {
       {{1.0F, 0.0F, 0.0F}, {0.0F, 1.0F, 0.0F}, {0.0F, 0.0F, 1.0F}}};
   const auto& [x, y, z] = axes.at(static_cast<std::size_t>(rotation_axis_ - 1));
   glMatrixMode(GL_MODELVIEW);
-  glRotatef(rot_angle_, x, y, z);
-  ++rotation_steps_;
+  for (std::uint64_t step = 0; step < steps_due; ++step) {
+    glRotatef(rot_angle_, x, y, z);
+    ++rotation_steps_;
+  }
   displaySoon();
 }
 

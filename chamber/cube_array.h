@@ -8,16 +8,19 @@
 
 namespace velquon {
 
-/// The cubes of an event's points as one array of corners, built once when the event changes. A
-/// cube a call of GLUT costs some ten times as much.
+/// The cubes of an event's points as one array of corners, built once when the event changes and
+/// drawn by one call. A cube a call of GLUT costs some five times as much.
+///
+/// A cube has one colour on all its faces, so all that is seen of it is its outline: a hexagon of
+/// six of its corners, or a square of four, which takes a third of a cube's triangles.
 class CubeArray {
  public:
   /// \param side side of a cube, drawing units
   void build(std::span<const PlotPoint> points, float side);
 
-  /// Draws the cubes of the first points with the matrices as they stand, in the order of the
-  /// points and without their back faces. The context must be current.
-  void draw(std::size_t points) const;
+  /// Draws the cubes of the first points with the matrices as they stand, a perspective and a
+  /// viewpoint outside the cubes, in the order of the points. The context must be current.
+  void draw(std::size_t points);
 
  private:
   struct Corner {
@@ -25,8 +28,10 @@ class CubeArray {
     float red, green, blue;
   };
 
+  void outline(std::size_t points);
+
   std::vector<Corner> corners_;
-  std::vector<std::uint32_t> indices_;
+  std::vector<std::uint32_t> indices_;  ///< of the outlines' triangles as drawn last
 };
 
 }  // namespace velquon

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <cstdio>
 #include <span>
-#include <string>
 #include <system_error>
+#include <vector>
 
 #include "engine/event_record.h"
 
@@ -28,7 +28,8 @@ class CsvWriter {
   std::error_code flush();
 
   std::FILE* file_;
-  std::string buffer_;
+  std::vector<char> buffer_;
+  std::size_t used_ = 0;
 };
 
 }  // namespace velquon

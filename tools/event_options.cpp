@@ -89,8 +89,12 @@ EventOptions checked_options(const RawOptions& raw) {
           .output = raw.output};
 }
 
-std::string first_line(const std::string& text) {
-  return text.substr(0, text.find('\n'));
+/// The text as one line that a terminal can show: what is given on a command line may hold
+/// anything.
+std::string as_one_line(std::string text) {
+  std::ranges::replace_if(
+      text, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }, '?');
+  return text;
 }
 
 }  // namespace
@@ -140,7 +144,7 @@ ParsedOptions parse_event_options(int argc, const char* const* argv) {
   } catch (const CLI::CallForVersion& version) {
     return {std::nullopt, std::string(version.what()) + "\n", 0};
   } catch (const CLI::ParseError& error) {
-    return {std::nullopt, "velquon-events: " + first_line(error.what()) + "\n", 2};
+    return {std::nullopt, "velquon-events: " + as_one_line(error.what()) + "\n", 2};
   }
   return {checked_options(raw), {}, 0};
 }

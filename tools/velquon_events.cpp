@@ -1,5 +1,6 @@
 // The command-line tool that makes events with neither screen nor Qt.
 
+#include <csignal>
 #include <cstdio>
 
 #include "tools/event_options.h"
@@ -11,5 +12,7 @@ int main(int argc, char** argv) {
     std::fputs(parsed.message.c_str(), parsed.status == 0 ? stdout : stderr);
     return parsed.status;
   }
+  // A file that grows beyond the user's limit is to be an error like any other, and leave no half.
+  std::signal(SIGXFSZ, SIG_IGN);
   return velquon::write_events(*parsed.options, stdout, stderr);
 }

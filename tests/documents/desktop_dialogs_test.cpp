@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include "app/event_documents.h"
+#include "app/user_dialogs.h"
 #include "gui/support/application_fixture.h"
 #include "gui/support/waiting.h"
 #include "support/event_bytes.h"
@@ -27,6 +28,8 @@ class DesktopDialogsTest : public ApplicationFixture {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     ApplicationFixture::SetUp();
   }
+
+  [[nodiscard]] UserDialogs& dialogs() override { return desktop_dialogs_; }
 
   QString path(const QString& name) { return folder_.filePath(name); }
   void makeFile(const QString& name) {
@@ -67,6 +70,7 @@ class DesktopDialogsTest : public ApplicationFixture {
   }
 
  private:
+  DesktopDialogs desktop_dialogs_;
   QTemporaryDir folder_;
 };
 

@@ -222,6 +222,23 @@ TEST_F(ReplayTest, TheLastPictureIsOnTheScreenBeforeControlReturns) {
   EXPECT_EQ(at_end, all);
 }
 
+TEST_F(ReplayTest, NothingElseIsHandledUntilItEnds) {
+  constexpr int count = 20;
+  showRow(count);
+  int looks = 0;
+  int looks_in_between = 0;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, &chamber(), [&] {
+    ++looks;
+    looks_in_between += chamber().point_number() != count ? 1 : 0;
+  });
+  look.start(1);
+  choose("replay_item");
+  runReplay(chamber().passes());
+  EXPECT_GT(looks, 0);
+  EXPECT_EQ(looks_in_between, 0);
+}
+
 TEST_F(ReplayTest, WorksWhileTheChamberIsHidden) {
   showRow(5);
   chamberWindow().close();

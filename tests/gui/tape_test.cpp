@@ -7,6 +7,7 @@
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
 #include "tests/gui/support/pictures.h"
+#include "tests/gui/support/waiting.h"
 
 namespace velquon::test {
 
@@ -139,6 +140,19 @@ TEST_F(TapeTest, IsHiddenByANewEvent) {
   ASSERT_TRUE(projection().tape_visible());
   choose("new_event_item");
   expectHiddenTape();
+}
+
+TEST_F(TapeTest, ALongReadingDoesNotChangeTheWindow) {
+  controller().settings().setSidesControl(1000.0F);
+  choose("new_event_item");
+  const QSize window = projectorWindow().size();
+  drag(projection(), {1, 1}, {469, 419});
+  EXPECT_EQ(reading(), "D = 1568.73 cm");
+  run_loop_for(100);
+  EXPECT_EQ(projectorWindow().size(), window);
+  EXPECT_EQ(projection().size(), QSize(470, 420));
+  auto& label = control<QLabel>("tape_text");
+  EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), label.width());
 }
 
 TEST_F(TapeTest, SurvivesTheWindowGoingAndComingBack) {

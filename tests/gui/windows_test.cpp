@@ -44,6 +44,10 @@ TEST_F(WindowsTest, BothAreEmptyAtStart) {
   EXPECT_FALSE(chamber().has_event());
   EXPECT_EQ(chamber().point_number(), 0);
   EXPECT_TRUE(chamber().data_ptr().empty());
+}
+
+TEST_F(WindowsTest, BothShowTheirWholeViewAtStart) {
+  // Also on a screen that leaves them little room.
   EXPECT_EQ(chamber().size(), QSize(682, 500));
   EXPECT_EQ(projection().size(), QSize(470, 420));
 }
@@ -83,8 +87,8 @@ TEST_F(WindowsTest, PrintingIsPossibleFromTheStartAndGoesWithTheKeys) {
 }
 
 TEST_F(WindowsTest, PrintingIsPossibleBeforeAnyWindowHasTheKeys) {
-  const Application not_shown(fixture_seed, dialogs());
-  auto& unseen = const_cast<Application&>(not_shown);
+  SilentDialogs dialogs;
+  Application unseen(fixture_seed, dialogs);
   EXPECT_NE(unseen.controller().printView(), nullptr);
   EXPECT_TRUE(item_named(unseen.chamberWindow(), QStringLiteral("print_item"))->isEnabled());
 }

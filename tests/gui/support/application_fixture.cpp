@@ -31,6 +31,19 @@ QAction* find_named(const QList<QAction*>& actions, const QString& name) {
 
 }  // namespace
 
+void SilentDialogs::alert(const QString& title, const QString& message) {
+  alerts << title + QStringLiteral(": ") + message;
+}
+
+QString SilentDialogs::fileToOpen(const QString& /*title*/, const QString& /*filter*/) {
+  return {};
+}
+
+QString SilentDialogs::fileToSave(const QString& /*title*/, const QString& /*suggestion*/,
+                                  const QString& /*filter*/, const QString& /*suffix*/) {
+  return {};
+}
+
 void ApplicationFixture::SetUp() {
   application_ = std::make_unique<Application>(fixture_seed, dialogs());
   chamber_ = &control<ChamberView>("chamber_view");
@@ -43,6 +56,8 @@ void ApplicationFixture::SetUp() {
 }
 
 void ApplicationFixture::TearDown() {
+  EXPECT_TRUE(silent_dialogs_.alerts.isEmpty())
+      << silent_dialogs_.alerts.join(QLatin1Char('\n')).toStdString();
   another_program_.reset();
   application_.reset();
 }

@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 #include <cstdint>
 #include <memory>
@@ -22,6 +23,17 @@
 namespace velquon::test {
 
 inline constexpr std::uint32_t fixture_seed = 20'240'611;
+
+/// Dialogs that nobody answers: no file is chosen, and what is told is kept.
+class SilentDialogs : public UserDialogs {
+ public:
+  void alert(const QString& title, const QString& message) override;
+  QString fileToOpen(const QString& title, const QString& filter) override;
+  QString fileToSave(const QString& title, const QString& suggestion, const QString& filter,
+                     const QString& suffix) override;
+
+  QStringList alerts;
+};
 
 /// The whole program with its windows on the screen, the chamber window having the keys, as it is
 /// right after its start.
@@ -66,12 +78,12 @@ class ApplicationFixture : public testing::Test {
   void hideAxesAndValues();
 
   [[nodiscard]] Application& application() { return *application_; }
-  /// Asks and tells the user, from the program's start on; the desktop's own unless a suite has
-  /// someone to answer in his place.
-  [[nodiscard]] virtual UserDialogs& dialogs() { return desktop_dialogs_; }
+  /// Asks and tells the user, from the program's start on; silent unless a suite has someone to
+  /// answer in his place.
+  [[nodiscard]] virtual UserDialogs& dialogs() { return silent_dialogs_; }
 
  private:
-  DesktopDialogs desktop_dialogs_;
+  SilentDialogs silent_dialogs_;
   std::unique_ptr<Application> application_;
   std::unique_ptr<QWidget> another_program_;
   ChamberView* chamber_ = nullptr;

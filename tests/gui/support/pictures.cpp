@@ -52,7 +52,7 @@ bool has_line(const QImage& picture, QPointF from, QPointF to, QRgb color) {
   constexpr int samples = 20;
   for (int i = 1; i < samples; ++i) {
     const QPointF place = from + (to - from) * (static_cast<double>(i) / samples);
-    if (!has_color_near(picture, place, color, 1.0)) {
+    if (!has_color_near(picture, place, color, 1.5)) {
       return false;
     }
   }

@@ -38,7 +38,8 @@ QRgb color_at(const QImage& picture, QPointF place);
 
 /// Whether a colour is found within a distance of a place.
 bool has_color_near(const QImage& picture, QPointF place, QRgb color, double distance);
-/// Whether a line of a colour runs from one place to another, sampled and found within a pixel.
+/// Whether a line of a colour runs from one place to another: it is found next to each of many
+/// places between, where another line may cross it.
 bool has_line(const QImage& picture, QPointF from, QPointF to, QRgb color);
 
 std::vector<QPoint> pixels_of(const QImage& picture, QRgb color);

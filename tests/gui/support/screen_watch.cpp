@@ -22,14 +22,17 @@ bool input_ended() {
 void watch(const velquon::test::ScreenArea& area, unsigned long color) {
   constexpr int nothing_yet = -2;
   int shown = nothing_yet;
-  do {
+  bool is_last = false;
+  while (!is_last) {
+    // The last look comes after the end was asked for.
+    is_last = input_ended();
     const int count = velquon::test::count_screen_pixels(area, color);
     if (count != shown) {
       shown = count;
       std::printf("%d\n", count);
       std::fflush(stdout);
     }
-  } while (!input_ended());
+  }
 }
 
 }  // namespace

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QWidget>
+
+namespace velquon {
+
+/// The user's guide in a window of its own.
+class GuideWindow : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit GuideWindow(QWidget* parent = nullptr);
+};
+
+/// Tells what this program is, over a window.
+void show_about(QWidget* parent);
+
+}  // namespace velquon

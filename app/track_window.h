@@ -1,0 +1,37 @@
+#pragma once
+
+#include <memory>
+
+#include "app/gl_panel.h"
+
+namespace Ui {
+class Menus;
+}
+
+namespace velquon {
+
+class TrackController;
+class TrackPanel;
+
+/// The window of the live track, with its controller.
+class TrackWindow : public GLPanel {
+  Q_OBJECT
+
+ public:
+  explicit TrackWindow(const Ui::Menus& menus);
+  ~TrackWindow() override;
+
+  /// Puts menus and controls into their start-up state.
+  void awakeFromNib();
+
+  [[nodiscard]] TrackPanel& panel() { return *panel_; }
+  [[nodiscard]] TrackController& controller() { return *controller_; }
+
+ private:
+  void connectItems(const Ui::Menus& menus);
+
+  TrackPanel* panel_;
+  std::unique_ptr<TrackController> controller_;
+};
+
+}  // namespace velquon

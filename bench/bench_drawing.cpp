@@ -1,0 +1,123 @@
+// A drawing pass of the chamber view without bringing it to the screen: the array of cubes against
+// a cube a GLUT call, and against a pass without an event.
+//
+// The picture is drawn into a framebuffer object of the view's size, as a view draws into its own,
+// and every pass ends with glFinish, so that none is left in a queue when the clock is read.
+
+#include <GL/freeglut.h>
+#include <benchmark/benchmark.h>
+
+#include <QGuiApplication>
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
+#include <QOpenGLFramebufferObject>
+#include <cstdio>
+
+#include "bench/requirement.h"
+#include "bench/tracks.h"
+#include "chamber/chamber_scene.h"
+#include "chamber/cube_array.h"
+#include "platform/surface_format.h"
+
+namespace {
+
+using namespace velquon;
+
+constexpr int repetitions = 7;
+constexpr double shortest_time = 0.2;  // seconds of one repetition
+
+template <typename DrawEvent>
+void draw_passes(benchmark::State& state, DrawEvent draw_event) {
+  for ([[maybe_unused]] auto _ : state) {
+    glClear(GL_COLOR_BUFFER_BIT);
+    draw_chamber_frame(true);
+    draw_event();
+    glFinish();
+    // What a view does ahead of its next step; the picture is never the same twice.
+    glMatrixMode(GL_MODELVIEW);
+    glRotatef(0.5F, 0.0F, 0.0F, 1.0F);
+  }
+  if (glGetError() != GL_NO_ERROR) {
+    state.SkipWithError("OpenGL reports an error");
+  }
+  state.counters["passes/s"] =
+      benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
+}
+
+void empty_passes(benchmark::State& state) {
+  draw_passes(state, [] {});
+}
+
+void array_passes(benchmark::State& state) {
+  const auto points = bench::points_on_tracks(static_cast<int>(state.range()));
+  CubeArray cubes;
+  cubes.build(points, screen_cube_side);
+  draw_passes(state, [&] { cubes.draw(points.size()); });
+}
+
+void glut_passes(benchmark::State& state) {
+  const auto points = bench::points_on_tracks(static_cast<int>(state.range()));
+  draw_passes(state, [&] { draw_solid_cubes(points, screen_cube_side, false); });
+}
+
+/// A context with the chamber's viewpoint, drawing into a picture of the view's size.
+class Canvas {
+ public:
+  Canvas() {
+    surface_.create();
+    if (!context_.create() || !context_.makeCurrent(&surface_)) {
+      return;
+    }
+    picture_ = std::make_unique<QOpenGLFramebufferObject>(
+        chamber_width, chamber_height, QOpenGLFramebufferObject::CombinedDepthStencil);
+    ready_ = picture_->bind();
+    glViewport(0, 0, chamber_width, chamber_height);
+    glClearColor(0.0F, 0.0F, 0.0F, 0.0F);
+    load_resting_viewpoint();
+  }
+
+  [[nodiscard]] bool ready() const { return ready_; }
+
+ private:
+  QOffscreenSurface surface_;
+  QOpenGLContext context_;
+  std::unique_ptr<QOpenGLFramebufferObject> picture_;
+  bool ready_ = false;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  use_compatibility_contexts();
+  const QGuiApplication application(argc, argv);
+  glutInit(&argc, argv);
+  const Canvas canvas;
+  if (!canvas.ready()) {
+    std::fputs("bench_drawing: no OpenGL context\n", stderr);
+    return 1;
+  }
+  std::printf("OpenGL: %s\n", reinterpret_cast<const char*>(glGetString(GL_RENDERER)));
+
+  for (benchmark::internal::Benchmark* const measured :
+       {benchmark::RegisterBenchmark("empty", empty_passes),
+        benchmark::RegisterBenchmark("array", array_passes)->Arg(350)->Arg(5000),
+        benchmark::RegisterBenchmark("glut", glut_passes)->Arg(350)->Arg(5000)}) {
+    measured->Unit(benchmark::kMillisecond)
+        ->UseRealTime()
+        ->MeasureProcessCPUTime()
+        ->MinTime(shortest_time);
+  }
+  using velquon::bench::Bound;
+  using velquon::bench::Medians;
+  const auto rate = [](const Medians& medians, const std::string& name) {
+    return medians.of(name, "passes/s");
+  };
+  return velquon::bench::run_benchmarks(
+      argc, argv, repetitions,
+      {{"drawing 350 points, times a cube a GLUT call", Bound::at_least, 8.0,
+        [=](const Medians& m) { return rate(m, "array/350") / rate(m, "glut/350"); }},
+       {"drawing 5000 points, times a cube a GLUT call", Bound::at_least, 4.0,
+        [=](const Medians& m) { return rate(m, "array/5000") / rate(m, "glut/5000"); }},
+       {"drawing passes a second with 5000 points", Bound::at_least, 180.0,
+        [=](const Medians& m) { return rate(m, "array/5000"); }}});
+}

@@ -1,0 +1,131 @@
+// A step of the track window, drawn and brought to the screen, on a short and on a long track: it
+// draws the newest points over the picture, so what it costs must not grow with the track.
+//
+// The program's own window is up. Its step timer is stopped and the steps are made one by one, each
+// timed for itself. On the way to a long track the view is hidden, where a step draws nothing.
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QWindow>
+#include <cstdio>
+#include <limits>
+
+#include "app/application.h"
+#include "app/desktop.h"
+#include "app/menus.h"
+#include "app/track_window.h"
+#include "app/user_dialogs.h"
+#include "app/x_display.h"
+#include "bench/event_loop.h"
+#include "bench/requirement.h"
+#include "platform/value_slider.h"
+#include "track/new_track_view.h"
+#include "track/track_panel.h"
+#include "ui_menus.h"
+
+namespace {
+
+using namespace velquon;
+
+constexpr int repetitions = 7;
+constexpr int timed_steps = 150;
+
+// In this field a track of speed 1 is a circle of radius 100: half of it when the particle comes in
+// at the edge, and for ever when the field is switched on in the middle.
+constexpr float bending_field = 0.2F;
+constexpr int steps_to_the_middle = 245;
+
+void set_field(TrackWindow& window, float field) {
+  TrackPanel& panel = window.panel();
+  panel.vSlider()->setFloatValue(field);
+  panel.track_view()->setMagField(panel.vSlider());
+}
+
+void make_steps(NewTrackView& view, int points) {
+  while (view.is_tracking() && view.simulation().show_points() < points) {
+    view.TrackWithTimer(nullptr);
+  }
+}
+
+void step(benchmark::State& state, Application& application) {
+  TrackWindow& window = application.trackWindow();
+  NewTrackView& view = *window.panel().track_view();
+  const auto points = static_cast<int>(state.range());
+  const bool long_track = points > steps_to_the_middle;
+
+  view.setSpeed(1.0F);
+  set_field(window, long_track ? 0.0F : bending_field);
+  application.menus().items().inject_item->trigger();
+  bench::run_event_loop_until(
+      [&] { return view.trackTimer() != nullptr && view.trackTimer()->isActive(); });
+  view.trackTimer()->stop();
+  view.hide();
+  if (long_track) {
+    make_steps(view, steps_to_the_middle);
+    set_field(window, bending_field);
+  }
+  make_steps(view, points - 1);
+  view.show();
+  bench::run_event_loop(100);
+  make_steps(view, points);
+
+  for ([[maybe_unused]] auto _ : state) {
+    const int passes = view.passes();
+    QElapsedTimer clock;
+    clock.start();
+    view.TrackWithTimer(nullptr);
+    state.SetIterationTime(static_cast<double>(clock.nsecsElapsed()) * 1e-9);
+    if (view.passes() != passes + 1) {
+      state.SkipWithError("a step did not draw");
+      break;
+    }
+  }
+  if (view.simulation().show_points() < points + timed_steps) {
+    state.SkipWithError("the track ended early");
+  }
+  // The next run can be started when the particle has left.
+  view.hide();
+  set_field(window, 0.0F);
+  make_steps(view, std::numeric_limits<int>::max());
+  view.show();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (const std::string missing = missing_for_windows(); !missing.empty()) {
+    std::fprintf(stderr, "bench_track: %s\n", missing.c_str());
+    return 1;
+  }
+  prepare_desktop();
+  const QApplication qt_application(argc, argv);
+  finish_desktop(argc, argv);
+  DesktopDialogs dialogs;
+  Application application(1, dialogs);
+  application.showWindows();
+  application.menus().items().activate_item->trigger();
+  bench::run_event_loop_until([&] {
+    const QWindow* const window = application.trackWindow().windowHandle();
+    return window != nullptr && window->isExposed();
+  });
+  bench::run_event_loop(200);
+
+  const auto step_it = [&application](benchmark::State& state) { step(state, application); };
+  benchmark::RegisterBenchmark("step", step_it)
+      ->Arg(100)
+      ->Arg(9000)
+      ->Unit(benchmark::kMillisecond)
+      ->UseManualTime()
+      ->Iterations(timed_steps);
+  using velquon::bench::Bound;
+  using velquon::bench::Medians;
+  return velquon::bench::run_benchmarks(argc, argv, repetitions,
+                                        {{"track step after 9000 points, times one after 100",
+                                          Bound::at_most, 1.1, [](const Medians& m) {
+                                            return m.of("step/9000", "seconds") /
+                                                   m.of("step/100", "seconds");
+                                          }}});
+}

@@ -1,0 +1,132 @@
+#include "bench/requirement.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <fstream>
+#include <limits>
+
+namespace velquon::bench {
+
+namespace {
+
+/// The usual table on the console, of which the medians are kept.
+class KeepingReporter : public benchmark::ConsoleReporter {
+ public:
+  explicit KeepingReporter(Medians& medians) : ConsoleReporter(OO_Tabular), medians_(medians) {}
+
+  void ReportRuns(const std::vector<Run>& runs) override {
+    for (const Run& run : runs) {
+      if (run.error_occurred) {
+        failed_ = true;
+      } else if (run.aggregate_name == "median") {
+        const std::string name =
+            run.run_name.function_name + (run.run_name.args.empty() ? "" : "/" + run.run_name.args);
+        medians_.add(name, "seconds", run.real_accumulated_time);
+        for (const auto& [figure, counter] : run.counters) {
+          medians_.add(name, figure, counter.value);
+        }
+      }
+    }
+    ConsoleReporter::ReportRuns(runs);
+  }
+
+  [[nodiscard]] bool failed() const { return failed_; }
+
+ private:
+  Medians& medians_;
+  bool failed_ = false;
+};
+
+std::string with_three_digits(double value) {
+  std::array<char, 64> text{};
+  std::snprintf(text.data(), text.size(), value >= 1000.0 ? "%.0f" : "%.3g", value);
+  return text.data();
+}
+
+}  // namespace
+
+double Medians::of(const std::string& benchmark, const std::string& figure) const {
+  const auto row = values_.find(benchmark);
+  if (row != values_.end()) {
+    const auto value = row->second.find(figure);
+    if (value != row->second.end()) {
+      return value->second;
+    }
+  }
+  return std::numeric_limits<double>::quiet_NaN();
+}
+
+std::string take_option(int& argc, char** argv, std::string_view name) {
+  const std::string start = "--" + std::string(name) + "=";
+  char** const end = argv + argc;
+  char** const found = std::find_if(argv, end, [&](const char* argument) {
+    return std::string_view(argument).starts_with(start);
+  });
+  if (found == end) {
+    return {};
+  }
+  const std::string value = std::string(*found).substr(start.size());
+  std::rotate(found, found + 1, end);
+  --argc;
+  return value;
+}
+
+bool report_requirements(const Medians& medians, const std::vector<Requirement>& requirements,
+                         const std::string& file) {
+  std::ofstream lines;
+  if (!file.empty()) {
+    lines.open(file, std::ios::app);
+  }
+  bool measured = true;
+  for (const Requirement& requirement : requirements) {
+    const double figure = requirement.figure(medians);
+    const bool least = requirement.bound == Bound::at_least;
+    const bool holds = least ? figure >= requirement.limit : figure <= requirement.limit;
+    const char* verdict = holds ? "holds" : "MISSED";
+    if (std::isnan(figure)) {
+      verdict = "not measured";
+      measured = false;
+    }
+    const std::string bound =
+        (least ? "at least " : "at most ") + with_three_digits(requirement.limit);
+    std::printf("%-58s %8s  (%s: %s)\n", requirement.what.c_str(),
+                with_three_digits(figure).c_str(), bound.c_str(), verdict);
+    lines << requirement.what << '\t' << with_three_digits(figure) << '\t' << bound << '\t'
+          << verdict << '\n';
+  }
+  lines.flush();
+  return measured && (file.empty() || lines.good());
+}
+
+int run_benchmarks(int argc, char** argv, int repetitions,
+                   const std::vector<Requirement>& requirements) {
+  const std::string file = take_option(argc, argv, "requirements");
+  // The arguments of the command line come later and win.
+  std::array defaults{std::string("--benchmark_enable_random_interleaving=true"),
+                      std::string("--benchmark_report_aggregates_only=true"),
+                      "--benchmark_repetitions=" + std::to_string(repetitions)};
+  std::vector<char*> arguments{argv[0]};
+  for (std::string& option : defaults) {
+    arguments.push_back(option.data());
+  }
+  for (int i = 1; i < argc; ++i) {
+    arguments.push_back(argv[i]);
+  }
+  auto count = static_cast<int>(arguments.size());
+  arguments.push_back(nullptr);
+  benchmark::Initialize(&count, arguments.data());
+  if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) {
+    return 2;
+  }
+  Medians medians;
+  KeepingReporter reporter(medians);
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  benchmark::Shutdown();
+  return report_requirements(medians, requirements, file) && !reporter.failed() ? 0 : 1;
+}
+
+}  // namespace velquon::bench

@@ -1,0 +1,52 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <fstream>
+
+#include "events/event_types.h"
+#include "tests/support/event_making.h"
+
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define MEMORY_IS_WATCHED_ELSEWHERE
+#endif
+#elif defined(__SANITIZE_ADDRESS__)
+#define MEMORY_IS_WATCHED_ELSEWHERE
+#endif
+
+namespace velquon {
+namespace {
+
+/// Resident memory of this process, bytes.
+long resident_bytes() {
+  std::ifstream statm("/proc/self/statm");
+  long total = 0;
+  long resident = 0;
+  statm >> total >> resident;
+  return resident * ::sysconf(_SC_PAGESIZE);
+}
+
+void make_lambdas(int events) {
+  const ChamberValues values{.B_field = 2.0F, .sides_cm = 500.0F, .kinetic_Mev = 3000.0F};
+  TrackBuffer event;
+  for (int i = 0; i < events; ++i) {
+    ASSERT_EQ(make_event(testing::event_type("lambda"), values, event), HandOver::yes);
+  }
+}
+
+TEST(Memory, AHundredThousandLambdasInOneProcessDoNotMakeItGrow) {
+#ifdef MEMORY_IS_WATCHED_ELSEWHERE
+  GTEST_SKIP() << "the address sanitizer keeps freed memory and looks for leaks itself";
+#endif
+  std::srand(131);
+  make_lambdas(2000);
+  const long before = resident_bytes();
+  ASSERT_GT(before, 0);
+  make_lambdas(100000);
+  // One buffer of 350 points leaked in a hundred events would be 19 MB.
+  EXPECT_LT(resident_bytes() - before, 1L << 20U);
+}
+
+}  // namespace
+}  // namespace velquon

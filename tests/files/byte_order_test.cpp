@@ -1,0 +1,71 @@
+#include "files/byte_order.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <vector>
+
+#include "tests/files/hex_bytes.h"
+
+namespace velquon {
+namespace {
+
+using testing::hex_bytes;
+using testing::hex_text;
+
+template <std::size_t size>
+std::array<std::byte, size> counting_bytes() {
+  std::array<std::byte, size> bytes{};
+  for (std::size_t i = 0; i < size; ++i) {
+    bytes[i] = static_cast<std::byte>(i + 1);
+  }
+  return bytes;
+}
+
+template <std::size_t size>
+void expect_reversal(void (*swap)(std::span<std::byte, size>), const char* reversed) {
+  auto bytes = counting_bytes<size>();
+  swap(bytes);
+  EXPECT_EQ(hex_text(bytes), reversed);
+  swap(bytes);
+  EXPECT_EQ(bytes, counting_bytes<size>()) << "twice restores the input";
+}
+
+TEST(PcToMac, ShortSwapsItsTwoBytes) {
+  expect_reversal(pc_to_mac_short, "0201");
+}
+TEST(PcToMac, LongReversesFourBytes) {
+  expect_reversal(pc_to_mac_long, "04030201");
+}
+TEST(PcToMac, FloatReversesFourBytes) {
+  expect_reversal(pc_to_mac_float, "04030201");
+}
+TEST(PcToMac, DoubleReversesEightBytes) {
+  expect_reversal(pc_to_mac_double, "0807060504030201");
+}
+
+TEST(NumbersInFiles, BigEndianOnesHaveTheirHighByteFirst) {
+  const auto bytes = hex_bytes("FF 0102 FFFE 8000 3FF8000000000000 C000000000000000");
+  EXPECT_EQ(big_endian_short(bytes, 1), 258);
+  EXPECT_EQ(big_endian_short(bytes, 3), -2);
+  EXPECT_EQ(big_endian_short(bytes, 5), -32768);
+  EXPECT_EQ(big_endian_double(bytes, 7), 1.5);
+  EXPECT_EQ(big_endian_double(bytes, 15), -2.0);
+}
+
+TEST(NumbersInFiles, LittleEndianOnesHaveTheirLowByteFirst) {
+  const auto bytes = hex_bytes("FF 01000100 FEFFFFFF 000000000000F83F");
+  EXPECT_EQ(little_endian_long(bytes, 1), 65537);
+  EXPECT_EQ(little_endian_long(bytes, 5), -2);
+  EXPECT_EQ(little_endian_double(bytes, 9), 1.5);
+}
+
+TEST(NumbersInFiles, AreStoredBigEndian) {
+  std::vector<std::byte> bytes(12, std::byte{0xEE});
+  put_big_endian(bytes, 1, std::int16_t{-2});
+  put_big_endian(bytes, 3, 1.5);
+  EXPECT_EQ(hex_text(bytes), "EEFFFE3FF8000000000000EE");
+}
+
+}  // namespace
+}  // namespace velquon

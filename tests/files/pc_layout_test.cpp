@@ -1,0 +1,206 @@
+#include "files/pc_layout.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "tests/files/hex_bytes.h"
+#include "tests/support/case_name.h"
+
+namespace velquon {
+namespace {
+
+using testing::hex_bytes;
+using testing::put_hex;
+using Bytes = std::vector<std::byte>;
+
+// A file of two points, written down byte by byte.
+constexpr auto two_point_file =
+    "57 FFFFFFFFFFFFFFFF"                // 'W', a double that is not read
+    "0000000000407F40"                   // side: 500 cm
+    "00000000000014C0"                   // field: -5 kG
+    "9A9999999999D93F"                   // energy: 0.4 MeV
+    "FFFFFFFFFFFFFFFF FFFFFFFFFFFFFFFF"  // not read
+    "02000000"                           // two points
+    "000000000000F83F"                   // x = 1.5
+    "00000000000000C0"                   // y = -2
+    "9A9999999999B93F"                   // z = 0.1
+    "000000000000F03F"                   // 1
+    "000000000000D03F"                   // time = 0.25
+    "07000000 FFFFFFFF"                  // code 7, padding
+    "0000000000002240"                   // x = 9
+    "0000000000000000 0000000000000000"  //
+    "000000000000F03F"                   //
+    "0000000000000080"                   // time = -0
+    "04000000 00000000";                 // code 4
+
+constexpr std::size_t side_offset = 9;
+constexpr std::size_t field_offset = 17;
+constexpr std::size_t energy_offset = 25;
+constexpr std::size_t count_offset = 49;
+constexpr std::size_t code_offset = 53 + 40;
+
+bool refused(const ReadResult& result) {
+  const auto* refusal = std::get_if<Refusal>(&result);
+  return refusal != nullptr && *refusal == Refusal::bad_data;
+}
+
+TEST(PcLayout, AFileOfTwoPointsIsRead) {
+  const auto result = read_pc_layout(1, hex_bytes(two_point_file));
+  const auto* event = std::get_if<StoredEvent>(&result);
+  ASSERT_NE(event, nullptr);
+  const std::vector<PlotPoint> expected{{.coords = {1.5, -2.0, 0.1, 1.0}, .time = 0.25, .code = 2},
+                                        {.coords = {9.0, 0.0, 0.0, 1.0}, .time = -0.0, .code = 4}};
+  EXPECT_EQ(event->points, expected);
+  EXPECT_EQ(event->values.sides_cm, 500.0F);
+  EXPECT_EQ(event->values.kinetic_Mev, 0.4F);
+}
+
+TEST(PcLayout, ANegativeFieldBecomesItsAbsoluteValueAndIsReported) {
+  const auto result = read_pc_layout(1, hex_bytes(two_point_file));
+  ASSERT_TRUE(std::holds_alternative<StoredEvent>(result));
+  EXPECT_EQ(std::get<StoredEvent>(result).values.B_field, 5.0F);
+  EXPECT_TRUE(std::get<StoredEvent>(result).field_was_negative);
+}
+
+struct FieldCase {
+  const char* name;
+  const char* digits;
+  float field;
+  bool reported;
+};
+
+TEST(PcLayout, OnlyAFieldBelow0IsReported) {
+  for (const FieldCase& row :
+       {FieldCase{"5", "0000000000001440", 5.0F, false},
+        FieldCase{"0", "0000000000000000", 0, false},
+        FieldCase{"-0", "0000000000000080", -0.0F, false},
+        FieldCase{"too small for single precision, yet below 0", "0100000000000080", 0.0F, true}}) {
+    SCOPED_TRACE(row.name);
+    Bytes file = hex_bytes(two_point_file);
+    put_hex(file, field_offset, row.digits);
+    const auto result = read_pc_layout(1, file);
+    ASSERT_TRUE(std::holds_alternative<StoredEvent>(result));
+    const auto& event = std::get<StoredEvent>(result);
+    EXPECT_EQ(event.values.B_field, row.field);
+    EXPECT_EQ(std::signbit(event.values.B_field), std::signbit(row.field));
+    EXPECT_EQ(event.field_was_negative, row.reported);
+  }
+}
+
+TEST(PcLayout, WithoutATagTheHeaderBeginsAtTheFirstByte) {
+  const Bytes file = hex_bytes(two_point_file);
+  const auto result = read_pc_layout(0, std::span(file).subspan(1));
+  ASSERT_TRUE(std::holds_alternative<StoredEvent>(result));
+  EXPECT_EQ(std::get<StoredEvent>(result).points.size(), 2U);
+  EXPECT_EQ(std::get<StoredEvent>(result).points[0].coords[0], 1.5);
+}
+
+struct CodeCase {
+  const char* name;
+  const char* digits;
+  std::int16_t code;
+};
+
+class PcCode : public ::testing::TestWithParam<CodeCase> {};
+
+TEST_P(PcCode, IsMappedAs32BitsBeforeItIsCut) {
+  Bytes file = hex_bytes(two_point_file);
+  put_hex(file, code_offset, GetParam().digits);
+  PlotPoint point{.code = 99};
+  pc_to_mac_plot_point(point, std::span(file).subspan(53).first<WP_plot_point_size>());
+  EXPECT_EQ(point.code, GetParam().code);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Codes, PcCode,
+    ::testing::Values(CodeCase{"SevenBecomesTwo", "07000000", 2},
+                      CodeCase{"ZeroStays", "00000000", 0}, CodeCase{"OneStays", "01000000", 1},
+                      CodeCase{"TwoStays", "02000000", 2}, CodeCase{"EightStays", "08000000", 8},
+                      CodeCase{"LowBitsOf65537AreOne", "01000100", 1},
+                      CodeCase{"LowBitsOf65543StaySeven", "07000100", 7},
+                      CodeCase{"MinusOneStays", "FFFFFFFF", -1},
+                      CodeCase{"LowBitsOf32768AreNegative", "00800000", -32768}),
+    testing::case_name<CodeCase>);
+
+struct CountCase {
+  const char* name;
+  std::size_t length_for;
+  const char* digits;
+  bool accepted;
+};
+
+class PcCount : public ::testing::TestWithParam<CountCase> {};
+
+TEST_P(PcCount, IsAcceptedFrom1To5000) {
+  const CountCase& row = GetParam();
+  Bytes file = hex_bytes(two_point_file);
+  file.resize(53 + 48 * row.length_for);
+  put_hex(file, count_offset, row.digits);
+  const auto result = read_pc_layout(1, file);
+  EXPECT_EQ(!refused(result), row.accepted);
+  if (row.accepted) {
+    EXPECT_EQ(std::get<StoredEvent>(result).points.size(), row.length_for);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Counts, PcCount,
+                         ::testing::Values(CountCase{"One", 1, "01000000", true},
+                                           CountCase{"FiveThousand", 5000, "88130000", true},
+                                           CountCase{"Zero", 5001, "00000000", false},
+                                           CountCase{"FiveThousandAndOne", 5001, "89130000", false},
+                                           CountCase{"MinusOne", 5001, "FFFFFFFF", false},
+                                           CountCase{"OneInItsLow16BitsOnly", 5001, "01000100",
+                                                     false},
+                                           CountCase{"MostNegative", 5001, "00000080", false},
+                                           CountCase{"MostPositive", 5001, "FFFFFF7F", false}),
+                         testing::case_name<CountCase>);
+
+TEST(PcLayout, AFileCutAnywhereIsRefused) {
+  const Bytes file = hex_bytes(two_point_file);
+  ASSERT_EQ(file.size(), 53U + 2 * 48);
+  for (std::size_t size = 1; size < file.size(); ++size) {
+    EXPECT_TRUE(refused(read_pc_layout(1, std::span(file).first(size)))) << size << " bytes";
+  }
+  EXPECT_FALSE(refused(read_pc_layout(1, file)));
+}
+
+TEST(PcLayout, BytesBeyondTheLastRecordAreIgnored) {
+  Bytes file = hex_bytes(two_point_file);
+  file.resize(file.size() + 7, std::byte{0xFF});
+  EXPECT_FALSE(refused(read_pc_layout(1, file)));
+}
+
+struct ValueCase {
+  const char* name;
+  std::size_t offset;
+  const char* digits;
+};
+
+class PcValue : public ::testing::TestWithParam<ValueCase> {};
+
+TEST_P(PcValue, IsRefusedWhenNoChamberCanHaveIt) {
+  Bytes file = hex_bytes(two_point_file);
+  put_hex(file, GetParam().offset, GetParam().digits);
+  EXPECT_TRUE(refused(read_pc_layout(1, file)));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Values, PcValue,
+    ::testing::Values(ValueCase{"SideOfZero", side_offset, "0000000000000000"},
+                      ValueCase{"NegativeSide", side_offset, "0000000000407FC0"},
+                      ValueCase{"SideNotANumber", side_offset, "000000000000F87F"},
+                      ValueCase{"SideInfinite", side_offset, "000000000000F07F"},
+                      ValueCase{"FieldNotANumber", field_offset, "000000000000F8FF"},
+                      ValueCase{"FieldInfinite", field_offset, "000000000000F0FF"},
+                      ValueCase{"NegativeEnergy", energy_offset, "000000000000F0BF"},
+                      ValueCase{"NegativeEnergyTooSmallForSinglePrecision", energy_offset,
+                                "59F3F8C21F6EA581"},
+                      ValueCase{"EnergyNotANumber", energy_offset, "010000000000F07F"},
+                      ValueCase{"EnergyInfinite", energy_offset, "000000000000F07F"}),
+    testing::case_name<ValueCase>);
+
+}  // namespace
+}  // namespace velquon

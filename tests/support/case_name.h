@@ -1,0 +1,15 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace velquon::testing {
+
+/// Names a row of a table-driven test after its `name`.
+template <typename Case>
+std::string case_name(const ::testing::TestParamInfo<Case>& row) {
+  return row.param.name;
+}
+
+}  // namespace velquon::testing

@@ -1,0 +1,16 @@
+#include "tests/support/float_traps.h"
+
+#include <cfenv>
+
+namespace velquon::testing {
+
+FloatTraps::FloatTraps() {
+  std::feclearexcept(FE_ALL_EXCEPT);
+  ::feenableexcept(FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW);
+}
+
+FloatTraps::~FloatTraps() {
+  ::fedisableexcept(FE_ALL_EXCEPT);
+}
+
+}  // namespace velquon::testing

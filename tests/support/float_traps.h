@@ -1,0 +1,15 @@
+#pragma once
+
+namespace velquon::testing {
+
+/// While one lives, an invalid operation, a division by zero or an overflow in floating point ends
+/// the test program (SIGFPE). Not for walks that need a NaN.
+class FloatTraps {
+ public:
+  FloatTraps();
+  ~FloatTraps();
+  FloatTraps(const FloatTraps&) = delete;
+  FloatTraps& operator=(const FloatTraps&) = delete;
+};
+
+}  // namespace velquon::testing

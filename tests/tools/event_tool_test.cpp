@@ -1,0 +1,208 @@
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "files/event_file.h"
+#include "tests/support/event_making.h"
+#include "tests/support/temporary_folder.h"
+#include "tests/tools/tool_run.h"
+#include "tools/microsecond_seed.h"
+
+// Runs of the real program.
+
+namespace velquon {
+namespace {
+
+using testing::is_one_message;
+using testing::run_tool;
+using testing::TemporaryFolder;
+using Names = std::vector<std::string>;
+using Words = std::vector<std::string>;
+
+TEST(EventTool, TheSameSeedMakesTheSameBytes) {
+  for (const char* type : {"pi-", "pi+", "pi0", "mu-", "mu+", "lambda"}) {
+    const Words words{"--type", type, "--seed", "5", "--events", "20", "--energy", "80"};
+    const auto first = run_tool(words);
+    EXPECT_EQ(first.status, 0);
+    EXPECT_EQ(first.messages, "");
+    EXPECT_GT(first.out.size(), 100U);
+    EXPECT_EQ(run_tool(words).out, first.out);
+  }
+}
+
+TEST(EventTool, AnotherSeedMakesOtherEvents) {
+  EXPECT_NE(run_tool({"--type", "pi+", "--seed", "1"}).out,
+            run_tool({"--type", "pi+", "--seed", "2"}).out);
+}
+
+TEST(EventTool, WithoutASeedTwoRunsDiffer) {
+  EXPECT_NE(run_tool({"--type", "pi+", "--events", "20"}).out,
+            run_tool({"--type", "pi+", "--events", "20"}).out);
+}
+
+TEST(MicrosecondSeed, GoesOnWithTheClock) {
+  const std::uint32_t first = microsecond_seed();
+  ::usleep(2000);
+  const std::uint32_t passed = microsecond_seed() - first;  // wraps round like the clock's low bits
+  EXPECT_GE(passed, 2000U);
+  EXPECT_LT(passed, 60U * 1000000U);
+}
+
+TEST(EventTool, EventsComeFromOneStreamSoAShorterRunIsTheBeginningOfALongerOne) {
+  const auto two = run_tool({"--type", "pi+", "--seed", "3", "--events", "2"});
+  const auto five = run_tool({"--type", "pi+", "--seed", "3", "--events", "5"});
+  EXPECT_TRUE(five.out.starts_with(two.out));
+  EXPECT_GT(five.out.size(), two.out.size());
+}
+
+TEST(EventTool, TheFirstEventIsTheSeededEvent) {
+  const auto run = run_tool({"--type", "mu+", "--seed", "8", "--field", "1", "--energy", "1"});
+  const auto points =
+      testing::seeded_event("mu+", {.B_field = 1.0F, .sides_cm = 500.0F, .kinetic_Mev = 1.0F}, 8);
+  ASSERT_FALSE(points.empty());
+  EXPECT_EQ(static_cast<std::size_t>(std::ranges::count(run.out, '\n')), points.size() + 1);
+}
+
+TEST(EventTool, NoEventsAreAHeader) {
+  EXPECT_EQ(run_tool({"--type", "pi+", "--events", "0"}).out, "event,point,x,y,z,code\n");
+}
+
+TEST(EventTool, HelpAndVersionGoToStandardOutput) {
+  for (const char* word : {"--help", "--version"}) {
+    const auto run = run_tool({word});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_NE(run.out, "");
+    EXPECT_EQ(run.messages, "");
+  }
+}
+
+TEST(EventTool, ABadArgumentEndsWithStatus2AndOneLineAndNoOutput) {
+  for (const Words& words :
+       {Words{}, Words{"--type", "kaon"}, Words{"--type", "pi-", "--side", "0"},
+        Words{"--type", "pi-", "--bogus"}}) {
+    const auto run = run_tool(words);
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.out, "");
+    EXPECT_TRUE(is_one_message(run.messages)) << run.messages;
+  }
+}
+
+TEST(EventTool, AFullOutputEndsWithStatus1AndOneLine) {
+  for (const char* events : {"1", "2000"}) {
+    const auto run = run_tool({"--type", "pi+", "--events", events}, "/dev/full");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.messages,
+              "velquon-events: cannot write standard output: No space left on device\n");
+  }
+}
+
+TEST(EventFiles, AreNumberedFrom1WithSixDigitsAndHoldTheEvents) {
+  const TemporaryFolder folder;
+  const auto run = run_tool({"--type", "pi-", "--seed", "4", "--events", "12", "--field", "2",
+                             "--format", "cwd", "--output", folder.path()});
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(run.out, "");
+  EXPECT_EQ(run.messages, "velquon-events: 0 of 12 events had no points and got no file\n");
+  const Names names = folder.names();
+  ASSERT_EQ(names.size(), 12U);
+  EXPECT_EQ(names.front(), "event-000001.cwd");
+  EXPECT_EQ(names.back(), "event-000012.cwd");
+
+  const ChamberValues values{.B_field = 2.0F, .sides_cm = 500.0F, .kinetic_Mev = 0.4F};
+  const auto result = read_event_file(testing::file_bytes(folder.path() / names.front()));
+  ASSERT_TRUE(std::holds_alternative<StoredEvent>(result));
+  const auto& event = std::get<StoredEvent>(result);
+  EXPECT_EQ(event.points, testing::seeded_event("pi-", values, 4));
+  EXPECT_EQ(event.values.B_field, 2.0F) << "the field is stored as it was set, not flipped";
+  EXPECT_EQ(event.values.sides_cm, 500.0F);
+  EXPECT_EQ(event.values.kinetic_Mev, 0.4F);
+}
+
+TEST(EventFiles, EventsWithoutPointsGetNoFileAndAreCounted) {
+  const TemporaryFolder folder;
+  // In 1 m a photon's steps of 40 cm often leave the chamber, and a slow one never converts.
+  const auto run = run_tool({"--type", "pi0", "--seed", "6", "--events", "40", "--side", "100",
+                             "--energy", "100", "--format", "cwd", "--output", folder.path()});
+  EXPECT_EQ(run.status, 0);
+  const std::size_t files = folder.names().size();
+  ASSERT_GT(files, 0U);
+  ASSERT_LT(files, 40U);
+  EXPECT_EQ(run.messages, "velquon-events: " + std::to_string(40 - files) +
+                              " of 40 events had no points and got no file\n");
+  for (const std::string& name : folder.names()) {
+    const auto result = read_event_file(testing::file_bytes(folder.path() / name));
+    EXPECT_TRUE(std::holds_alternative<StoredEvent>(result)) << name;
+  }
+}
+
+TEST(EventFiles, AreReplacedByALaterRun) {
+  const TemporaryFolder folder;
+  const Words words{"--type", "mu+", "--seed", "4", "--format", "cwd", "--output", folder.path()};
+  std::ofstream(folder.path() / "event-000001.cwd") << std::string(100000, 'x');
+  EXPECT_EQ(run_tool(words).status, 0);
+  const auto result = read_event_file(testing::file_bytes(folder.path() / "event-000001.cwd"));
+  EXPECT_TRUE(std::holds_alternative<StoredEvent>(result));
+  EXPECT_EQ(folder.names(), Names{"event-000001.cwd"});
+}
+
+/// Expects a run into a folder to fail with this one line.
+void expect_failure(const std::filesystem::path& folder, const std::string& reason) {
+  const auto run =
+      run_tool({"--type", "mu+", "--seed", "4", "--format", "cwd", "--output", folder.string()});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.messages, "velquon-events: cannot write " + (folder / "event-000001.cwd").string() +
+                              ": " + reason + "\n");
+}
+
+TEST(EventFiles, AMissingFolderIsNamedWithTheReason) {
+  const TemporaryFolder folder;
+  expect_failure(folder.path() / "missing", "No such file or directory");
+  EXPECT_EQ(folder.names(), Names{});
+}
+
+TEST(EventFiles, AFileInsteadOfAFolderIsNamedWithTheReason) {
+  const TemporaryFolder folder;
+  std::ofstream(folder.path() / "file") << "kept";
+  expect_failure(folder.path() / "file", "Not a directory");
+  EXPECT_EQ(testing::file_text(folder.path() / "file"), "kept");
+}
+
+TEST(EventFiles, AFolderThatTakesNoFilesIsNamedWithTheReason) {
+  // Nobody can make a file there, not even the superuser.
+  expect_failure("/proc", "No such file or directory");
+}
+
+TEST(EventFiles, AFolderThatCannotBeWrittenIsNamedWithTheReason) {
+  if (::geteuid() == 0) {
+    GTEST_SKIP() << "the superuser may write into every folder";
+  }
+  const TemporaryFolder folder;
+  std::filesystem::permissions(
+      folder.path(), std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+  expect_failure(folder.path(), "Permission denied");
+  std::filesystem::permissions(folder.path(), std::filesystem::perms::owner_all);
+  EXPECT_EQ(folder.names(), Names{});
+}
+
+TEST(EventFiles, AFileSizeLimitIsNamedWithTheReasonAndLeavesNoHalfFile) {
+  const TemporaryFolder folder;
+  std::ofstream(folder.path() / "event-000001.cwd") << "the old event";
+  rlimit old_limit{};
+  ::getrlimit(RLIMIT_FSIZE, &old_limit);
+  const rlimit limit{400, old_limit.rlim_max};
+  ::setrlimit(RLIMIT_FSIZE, &limit);
+  expect_failure(folder.path(), "File too large");
+  ::setrlimit(RLIMIT_FSIZE, &old_limit);
+  EXPECT_EQ(folder.names(), Names{"event-000001.cwd"});
+  EXPECT_EQ(testing::file_text(folder.path() / "event-000001.cwd"), "the old event");
+}
+
+}  // namespace
+}  // namespace velquon

@@ -1,0 +1,110 @@
+#include "track/track_panel.h"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+#include "tests/track/track_rig.h"
+
+// What the track window holds and how it is reached.
+
+namespace velquon {
+namespace {
+
+using testing::TrackRig;
+
+QString accessible_name(QWidget* widget) {
+  return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+}
+
+TEST(TrackPanel, HasTheControlsByTheirNames) {
+  const TrackPanel panel;
+  EXPECT_EQ(panel.track_view()->objectName(), QStringLiteral("track_view"));
+  EXPECT_EQ(panel.vSlider()->objectName(), QStringLiteral("vSlider"));
+  EXPECT_EQ(panel.field_text()->objectName(), QStringLiteral("field_text"));
+  EXPECT_EQ(panel.tape_box()->objectName(), QStringLiteral("tape_box"));
+  EXPECT_EQ(panel.inject_button()->objectName(), QStringLiteral("inject_button"));
+  EXPECT_EQ(panel.clear_button()->objectName(), QStringLiteral("clear_button"));
+}
+
+TEST(TrackPanel, HasAFieldSliderFromMinusOneToOne) {
+  const TrackPanel panel;
+  EXPECT_EQ(panel.vSlider()->minValue(), -1.0);
+  EXPECT_EQ(panel.vSlider()->maxValue(), 1.0);
+  EXPECT_EQ(panel.vSlider()->tickMarks(), 21);
+  EXPECT_EQ(panel.vSlider()->orientation(), Qt::Vertical);
+  EXPECT_EQ(panel.vSlider()->doubleValue(), 0.0);
+  EXPECT_EQ(panel.field_text()->text(), QStringLiteral("B = 0.00"));
+  EXPECT_EQ(panel.tape_box()->text(), QString());
+}
+
+TEST(TrackPanel, TellsScreenReadersWhatItsControlsAre) {
+  const TrackPanel panel;
+  EXPECT_EQ(accessible_name(panel.vSlider()), QStringLiteral("Magnetic field"));
+  EXPECT_EQ(accessible_name(panel.inject_button()), QStringLiteral("Inject"));
+  EXPECT_EQ(accessible_name(panel.clear_button()), QStringLiteral("Clear"));
+  EXPECT_EQ(accessible_name(panel.track_view()), QStringLiteral("Track"));
+  EXPECT_EQ(accessible_name(panel.field_text()), panel.field_text()->text());
+  panel.tape_box()->setText(QStringLiteral("D = 12.34"));
+  EXPECT_EQ(accessible_name(panel.tape_box()), QStringLiteral("D = 12.34"));
+}
+
+TEST(TrackPanel, IsWalkedThroughByTheTabKey) {
+  TrackRig rig;
+  rig.activate();
+  const std::vector<QWidget*> order{rig.slider, rig.panel->inject_button(),
+                                    rig.panel->clear_button()};
+  order.front()->setFocus();
+  for (QWidget* widget : order) {
+    EXPECT_EQ(rig.window->focusWidget(), widget);
+    QTest::keyClick(rig.window->focusWidget(), Qt::Key_Tab);
+  }
+  EXPECT_EQ(rig.window->focusWidget(), order.front());
+}
+
+TEST(TrackPanel, KeysMoveTheFieldByATenthOfATickAndByATick) {
+  const TrackRig rig;
+  const std::vector<std::pair<Qt::Key, double>> moves{{Qt::Key_Up, 0.01},  {Qt::Key_PageUp, 0.11},
+                                                      {Qt::Key_Down, 0.1}, {Qt::Key_Home, -1.0},
+                                                      {Qt::Key_End, 1.0},  {Qt::Key_PageDown, 0.9}};
+  for (const auto& [key, field] : moves) {
+    QTest::keyClick(rig.slider, key);
+    EXPECT_NEAR(rig.view->simulation().settings.B_field, field, 1.0e-7);
+    EXPECT_EQ(rig.panel->field_text()->text(), QString::asprintf("B = %.2f", field));
+  }
+}
+
+TEST(TrackPanel, ItsButtonsStandForTheMenuItems) {
+  TrackRig rig;
+  rig.activate();
+  rig.inject_item->setEnabled(false);
+  EXPECT_FALSE(rig.panel->inject_button()->isEnabled());
+  rig.inject_item->setEnabled(true);
+  EXPECT_TRUE(rig.panel->inject_button()->isEnabled());
+  QTest::mouseClick(rig.panel->inject_button(), Qt::LeftButton);
+  EXPECT_TRUE(rig.view->is_tracking());
+  QTest::mouseClick(rig.panel->clear_button(), Qt::LeftButton);
+  EXPECT_TRUE(rig.view->simulation().clear_signal());
+  rig.clear_item->setEnabled(false);
+  EXPECT_FALSE(rig.panel->clear_button()->isEnabled());
+}
+
+TEST(TrackPanel, CutsNoTextOff) {
+  TrackRig rig;
+  rig.activate();
+  rig.panel->tape_box()->setText(QStringLiteral("D = 66.94"));
+  rig.panel->field_text()->setText(QStringLiteral("B = -0.88"));
+  for (const QLabel* label : rig.panel->findChildren<QLabel*>()) {
+    EXPECT_GE(label->width(), label->sizeHint().width()) << label->text().toStdString();
+    EXPECT_GE(label->height(), label->sizeHint().height()) << label->text().toStdString();
+  }
+  for (const QPushButton* button : rig.panel->findChildren<QPushButton*>()) {
+    EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
+  }
+}
+
+}  // namespace
+}  // namespace velquon

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QAction>
+#include <QImage>
+#include <QMainWindow>
+#include <QMenu>
+#include <QPoint>
+#include <array>
+#include <memory>
+#include <vector>
+
+#include "platform/value_slider.h"
+#include "track/new_track_view.h"
+#include "track/track_controller.h"
+#include "track/track_panel.h"
+
+namespace velquon::testing {
+
+/// A window that tells when it becomes active and when it no longer is.
+class KeyWindow : public QMainWindow {
+  Q_OBJECT
+
+ Q_SIGNALS:
+  void becameKey();
+  void resignedKey();
+
+ protected:
+  void changeEvent(QEvent* event) override;
+};
+
+/// The track window with menus of its own and of a program around it. Made hidden and inactive.
+class TrackRig {
+ public:
+  TrackRig();
+  ~TrackRig();
+  TrackRig(const TrackRig&) = delete;
+  TrackRig& operator=(const TrackRig&) = delete;
+
+  /// Activates the window by its menu item and waits until it is there.
+  void activate();
+  /// Deactivates it likewise and waits until another has the keyboard.
+  void deactivate();
+
+  /// Injects by the menu item and waits for the start; the timer stands still then.
+  void injectAndHold();
+  /// Steps of the held run.
+  void step(int count);
+  /// Steps while the window is out of sight, which costs no drawing.
+  void stepHidden(int count);
+  /// Injects, flies straight on and circles then with a field.
+  void injectAndCircle(int straight_steps, double field, int steps);
+
+  /// Waits for the end of a run that goes on by its timer.
+  [[nodiscard]] bool waitForEnd() const;
+
+  [[nodiscard]] QImage picture() const { return view->grabFramebuffer(); }
+  /// The pixels of a kind, in view coordinates.
+  [[nodiscard]] std::vector<QPoint> whitePixels() const;
+  [[nodiscard]] std::vector<QPoint> redPixels() const;
+
+  KeyWindow* window = nullptr;
+  TrackPanel* panel = nullptr;
+  NewTrackView* view = nullptr;
+  ValueSlider* slider = nullptr;
+
+  QAction open_item, save_item;
+  QMenu action_menu, settings_menu, event_menu, axis_menu;
+  QAction *new_event_item = nullptr, *show_axes_item = nullptr, *pion_item = nullptr;
+
+  QMenu track_menu, particle_menu, direction_menu, velocity_menu, speed_menu;
+  QAction *activate_item = nullptr, *inject_item = nullptr, *clear_item = nullptr;
+  QAction *electron_item = nullptr, *positron_item = nullptr;
+  QAction *LtoR_item = nullptr, *RtoL_item = nullptr;
+  QAction *v_item = nullptr, *two_v_item = nullptr, *three_v_item = nullptr;
+  QAction *faster_item = nullptr, *default_item = nullptr, *slower_item = nullptr;
+
+  std::unique_ptr<TrackController> controller;
+
+ private:
+  void makeMenus();
+};
+
+}  // namespace velquon::testing

@@ -1,0 +1,282 @@
+#include "track/new_track_view.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QTest>
+#include <QTimer>
+
+#include "tests/track/track_rig.h"
+
+// The view's runs: timer, injection, cursors, and what was there before the timer.
+
+namespace velquon {
+namespace {
+
+using testing::TrackRig;
+
+class TrackView : public ::testing::Test {
+ protected:
+  TrackRig rig;
+};
+
+TEST_F(TrackView, BeginsWithoutARunOrATimer) {
+  EXPECT_FALSE(rig.view->is_tracking());
+  EXPECT_EQ(rig.view->trackTimer(), nullptr);
+  EXPECT_EQ(rig.view->simulation().show_points(), 0);
+  EXPECT_EQ(rig.view->musecs(), 4000);
+  EXPECT_EQ(rig.view->tapeLength(), 0.0);
+}
+
+TEST_F(TrackView, ARunOfItsTimerCrossesTheAreaAndEnds) {
+  rig.activate();
+  rig.three_v_item->trigger();
+  rig.faster_item->trigger();
+  QElapsedTimer clock;
+  clock.start();
+  rig.panel->inject_button()->click();
+  EXPECT_TRUE(rig.view->is_tracking());
+  EXPECT_EQ(rig.view->trackTimer(), nullptr) << "the start comes from the event loop";
+  ASSERT_TRUE(rig.waitForEnd());
+  // 164 steps bring the particle from 0 to 492, and the next firing ends the run.
+  EXPECT_GE(clock.elapsed(), 165 * 5 * 9 / 10) << "no faster than its timer";
+  EXPECT_FALSE(rig.view->is_tracking());
+  EXPECT_EQ(rig.view->simulation().show_points(), 165);
+  EXPECT_EQ(rig.view->simulation().x_points().back(), 492.0F);
+  EXPECT_EQ(rig.view->simulation().y_points().back(), 228.0F);
+}
+
+TEST_F(TrackView, EveryStepIsDrawnAtOnce) {
+  rig.activate();
+  rig.injectAndHold();
+  for (int step = 0; step < 5; ++step) {
+    const int before = rig.view->passes();
+    rig.step(1);
+    EXPECT_EQ(rig.view->passes(), before + 1);
+  }
+  // The end is no step.
+  while (rig.view->simulation().canStep()) {
+    rig.step(1);
+  }
+  const int before = rig.view->passes();
+  rig.step(1);
+  EXPECT_EQ(rig.view->passes(), before);
+  EXPECT_FALSE(rig.view->is_tracking());
+}
+
+TEST_F(TrackView, ASecondInjectionStartsOverWithOneTimer) {
+  rig.activate();
+  rig.injectAndHold();
+  rig.step(50);
+  rig.view->trackTimer()->start();
+  rig.RtoL_item->setEnabled(true);
+  rig.RtoL_item->trigger();
+  rig.view->injectParticle(rig.inject_item);
+  rig.view->injectParticle(rig.inject_item);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return rig.view->simulation().stepping().old_x == 490.0; }));
+  EXPECT_EQ(rig.view->simulation().stepping().istep, 1);
+  QTest::qWait(20);
+  EXPECT_EQ(rig.view->findChildren<QTimer*>().size(), 0);
+  EXPECT_TRUE(rig.view->trackTimer()->isActive());
+  EXPECT_TRUE(rig.view->is_tracking());
+}
+
+TEST_F(TrackView, DeactivatedDuringARunItsParticleFliesOnUntilItLeaves) {
+  rig.activate();
+  rig.faster_item->trigger();
+  rig.inject_item->trigger();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return rig.view->simulation().show_points() > 5; }));
+  rig.deactivate();
+  EXPECT_FALSE(rig.window->isVisible());
+  EXPECT_FALSE(rig.view->is_tracking());
+  EXPECT_TRUE(rig.view->trackTimer()->isActive());
+  const std::int32_t points = rig.view->simulation().show_points();
+  ASSERT_TRUE(rig.waitForEnd());
+  EXPECT_GT(rig.view->simulation().show_points(), points);
+  EXPECT_FALSE(rig.view->simulation().canStep());
+  EXPECT_TRUE(rig.new_event_item->isEnabled()) << "the end does not switch the menus";
+}
+
+TEST_F(TrackView, ClosedDuringAnInjectionItRunsOutOfSight) {
+  rig.activate();
+  rig.faster_item->trigger();
+  rig.inject_item->trigger();
+  rig.window->close();
+  ASSERT_TRUE(rig.waitForEnd());
+  EXPECT_FALSE(rig.view->is_tracking());
+  EXPECT_TRUE(rig.controller->activated());
+}
+
+TEST_F(TrackView, TheCrossHairIsThereDuringARun) {
+  rig.activate();
+  EXPECT_EQ(rig.view->cursor().shape(), Qt::ArrowCursor);
+  rig.injectAndHold();
+  EXPECT_EQ(rig.view->cursor().pixmap().toImage(),
+            rig.view->cross_hair_cursor().pixmap().toImage());
+  EXPECT_EQ(rig.view->cursor().hotSpot(), QPoint(7, 7));
+  while (rig.view->is_tracking()) {
+    rig.step(1);
+  }
+  EXPECT_EQ(rig.view->cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(TrackView, HasTwoCrossHairs) {
+  EXPECT_FALSE(rig.view->cross_hair_cursor().pixmap().isNull());
+  EXPECT_FALSE(rig.view->black_cursor().pixmap().isNull());
+  EXPECT_EQ(rig.view->black_cursor().hotSpot(), QPoint(7, 7));
+  EXPECT_NE(rig.view->black_cursor().pixmap().toImage(),
+            rig.view->cross_hair_cursor().pixmap().toImage());
+}
+
+TEST_F(TrackView, ItsTimerCanBeReplaced) {
+  auto timer = std::make_unique<QTimer>();
+  const QTimer* given = timer.get();
+  rig.view->setTrackTimer(std::move(timer));
+  EXPECT_EQ(rig.view->trackTimer(), given);
+}
+
+struct FieldCase {
+  double slider, field;
+};
+
+class TrackField : public ::testing::TestWithParam<FieldCase> {};
+
+TEST_P(TrackField, SnapsToATickThatIsNextToIt) {
+  const TrackRig rig;
+  rig.slider->moveTo(GetParam().slider);
+  // The slider holds 32 bits of its value.
+  EXPECT_NEAR(rig.view->simulation().settings.B_field, GetParam().field, 1.0e-7);
+  EXPECT_EQ(rig.panel->field_text()->text(),
+            QString::asprintf("B = %.2f", rig.view->simulation().settings.B_field));
+}
+
+INSTANTIATE_TEST_SUITE_P(Values, TrackField,
+                         ::testing::Values(FieldCase{0.0, 0.0}, FieldCase{0.0049, 0.0},
+                                           FieldCase{-0.0049, 0.0}, FieldCase{0.006, 0.006},
+                                           FieldCase{-0.006, -0.006}, FieldCase{0.304, 0.3},
+                                           FieldCase{0.296, 0.3}, FieldCase{0.306, 0.306},
+                                           FieldCase{0.294, 0.294}, FieldCase{-0.704, -0.7},
+                                           FieldCase{-0.65, -0.65}, FieldCase{0.997, 1.0},
+                                           FieldCase{1.0, 1.0}, FieldCase{-1.0, -1.0}));
+
+TEST_F(TrackView, ATickIsTakenExactly) {
+  rig.slider->moveTo(0.3);
+  EXPECT_DOUBLE_EQ(rig.view->simulation().settings.B_field, 0.3);
+  EXPECT_NE(rig.slider->doubleValue(), 0.3) << "as the slider's 32 bits are not";
+}
+
+class DeletedView : public ::testing::TestWithParam<int> {};
+
+TEST_P(DeletedView, InTheMiddleOfAnInjectionLeavesNothingBehind) {
+  for (int time = 0; time < 20; ++time) {
+    TrackRig rig;
+    rig.view->injectParticle(rig.inject_item);
+    if (GetParam() >= 0) {
+      std::this_thread::sleep_for(std::chrono::microseconds(GetParam()));
+    }
+    QElapsedTimer clock;
+    clock.start();
+    delete rig.view;
+    EXPECT_LT(clock.elapsed(), 5000);
+    QCoreApplication::processEvents();
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(MicrosecondsLater, DeletedView, ::testing::Values(0, 10, 100, 1000));
+
+TEST_F(TrackView, DeletedAfterManyInjectionsItLeavesNothingBehind) {
+  rig.activate();
+  for (int time = 0; time < 50; ++time) {
+    rig.view->injectParticle(rig.inject_item);
+  }
+  delete rig.view;
+  QTest::qWait(20);
+  EXPECT_EQ(rig.panel->findChild<NewTrackView*>(), nullptr);
+}
+
+TEST_F(TrackView, DeletedInTheMiddleOfARunItLeavesNothingBehind) {
+  rig.activate();
+  rig.faster_item->trigger();
+  rig.inject_item->trigger();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return rig.view->simulation().show_points() > 5; }));
+  delete rig.view;
+  QTest::qWait(50);  // as long as several firings of its timer
+  EXPECT_EQ(rig.panel->findChild<NewTrackView*>(), nullptr);
+}
+
+TEST_F(TrackView, TheLegacyLoopRunsToTheEndOfItsArea) {
+  rig.view->setSpeed(3.0F);
+  rig.view->injectParticle(rig.inject_item);
+  rig.view->OldtrackOnScreen();
+  const TrackSimulation& simulation = rig.view->simulation();
+  EXPECT_FALSE(rig.view->is_tracking());
+  EXPECT_EQ(simulation.time_interval(), 0.25);
+  EXPECT_EQ(simulation.stepping().rot_fac, 0.0125);
+  // Steps of 0.75 view units; the last point is the first outside.
+  EXPECT_EQ(simulation.x_points()[1], 0.75F);
+  EXPECT_EQ(simulation.x_points().back(), 490.5F);
+  EXPECT_EQ(simulation.y_points().back(), 235.0F);
+  EXPECT_TRUE(rig.view->pause());
+  rig.view->goAhead(rig.inject_item);
+  EXPECT_FALSE(rig.view->pause());
+}
+
+TEST_F(TrackView, TheLegacyLoopHeedsTheClearSignalAndSwitchesTheMenus) {
+  rig.activate();
+  rig.three_v_item->trigger();
+  rig.view->injectParticle(rig.inject_item);
+  ASSERT_FALSE(rig.v_item->isEnabled());
+  rig.window->close();  // out of sight its steps cost no drawing
+  rig.view->clearScreen(rig.clear_item);
+  rig.view->OldtrackOnScreen();
+  EXPECT_FALSE(rig.view->simulation().clear_signal());
+  EXPECT_EQ(rig.view->simulation().x_points().front(), 0.75F) << "dropped at the first step";
+  EXPECT_TRUE(rig.v_item->isEnabled());
+}
+
+TEST_F(TrackView, TheLegacyLoopMakesNoStepWithoutARun) {
+  rig.view->OldtrackOnScreen();
+  EXPECT_EQ(rig.view->simulation().stepping().istep, 1);
+  EXPECT_FALSE(rig.view->is_tracking());
+}
+
+TEST_F(TrackView, TheLegacySliderTakesTheFieldAwayWithAStepDuringARun) {
+  rig.activate();
+  rig.slider->moveTo(0.5);
+  rig.view->sliderSet();
+  EXPECT_EQ(rig.view->simulation().settings.B_field, 0.0);
+  EXPECT_EQ(rig.panel->field_text()->text(), QStringLiteral("B = 0.00"));
+  EXPECT_EQ(rig.view->simulation().show_points(), 0) << "no step without a run";
+
+  rig.slider->moveTo(0.5);
+  rig.injectAndHold();
+  rig.step(2);
+  rig.view->sliderSet();
+  EXPECT_EQ(rig.view->simulation().show_points(), 4);
+  EXPECT_EQ(rig.view->simulation().stepping().B_rot, 0.0);
+}
+
+TEST_F(TrackView, TheLegacyDelayIsCutToMicroseconds) {
+  rig.view->setScreenSpeed(2500.9);
+  EXPECT_EQ(rig.view->musecs(), 2500);
+  EXPECT_EQ(rig.view->timerSecs(), 0.01) << "and sets no period";
+}
+
+QString last_message;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+
+TEST_F(TrackView, TheLegacyTimerTestSaysSoAndStopsTheTimer) {
+  QTimer timer;
+  timer.start(1000);
+  const auto before =
+      qInstallMessageHandler([](QtMsgType /*type*/, const QMessageLogContext& /*context*/,
+                                const QString& message) { last_message = message; });
+  NewTrackView::TestTimer(&timer);
+  qInstallMessageHandler(before);
+  EXPECT_EQ(last_message, QStringLiteral("timer fired"));
+  EXPECT_FALSE(timer.isActive());
+}
+
+}  // namespace
+}  // namespace velquon

@@ -1,0 +1,209 @@
+#include "track/new_track_view.h"
+
+#include <GL/gl.h>
+#include <GL/glu.h>
+
+#include <QLabel>
+#include <QTimer>
+#include <chrono>
+#include <cmath>
+
+#include "platform/cursors.h"
+#include "platform/value_slider.h"
+#include "track/main_thread_call.h"
+#include "track/track_controller.h"
+
+namespace velquon {
+
+namespace {
+
+// A field that near to a tick mark is the tick mark's.
+constexpr double snapping_distance = 0.005;
+
+constexpr QPoint hot_spot{7, 7};
+
+std::chrono::milliseconds milliseconds_of(double seconds) {
+  return std::chrono::milliseconds(std::lround(seconds * 1000.0));
+}
+
+}  // namespace
+
+NewTrackView::NewTrackView(QWidget* parent) : GLView(parent) {}
+
+NewTrackView::~NewTrackView() = default;
+
+void NewTrackView::awakeFromNib() {
+  cross_hair_cursor_ = cursor_named(QStringLiteral("crosshairs"), hot_spot);
+  black_hair_cursor_ = cursor_named(QStringLiteral("black_crosshairs"), hot_spot);
+}
+
+void NewTrackView::setCharge(float charge) {
+  simulation_.settings.charge = static_cast<double>(charge);
+}
+
+void NewTrackView::setSpeed(float speed) {
+  simulation_.settings.speed = static_cast<double>(speed);
+}
+
+void NewTrackView::setDirection(std::int32_t direction) {
+  simulation_.settings.direction = direction;
+}
+
+void NewTrackView::setMagField(const ValueSlider* sender) {
+  const double value = sender->doubleValue();
+  const double tick = sender->closestTickMarkValueToValue(value);
+  takeField(std::fabs(tick - value) < snapping_distance ? tick : value);
+}
+
+void NewTrackView::takeField(double field) {
+  simulation_.settings.B_field = field;
+  Q_EMIT fieldTaken(field);
+}
+
+void NewTrackView::injectParticle(QAction* /*sender*/) {
+  simulation_.launch();
+  clearColorBuffer();
+  tape_box_->clear();
+  setTracking(true);
+  track_controller_->doMenus(false);
+  resetCursorRects();
+  injection_ = std::jthread([this](const std::stop_token& given_up) { trackOnScreen(given_up); });
+}
+
+void NewTrackView::trackOnScreen(const std::stop_token& given_up) {
+  perform_on_main_thread(
+      this, [this] { startTracking(); }, given_up);
+}
+
+void NewTrackView::startTracking() {
+  if (trackTimer_ != nullptr) {
+    trackTimer_->stop();
+  }
+  prepareForTracking();
+  auto timer = std::make_unique<QTimer>();
+  timer->setTimerType(Qt::PreciseTimer);
+  timer->setInterval(milliseconds_of(timerSecs_));
+  connect(timer.get(), &QTimer::timeout, this, [this] { TrackWithTimer(trackTimer_.get()); });
+  setTrackTimer(std::move(timer));
+  trackTimer_->start();
+}
+
+void NewTrackView::prepareForTracking() {
+  simulation_.enter(timed_start);
+  // A step of an earlier run may have drawn since the injection.
+  picture_lost_ = true;
+  setTracking(true);
+}
+
+void NewTrackView::setTrackTimer(std::unique_ptr<QTimer> timer) {
+  trackTimer_ = std::move(timer);
+}
+
+void NewTrackView::TrackWithTimer(QTimer* timer) {
+  if (simulation_.canStep()) {
+    step();
+    return;
+  }
+  if (timer != nullptr) {
+    timer->stop();
+  }
+  endRun();
+}
+
+void NewTrackView::step() {
+  simulation_.advance();
+  redraw();
+  if (simulation_.takeClearSignal()) {
+    clearColorBuffer();
+  }
+  simulation_.goOn();
+}
+
+void NewTrackView::endRun() {
+  setTracking(false);
+  if (track_controller_->activated()) {
+    track_controller_->doMenus(true);
+  }
+  resetCursorRects();
+}
+
+void NewTrackView::stopTracking() {
+  setTracking(false);
+}
+
+void NewTrackView::setTracking(bool tracking) {
+  simulation_.setTracking(tracking);
+  Q_EMIT trackingChanged();
+}
+
+void NewTrackView::clearScreen(QAction* /*sender*/) {
+  if (is_tracking()) {
+    simulation_.setClearSignal();
+    return;
+  }
+  clearColorBuffer();
+}
+
+void NewTrackView::resetCursorRects() {
+  if (is_tracking()) {
+    setCursor(cross_hair_cursor_);
+  } else {
+    unsetCursor();
+  }
+}
+
+void NewTrackView::redraw() {
+  // Out of sight nothing is drawn, so that the newest points alone would not do later.
+  picture_lost_ = picture_lost_ || !isValid() || !isVisible();
+  display();
+}
+
+void NewTrackView::clearColorBuffer() {
+  if (makeContextCurrent()) {
+    glClear(GL_COLOR_BUFFER_BIT);
+    glFlush();
+    update();
+  }
+}
+
+void NewTrackView::reshape() {
+  glClear(GL_COLOR_BUFFER_BIT);
+  simulation_.do_all = true;
+}
+
+void NewTrackView::drawRect() {
+  const QRectF seen = visibleRect();
+  const double ratio = devicePixelRatioF();
+  glMatrixMode(GL_PROJECTION);
+  glLoadIdentity();
+  glClearColor(0.0F, 0.0F, 0.0F, 0.0F);
+  glViewport(0, 0, qRound(seen.width() * ratio), qRound(seen.height() * ratio));
+  gluOrtho2D(0.0, seen.width(), 0.0, seen.height());
+  if (simulation_.needsClearing() || picture_lost_) {
+    glClear(GL_COLOR_BUFFER_BIT);
+  }
+  simulation_.do_all = simulation_.do_all || picture_lost_;
+  picture_lost_ = false;
+  glTranslated(-seen.x(), -seen.y(), 0.0);
+  drawTrack();
+  if (simulation_.stretching) {
+    drawTape();
+  }
+  glFlush();
+  if (!simulation_.stretching) {
+    simulation_.do_all = false;
+  }
+}
+
+void NewTrackView::drawTrack() const {
+  const std::span<const float> x = simulation_.x_points();
+  const std::span<const float> y = simulation_.y_points();
+  glColor3f(1.0F, 1.0F, 1.0F);
+  glBegin(GL_LINE_STRIP);
+  for (auto point = static_cast<std::size_t>(simulation_.firstPoint()); point < x.size(); ++point) {
+    glVertex3f(x[point], y[point], 0.0F);
+  }
+  glEnd();
+}
+
+}  // namespace velquon

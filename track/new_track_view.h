@@ -1,0 +1,129 @@
+#pragma once
+
+#include <QCursor>
+#include <QPointF>
+#include <cstdint>
+#include <memory>
+#include <stop_token>
+#include <thread>
+
+#include "platform/gl_view.h"
+#include "track/track_simulation.h"
+
+class QAction;
+class QLabel;
+class QTimer;
+
+namespace velquon {
+
+class TrackController;
+class ValueSlider;
+
+/// The live track: an electron or a positron that crosses a plane in a magnetic field, drawn while
+/// it moves, and a tape measure to lay on its track. Everything runs on the main thread.
+class NewTrackView : public GLView {
+  Q_OBJECT
+
+ public:
+  explicit NewTrackView(QWidget* parent = nullptr);
+  /// A run or an injection that goes on ends with the view, without a trace.
+  ~NewTrackView() override;
+
+  void setTrackController(TrackController* controller) { track_controller_ = controller; }
+  void setTapeBox(QLabel* tape_box) { tape_box_ = tape_box; }
+  /// Makes the cursors, when the window has been built.
+  void awakeFromNib();
+
+  /// \param charge -1 for the electron, +1 for the positron
+  void setCharge(float charge);
+  /// \param speed view units per step
+  void setSpeed(float speed);
+  /// \param direction 1 from left to right, 2 from right to left
+  void setDirection(std::int32_t direction);
+  /// Takes the slider's field, or that of the tick mark when one is next to it. Counts from the
+  /// next step on.
+  void setMagField(const ValueSlider* sender);
+  /// Period of the step timer in seconds; counts from the next start on.
+  void setTimerSecs(double seconds) { timerSecs_ = seconds; }
+  [[nodiscard]] double timerSecs() const { return timerSecs_; }
+
+  /// Starts a run, from the event loop; one that goes on is given up.
+  void injectParticle(QAction* sender);
+  void startTracking();
+  void prepareForTracking();
+  /// One step.
+  void TrackWithTimer(QTimer* timer);
+  /// Says that no run goes on. The timer moves the particle on until it leaves the area.
+  void stopTracking();
+  [[nodiscard]] bool is_tracking() const { return simulation_.is_tracking(); }
+
+  /// Clears the picture, during a run the track up to the present point with it.
+  void clearScreen(QAction* sender);
+
+  /// Length of the tape, a tenth of its view units.
+  [[nodiscard]] double tapeLength() const;
+
+  [[nodiscard]] const QCursor& black_cursor() const { return black_hair_cursor_; }
+  [[nodiscard]] const QCursor& cross_hair_cursor() const { return cross_hair_cursor_; }
+
+  /// The step timer; it is there from the first start on, and runs during a run.
+  [[nodiscard]] QTimer* trackTimer() const { return trackTimer_.get(); }
+  void setTrackTimer(std::unique_ptr<QTimer> timer);
+
+  [[nodiscard]] const TrackSimulation& simulation() const { return simulation_; }
+
+  // What was there before the step timer, and is kept beside it.
+
+  /// \param microseconds the delay of a step, which nothing heeds any more
+  void setScreenSpeed(double microseconds) { musecs_ = static_cast<std::int32_t>(microseconds); }
+  [[nodiscard]] std::int32_t musecs() const { return musecs_; }
+  /// Sets the field to that of the old slider, 0, and makes a step at once when a run goes on.
+  void sliderSet();
+  void goAhead(QAction* sender);
+  [[nodiscard]] bool pause() const { return pause_; }
+  /// Notes that a timer fired and stops it.
+  static void TestTimer(QTimer* timer);
+  /// Runs to the end without returning to the event loop.
+  void OldtrackOnScreen();
+
+ Q_SIGNALS:
+  /// The view has taken a field.
+  void fieldTaken(double field);
+  /// A run begins or ends.
+  void trackingChanged();
+
+ protected:
+  void drawRect() override;
+  void reshape() override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  void trackOnScreen(const std::stop_token& given_up);
+  void setTracking(bool tracking);
+  void takeField(double field);
+  void step();
+  void endRun();
+  void redraw();
+  void clearColorBuffer();
+  void resetCursorRects();
+  void drawTrack() const;
+  void drawTape();
+
+  TrackController* track_controller_ = nullptr;
+  QLabel* tape_box_ = nullptr;
+  QCursor cross_hair_cursor_;
+  QCursor black_hair_cursor_;
+  TrackSimulation simulation_;
+  double timerSecs_ = 0.01;
+  std::int32_t musecs_ = 4000;
+  bool pause_ = false;
+  bool picture_lost_ = true;  ///< the next drawing has to make the picture anew
+  QPointF tape_start_point_;
+  QPointF tape_end_point_;
+  std::unique_ptr<QTimer> trackTimer_;
+  std::jthread injection_;  ///< ends before anything that it uses
+};
+
+}  // namespace velquon
