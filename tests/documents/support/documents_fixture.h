@@ -16,8 +16,8 @@
 namespace velquon::test {
 
 /// The alerts of a refused file.
-inline const RecordingDialogs::Alert bad_data{QStringLiteral("Bad data"),
-                                              QStringLiteral("Sorry, Velquon can't read this file.")};
+inline const RecordingDialogs::Alert bad_data{
+    QStringLiteral("Bad data"), QStringLiteral("Sorry, Velquon can't read this file.")};
 inline const RecordingDialogs::Alert wrong_format{
     QStringLiteral("Wrong format"), QStringLiteral("Sorry, Velquon can't read this file.")};
 

@@ -136,8 +136,7 @@ QByteArray page_stream(const QByteArray& document) {
 }
 
 QSizeF paper_size(const QByteArray& document) {
-  static const QRegularExpression box(
-      QStringLiteral(R"(/MediaBox \[0 0 ([0-9.]+) ([0-9.]+)\])"));
+  static const QRegularExpression box(QStringLiteral(R"(/MediaBox \[0 0 ([0-9.]+) ([0-9.]+)\])"));
   const auto match = box.match(QString::fromLatin1(document));
   return {match.captured(1).toDouble(), match.captured(2).toDouble()};
 }
@@ -159,14 +158,15 @@ std::vector<PaperWord> words_of_pdf(const QString& path) {
     throw std::runtime_error("pdftotext did not read the page");
   }
   const QString text = QString::fromUtf8(tool.readAllStandardOutput());
-  static const QRegularExpression page(QStringLiteral(R"re(<page width="[^"]*" height="([^"]*)")re"));
+  static const QRegularExpression page(
+      QStringLiteral(R"re(<page width="[^"]*" height="([^"]*)")re"));
   static const QRegularExpression word(QStringLiteral(
       R"re(<word xMin="([^"]*)" yMin="[^"]*" xMax="[^"]*" yMax="([^"]*)">([^<]*)</word>)re"));
   const double height = page.match(text).captured(1).toDouble();
   std::vector<PaperWord> words;
   for (const auto& match : word.globalMatch(text)) {
-    words.push_back({match.captured(3),
-                     {match.captured(1).toDouble(), height - match.captured(2).toDouble()}});
+    words.push_back(
+        {match.captured(3), {match.captured(1).toDouble(), height - match.captured(2).toDouble()}});
   }
   return words;
 }

@@ -33,10 +33,10 @@ class RecordingDialogs : public UserDialogs {
   QString fileToSave(const QString& title, const QString& suggestion, const QString& filter,
                      const QString& suffix) override;
 
-  QString answer;                  ///< path that every question gets; empty is giving up
-  std::vector<Alert> alerts;       ///< in the order told
+  QString answer;                   ///< path that every question gets; empty is giving up
+  std::vector<Alert> alerts;        ///< in the order told
   std::vector<Question> questions;  ///< in the order asked
-  std::function<void()> on_alert;  ///< called while an alert is up
+  std::function<void()> on_alert;   ///< called while an alert is up
 };
 
 /// How a failing test shows these.
