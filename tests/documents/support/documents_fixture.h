@@ -48,7 +48,8 @@ class DocumentsFixture : public ApplicationFixture {
   /// Path of a file in a folder of the test's own.
   [[nodiscard]] QString path(const QString& name) const { return folder_.filePath(name); }
   [[nodiscard]] QString folder() const { return folder_.path(); }
-  /// Leaves a file in the test's folder. \return its path
+  /// Leaves a file in the test's folder.
+  /// \return its path
   QString write(const QString& name, const QByteArray& bytes);
   /// What a file holds.
   static QByteArray read(const QString& path);

@@ -30,7 +30,8 @@ class RunningProgram {
 
   void kill();
   [[nodiscard]] bool isRunning();
-  /// Waits for output. \return the next line of it
+  /// Waits for output.
+  /// \return the next line of it
   QString nextLine();
   /// Titles of the windows that it has on the screen.
   [[nodiscard]] QStringList windowTitles();

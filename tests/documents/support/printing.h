@@ -23,7 +23,8 @@ struct Paper {
 inline const Paper a4{QPageSize::A4, {595.0, 842.0}, {47.5, 61.0}};
 inline const Paper letter{QPageSize::Letter, {612.0, 792.0}, {56.0, 36.0}};
 
-/// Prints a view into a PDF file. \return what the page shows
+/// Prints a view into a PDF file.
+/// \return what the page shows
 PdfPage print_to_pdf(Printable& view, ChamberView& chamber, const Paper& paper,
                      const QString& path);
 
