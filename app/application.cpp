@@ -47,8 +47,9 @@ Application::~Application() = default;
 void Application::showWindows() {
   constexpr QPoint chamber_corner(20, 20);
   constexpr int gap = 16;
-  chamber_window_->adjustSize();
-  projector_window_->adjustSize();
+  // adjustSize would leave a third of the screen free and cut the pictures on a low one.
+  chamber_window_->resize(chamber_window_->sizeHint());
+  projector_window_->resize(projector_window_->sizeHint());
   chamber_window_->move(chamber_corner);
   projector_window_->move(chamber_corner + QPoint(chamber_window_->width() + gap, 0));
   projector_window_->show();
@@ -67,7 +68,9 @@ void Application::connectDocuments() {
   });
   on_triggered({items.save_item}, this, [documents](QAction*) { documents->save_event_file(); });
   for (GLPanel* const window : windows()) {
-    connect(window, &GLPanel::fileDropped, documents, &EventDocuments::application_openFile);
+    // Queued: the program that the file comes from waits for the drop's end, not for an alert's.
+    connect(window, &GLPanel::fileDropped, documents, &EventDocuments::application_openFile,
+            Qt::QueuedConnection);
   }
 }
 
@@ -77,7 +80,10 @@ void Application::connectWindowMenu() {
                [this](QAction*) { chamber_window_->makeKeyAndOrderFront(); });
   on_triggered({items.projector_window_item}, this,
                [this](QAction*) { projector_window_->makeKeyAndOrderFront(); });
-  on_triggered({items.quit_item}, this, [](QAction*) { QCoreApplication::quit(); });
+  on_triggered({items.quit_item}, this, [](QAction*) {
+    // Not quit(): that would first ask the windows to close, and they only hide.
+    QCoreApplication::exit();
+  });
 }
 
 void Application::connectHelpMenu() {

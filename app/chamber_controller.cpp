@@ -252,6 +252,8 @@ void ChamberController::connectWindows() {
     connect(window, &GLPanel::becameKey, this, &ChamberController::keyWindowChanged);
     connect(window, &GLPanel::resignedKey, this, &ChamberController::keyWindowChanged);
   }
+  connect(outlets_.chamber_view, &ChamberView::windowWanted, outlets_.chamber_window,
+          &GLPanel::makeKeyAndOrderFront);
 }
 
 }  // namespace velquon

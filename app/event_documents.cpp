@@ -2,12 +2,12 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <optional>
 #include <variant>
 
 #include "app/chamber_controller.h"
 #include "app/user_dialogs.h"
+#include "app/whole_file.h"
 #include "chamber/chamber_view.h"
 
 namespace velquon {
@@ -43,14 +43,8 @@ void EventDocuments::save_event_file() {
   if (path.isEmpty()) {
     return;
   }
-  QSaveFile file(path);
-  const auto size = static_cast<qint64>(bytes.size());
-  const bool saved = file.open(QIODevice::WriteOnly) &&
-                     file.write(reinterpret_cast<const char*>(bytes.data()), size) == size &&
-                     file.commit();
-  if (!saved) {
-    dialogs_.alert(tr("Not saved"),
-                   tr("Velquon can't write the file %1: %2.").arg(path, file.errorString()));
+  if (const auto reason = write_whole_file(path, QByteArrayView(bytes))) {
+    dialogs_.alert(tr("Not saved"), tr("Velquon can't write the file %1: %2.").arg(path, *reason));
     return;
   }
   controller_.renameWindows(QFileInfo(path).fileName());

@@ -33,7 +33,8 @@ class EventDocuments : public QObject {
   bool application_openFile(const QString& path);
 
   /// Reads, checks and shows one event file. A refusal is told in an alert and changes nothing; a
-  /// file that cannot be loaded is left without a word. \return whether it is shown
+  /// file that cannot be loaded is left without a word.
+  /// \return whether it is shown
   bool readAndDisplayFile(const QString& path);
 
  private:

@@ -18,6 +18,12 @@ bool any_window_on_screen() {
   });
 }
 
+/// The file that is dragged, the last of several; empty when it is none of this computer.
+QString dragged_file(const QMimeData& data) {
+  const auto urls = data.urls();
+  return urls.isEmpty() ? QString() : urls.back().toLocalFile();
+}
+
 }  // namespace
 
 GLPanel::GLPanel(QWidget* parent) : QMainWindow(parent) {
@@ -51,15 +57,17 @@ void GLPanel::closeEvent(QCloseEvent* event) {
 }
 
 void GLPanel::dragEnterEvent(QDragEnterEvent* event) {
-  const auto urls = event->mimeData()->urls();
-  if (!urls.isEmpty() && urls.back().isLocalFile()) {
+  if (!dragged_file(*event->mimeData()).isEmpty()) {
     event->acceptProposedAction();
   }
 }
 
 void GLPanel::dropEvent(QDropEvent* event) {
-  event->acceptProposedAction();
-  Q_EMIT fileDropped(event->mimeData()->urls().back().toLocalFile());
+  const QString path = dragged_file(*event->mimeData());
+  if (!path.isEmpty()) {
+    event->acceptProposedAction();
+    Q_EMIT fileDropped(path);
+  }
 }
 
 }  // namespace velquon

@@ -1,6 +1,7 @@
 // The desktop program.
 
 #include <QApplication>
+#include <csignal>
 #include <cstdio>
 #include <string>
 
@@ -22,6 +23,8 @@ int end_with(const QString& text, int status) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  // A file that grows beyond a limit is an error to be told, not the program's end.
+  std::signal(SIGXFSZ, SIG_IGN);
   QStringList arguments;
   for (int i = 0; i < argc; ++i) {
     arguments << QString::fromLocal8Bit(argv[i]);

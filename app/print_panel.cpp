@@ -12,11 +12,12 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "app/print_view.h"
 #include "app/user_dialogs.h"
+#include "app/whole_file.h"
 
 namespace velquon {
 
@@ -60,6 +61,7 @@ PrintPanel::PrintPanel(PrintView& view, const QString& name, UserDialogs& dialog
   layout->addLayout(makePaperRow(preview));
   layout->addWidget(state);
   layout->addWidget(makeButtons(has_printer));
+  default_button_->setFocus();
   constexpr QSize panel_size(480, 640);
   resize(panel_size);
 }
@@ -72,12 +74,15 @@ QLayout* PrintPanel::makePaperRow(QPrintPreviewWidget* preview) {
   for (const QPageSize::PageSizeId size : {QPageSize::A4, QPageSize::Letter}) {
     popup->addItem(QPageSize::name(size), size);
   }
-  popup->setCurrentIndex(popup->findData(printer_->pageLayout().pageSize().id()));
-  connect(popup, &QComboBox::currentIndexChanged, this, [this, popup, preview] {
+  const int usual = popup->findData(printer_->pageLayout().pageSize().id());
+  popup->setCurrentIndex(std::max(usual, 0));
+  const auto take_choice = [this, popup, preview] {
     printer_->setPageSize(QPageSize(popup->currentData().value<QPageSize::PageSizeId>()));
     set_margins(*printer_);
     preview->updatePreview();
-  });
+  };
+  take_choice();
+  connect(popup, &QComboBox::currentIndexChanged, this, take_choice);
   auto* const row = new QHBoxLayout;
   row->addWidget(label);
   row->addWidget(popup);
@@ -92,9 +97,8 @@ QWidget* PrintPanel::makeButtons(bool has_printer) {
   pdf_button->setObjectName(QStringLiteral("pdf_button"));
   print_button->setObjectName(QStringLiteral("print_button"));
   print_button->setEnabled(has_printer);
-  QPushButton* const usual = has_printer ? print_button : pdf_button;
-  usual->setDefault(true);
-  usual->setFocus();
+  default_button_ = has_printer ? print_button : pdf_button;
+  default_button_->setDefault(true);
   connect(pdf_button, &QPushButton::clicked, this, &PrintPanel::saveAsPdf);
   connect(print_button, &QPushButton::clicked, this, &PrintPanel::sendToPrinter);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -128,14 +132,12 @@ void PrintPanel::saveAsPdf() {
   QPdfWriter writer(&buffer);
   writer.setPageSize(printer_->pageLayout().pageSize());
   set_margins(writer);
-  QSaveFile file(path);
-  const bool saved = view_.print(writer) && file.open(QIODevice::WriteOnly) &&
-                     file.write(document) == document.size() && file.commit();
-  if (saved) {
-    accept();
+  const auto reason = view_.print(writer) ? write_whole_file(path, document)
+                                          : std::optional(tr("the page cannot be drawn"));
+  if (reason) {
+    dialogs_.alert(tr("Not saved"), tr("Velquon can't write the file %1: %2.").arg(path, *reason));
   } else {
-    dialogs_.alert(tr("Not saved"),
-                   tr("Velquon can't write the file %1: %2.").arg(path, file.errorString()));
+    accept();
   }
 }
 

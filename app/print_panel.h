@@ -5,6 +5,7 @@
 
 class QPrintPreviewWidget;
 class QPrinter;
+class QPushButton;
 
 namespace velquon {
 
@@ -32,6 +33,7 @@ class PrintPanel : public QDialog {
   QString name_;
   UserDialogs& dialogs_;
   std::unique_ptr<QPrinter> printer_;
+  QPushButton* default_button_ = nullptr;
 };
 
 }  // namespace velquon

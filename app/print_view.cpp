@@ -57,7 +57,7 @@ bool PrintView::print(QPagedPaintDevice& device) {
   QFont font = page.font();
   font.setPixelSize(font_size);
   page.setFont(font);
-  page.setPen(QPen(Qt::black, line_width));
+  page.setPen(QPen(Qt::black, line_width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   drawRect(page);
   return page.end();
 }

@@ -20,7 +20,8 @@ class PrintView {
   PrintView(Printable& pview, const QString& title, ChamberView& chamber_view);
 
   /// Draws the page in the middle of the device's paper, at its own size where that fits with
-  /// margins of 36 points. \return whether the device could be drawn on
+  /// margins of 36 points.
+  /// \return whether the device could be drawn on
   bool print(QPagedPaintDevice& device);
 
  private:

@@ -15,13 +15,19 @@ QString chosen_file(QFileDialog& dialog) {
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().constLast() : QString();
 }
 
+QString with_suffix(const QString& path, const QString& suffix) {
+  const bool has_suffix = QFileInfo(path).suffix().compare(suffix, Qt::CaseInsensitive) == 0;
+  return path.isEmpty() || has_suffix ? path : path + QLatin1Char('.') + suffix;
+}
+
 bool may_overwrite(const QString& path) {
-  const auto answer =
-      QMessageBox::warning(QApplication::activeWindow(), QFileDialog::tr("Save"),
-                           QFileDialog::tr("%1 already exists.\nDo you want to replace it?")
-                               .arg(QFileInfo(path).fileName()),
-                           QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
-  return answer == QMessageBox::Yes;
+  QMessageBox box(QMessageBox::Warning, QFileDialog::tr("Save"),
+                  QFileDialog::tr("%1 already exists.\nDo you want to replace it?")
+                      .arg(QFileInfo(path).fileName()),
+                  QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(QMessageBox::No);
+  return box.exec() == QMessageBox::Yes;
 }
 
 }  // namespace
@@ -29,6 +35,7 @@ bool may_overwrite(const QString& path) {
 void DesktopDialogs::alert(const QString& title, const QString& message) {
   QMessageBox box(QMessageBox::Warning, title, message, QMessageBox::Ok,
                   QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);
   box.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
   box.exec();
 }
@@ -43,19 +50,15 @@ QString DesktopDialogs::fileToSave(const QString& title, const QString& suggesti
                                    const QString& filter, const QString& suffix) {
   QFileDialog dialog(QApplication::activeWindow(), title, QString(), filter);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setDefaultSuffix(suffix);
+  // The dialog would ask about the name as typed, not about the one with the ending.
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
   dialog.selectFile(suggestion);
-  QString path = chosen_file(dialog);
-  const bool needs_suffix =
-      !path.isEmpty() && QFileInfo(path).suffix().compare(suffix, Qt::CaseInsensitive) != 0;
-  if (needs_suffix) {
-    // The dialog asked about the name as typed, not about the one with the ending.
-    path += QLatin1Char('.') + suffix;
-    if (QFileInfo::exists(path) && !may_overwrite(path)) {
-      return {};
+  for (;;) {
+    const QString path = with_suffix(chosen_file(dialog), suffix);
+    if (path.isEmpty() || !QFileInfo::exists(path) || may_overwrite(path)) {
+      return path;
     }
   }
-  return path;
 }
 
 }  // namespace velquon

@@ -25,7 +25,8 @@ class UserDialogs {
   /// \return its path, or empty when the user gives up
   virtual QString fileToOpen(const QString& title, const QString& filter) = 0;
 
-  /// Asks for the name of a file to save, and once whether an existing one may be overwritten.
+  /// Asks for the name of a file to save, and once whether an existing one may be overwritten;
+  /// if not, for another name.
   /// \param suggestion name offered
   /// \param suffix     ending that the name gets when the user leaves it out, without the dot
   /// \return its path, or empty when the user gives up

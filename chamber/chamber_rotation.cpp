@@ -3,7 +3,6 @@
 #include <GL/gl.h>
 
 #include <QAction>
-#include <QWindow>
 #include <algorithm>
 #include <array>
 
@@ -40,9 +39,7 @@ void ChamberView::setRotationRate(QAction* sender) {
 }
 
 void ChamberView::doRotation(QAction* sender) {
-  window()->show();
-  window()->raise();
-  window()->activateWindow();
+  Q_EMIT windowWanted();
   rot_angle_ = sender == rotation_items_.reverse_rotate_item ? -step_degrees : step_degrees;
   if (is_rotating_) {
     return;

@@ -68,8 +68,10 @@ void ChamberView::reshape() {
 }
 
 void ChamberView::mousePressEvent(QMouseEvent* event) {
-  stopRotating();
   event->accept();
+  if (event->button() == Qt::LeftButton) {
+    stopRotating();
+  }
 }
 
 void ChamberView::setUpView() {

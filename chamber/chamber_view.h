@@ -98,6 +98,10 @@ class ChamberView : public GLView, public Printable {
   /// The text of the values line.
   [[nodiscard]] std::string values_text() const;
 
+ Q_SIGNALS:
+  /// The view's window has to come to the front and get the keys.
+  void windowWanted();
+
  protected:
   void drawRect() override;
   void reshape() override;

@@ -6,11 +6,20 @@
 #include <cmath>
 #include <optional>
 
+#include "platform/page.h"
+
 namespace velquon {
 
 namespace {
 
 constexpr std::size_t vertex_values = 3;
+
+/// A value as the whole number it stands for; 0 for one that stands for none. Nothing in a feedback
+/// buffer counts further than its length, let alone an int.
+int whole_number(float value) {
+  constexpr float limit = 1.0e9F;
+  return std::fabs(value) < limit ? static_cast<int>(value) : 0;
+}
 
 /// Walks over the values of a feedback buffer, never beyond their end.
 class FeedbackReader {
@@ -19,14 +28,14 @@ class FeedbackReader {
 
   FeedbackPicture read() {
     while (index_ < values_.size()) {
-      read_token(static_cast<GLenum>(values_[index_++]));
+      read_token(whole_number(values_[index_++]));
     }
     finish_cube();
     return std::move(picture_);
   }
 
  private:
-  void read_token(GLenum token) {
+  void read_token(int token) {
     switch (token) {
       case GL_PASS_THROUGH_TOKEN:
         finish_cube();
@@ -65,7 +74,7 @@ class FeedbackReader {
   void read_line() {
     const auto start = next_vertex();
     const auto end = next_vertex();
-    if (start && end) {
+    if (start && end && can_be_on_paper(*start) && can_be_on_paper(*end)) {
       picture_.lines.emplace_back(*start, *end);
     }
   }
@@ -74,8 +83,8 @@ class FeedbackReader {
     if (index_ >= values_.size()) {
       return;
     }
-    const auto vertices = static_cast<int>(values_[index_++]);
-    for (int i = 0; i < vertices; ++i) {
+    const int vertices = whole_number(values_[index_++]);
+    for (int i = 0; i < vertices && index_ < values_.size(); ++i) {
       if (const auto vertex = next_vertex()) {
         extend_cube(*vertex);
       }
@@ -83,7 +92,7 @@ class FeedbackReader {
   }
 
   void extend_cube(QPointF vertex) {
-    if (!in_cube_) {
+    if (!in_cube_ || !can_be_on_paper(vertex)) {
       return;
     }
     if (!cube_has_vertices_) {

@@ -25,7 +25,7 @@ if(SANITIZER)
   target_link_options(project_options INTERFACE -fsanitize=${SANITIZER})
 endif()
 
-# One seed gives one event on every machine: no fused products and sums. errno is not read, so the
+# One seed gives one event, whichever compiler and build: no fused products and sums. errno is not read, so the
 # compiler may join a sine and a cosine of the same angle; that changes no value.
 add_library(physics_options INTERFACE)
 target_compile_options(physics_options INTERFACE -ffp-contract=off -fno-math-errno)

@@ -88,7 +88,7 @@ TrackEnd straight_path_calculation(ParticleState& particle, std::int16_t limit, 
   const double phi = std::atan2(py, px);
   const Vector3 advance{std::cos(phi) * (std::sin(theta) * step),
                         std::sin(phi) * (std::sin(theta) * step), std::cos(theta) * step};
-  particle.energy = total_energy(p, particle.mass);
+  particle.energy = total_energy(particle.mass, p);
   const double survival = std::exp(-step / (scale * lab_decay_length));
 
   const ChamberWall wall(bound);

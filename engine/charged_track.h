@@ -31,12 +31,13 @@ void set_up_path(ParticleState& particle, HelixPath& path, double& survival, dou
 /// Walks a helix and writes its points.
 /// \param limit    the most points that the event holds
 /// \param count    running point count of the event, advanced
-/// \param out      free slots of the event, the first for the first new point; at least limit -
-/// count \param path     after a decay its `phi` holds the counted points times `dphi` \param
-/// end_code code of the decay point, which is not tested against the bound \param bound    limit of
-/// the coordinates, drawing units (see ChamberWall) \param survival probability of surviving one
-/// step; one draw is made per counted point. When it is
-///                 not above 0 (or not a number) the particle decays at once
+/// \param out      free slots of the event, the first for the first new point; at least
+///                 limit - count
+/// \param path     after a decay its `phi` holds the counted points times `dphi`
+/// \param end_code code of the decay point, which is not tested against the bound
+/// \param bound    limit of the coordinates, drawing units (see ChamberWall)
+/// \param survival probability of surviving one step; one draw is made per counted point. When it
+///                 is not above 0 (or not a number) the particle decays at once
 TrackEnd path_calculation(std::int16_t limit, std::int16_t& count, std::span<PlotPoint> out,
                           HelixPath& path, std::int16_t end_code, double bound, double survival);
 

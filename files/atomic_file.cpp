@@ -44,6 +44,9 @@ std::error_code fill_and_rename(int file, const std::string& temporary,
   if (!error) {
     error = give_usual_mode(file);
   }
+  if (!error && ::fsync(file) != 0) {
+    error = last_error();
+  }
   if (::close(file) != 0 && !error) {
     error = last_error();
   }
@@ -57,7 +60,8 @@ std::error_code fill_and_rename(int file, const std::string& temporary,
 
 std::error_code write_file_atomically(const std::filesystem::path& path,
                                       std::span<const std::byte> bytes) {
-  std::string temporary = path.string() + ".XXXXXX";
+  // A short name of its own, so that a name as long as the file system allows can still be saved.
+  std::string temporary = (path.parent_path() / ".velquon-XXXXXX").string();
   const int file = ::mkostemp(temporary.data(), O_CLOEXEC);
   if (file < 0) {
     return last_error();

@@ -23,6 +23,9 @@ class Printable {
   virtual void printRect() = 0;
 };
 
+/// Whether a place can be written into a page: neither far beyond any paper nor no place at all.
+[[nodiscard]] bool can_be_on_paper(QPointF place);
+
 /// Writes a text on a page whose y points upwards.
 /// \param place lower left corner of the text
 void print_text(QPainter& page, QPointF place, const QString& text);

@@ -27,6 +27,9 @@ double ProjectionView::tapeLength() const {
 }
 
 void ProjectionView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) {
+    return;
+  }
   if (tool_choice_ == Tool::tape) {
     tape_start_point_ = locationOf(*event);
   } else {
@@ -35,6 +38,9 @@ void ProjectionView::mousePressEvent(QMouseEvent* event) {
 }
 
 void ProjectionView::mouseMoveEvent(QMouseEvent* event) {
+  if (!event->buttons().testFlag(Qt::LeftButton)) {
+    return;
+  }
   if (tool_choice_ == Tool::tape) {
     tape_visible_ = true;
     stretchTape(locationOf(*event));
@@ -44,6 +50,9 @@ void ProjectionView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void ProjectionView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) {
+    return;
+  }
   if (tool_choice_ == Tool::tape) {
     stretchTape(locationOf(*event));
   } else {

@@ -18,6 +18,7 @@ constexpr double default_offset_up = 420.0;
 constexpr double default_offset_across = 470.0;
 constexpr QPointF page_offset{20.0, 100.0};
 constexpr double half_square = 0.5;
+constexpr QColor frame_gray(128, 128, 128);
 
 void draw_dotted_frame(const QRectF& frame) {
   glEnable(GL_LINE_STIPPLE);
@@ -139,7 +140,9 @@ void ProjectionView::printRect() {
   const ProjectionMapping mapping = this->mapping();
   const QRectF frame = mapping.frame().translated(page_offset);
   const QPen pen = page_->pen();
-  page_->setPen(QPen(Qt::gray, pen.widthF()));
+  QPen gray_pen = pen;
+  gray_pen.setColor(frame_gray);
+  page_->setPen(gray_pen);
   page_->drawLine(frame.topLeft(), frame.topRight());
   page_->drawLine(frame.topRight(), frame.bottomRight());
   page_->drawLine(frame.bottomRight(), frame.bottomLeft());
@@ -147,7 +150,9 @@ void ProjectionView::printRect() {
   page_->setPen(pen);
   for (const QPointF& point : display_points_) {
     const QPointF corner = mapping.map(point) - QPointF(half_square, half_square);
-    page_->fillRect(QRectF(corner + page_offset, QSizeF(1.0, 1.0)), Qt::black);
+    if (can_be_on_paper(corner)) {
+      page_->fillRect(QRectF(corner + page_offset, QSizeF(1.0, 1.0)), Qt::black);
+    }
   }
   if (tape_visible_) {
     page_->drawLine(tape_start_point_ + page_offset, tape_end_point_ + page_offset);

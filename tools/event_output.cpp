@@ -77,7 +77,7 @@ int write_event_files(const EventOptions& options, std::FILE* messages) {
 }  // namespace
 
 int write_events(const EventOptions& options, std::FILE* out, std::FILE* messages) {
-  std::srand(options.seed.value_or(microsecond_seed()));
+  std::srand(options.seed ? *options.seed : microsecond_seed());
   return options.csv ? write_csv(options, out, messages) : write_event_files(options, messages);
 }
 

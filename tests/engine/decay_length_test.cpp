@@ -8,7 +8,7 @@
 
 #include "engine/charged_track.h"
 #include "tests/support/case_name.h"
-#include "tests/support/event_helpers.h"
+#include "tests/support/event_making.h"
 #include "tests/support/float_traps.h"
 #include "tests/support/statistics.h"
 

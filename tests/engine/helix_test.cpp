@@ -8,7 +8,7 @@
 #include "engine/charged_track.h"
 #include "engine/kinematics.h"
 #include "engine/random.h"
-#include "tests/support/event_helpers.h"
+#include "tests/support/event_making.h"
 #include "tests/support/float_traps.h"
 #include "tests/support/scripted_rand.h"
 
@@ -164,7 +164,7 @@ TEST(PathCalculation, LeavesThroughEachOfTheSixWallsWithoutADrawForThePointOutsi
     return HelixPath{.radius = 0.0, .centre_x = x, .centre_y = y, .code = 3};
   };
   struct Case {
-    const char* name;
+    const char* name = "";
     HelixPath path;
   };
   Case cases[] = {{"+x", still(404.99, 0)},  {"-x", still(-404.99, 0)}, {"+y", still(0, 404.99)},

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "tests/support/case_name.h"
-#include "tests/support/event_helpers.h"
+#include "tests/support/event_making.h"
 
 namespace velquon {
 namespace {

@@ -8,7 +8,7 @@
 #include "events/lambda_decay.h"
 #include "events/lepton_decays.h"
 #include "events/neutral_pion_decay.h"
-#include "tests/support/event_helpers.h"
+#include "tests/support/event_making.h"
 #include "tests/support/statistics.h"
 
 // Directions of the daughters in their parent's rest frame.

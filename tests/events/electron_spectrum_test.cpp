@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "events/lepton_decays.h"
-#include "tests/support/event_helpers.h"
+#include "tests/support/event_making.h"
 #include "tests/support/statistics.h"
 
 // The joint law of the electron's energy fraction and its cosine in the muon's rest frame: the

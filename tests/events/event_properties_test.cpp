@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "events/event_types.h"
-#include "tests/support/event_helpers.h"
+#include "tests/support/event_making.h"
 #include "tests/support/float_traps.h"
 
 // What holds for every event, whatever the settings.

@@ -11,7 +11,7 @@
 #include "engine/neutral_track.h"
 #include "engine/random.h"
 #include "events/tracking.h"
-#include "tests/support/event_helpers.h"
+#include "tests/support/event_making.h"
 #include "tests/support/float_traps.h"
 #include "tests/support/scripted_rand.h"
 #include "tests/support/statistics.h"

@@ -7,7 +7,7 @@
 
 #include "engine/kinematics.h"
 #include "engine/random.h"
-#include "tests/support/event_helpers.h"
+#include "tests/support/event_making.h"
 #include "tests/support/float_traps.h"
 #include "tests/support/scripted_rand.h"
 

@@ -5,7 +5,7 @@
 #include <fstream>
 
 #include "events/event_types.h"
-#include "tests/support/event_helpers.h"
+#include "tests/support/event_making.h"
 
 #if defined(__has_feature)
 #if __has_feature(address_sanitizer)

@@ -6,7 +6,7 @@
 
 #include "engine/random.h"
 #include "events/neutral_pion_decay.h"
-#include "tests/support/event_helpers.h"
+#include "tests/support/event_making.h"
 #include "tests/support/float_traps.h"
 #include "tests/support/scripted_rand.h"
 

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "engine/kinematics.h"
-#include "tests/support/event_helpers.h"
+#include "tests/support/event_making.h"
 #include "tests/support/scripted_rand.h"
 
 namespace velquon {

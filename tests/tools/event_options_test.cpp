@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/event_helpers.h"
+#include "tests/support/event_making.h"
 #include "tests/tools/tool_run.h"
 
 namespace velquon {
@@ -68,7 +68,7 @@ TEST(EventOptions, AllCanBeGiven) {
 TEST(EventOptions, ValuesAreHeldAsTheControlsHoldThem) {
   EXPECT_EQ(options_of({"--type", "pi-", "--field", "0.1"}).values.B_field, 0.1F);
   // 0.07 cm are 0.0007 m in the control, and that times 100 is a neighbour of 0.07.
-  const float metres = static_cast<float>(static_cast<double>(0.07F) * 0.01);
+  const auto metres = static_cast<float>(static_cast<double>(0.07F) * 0.01);
   EXPECT_EQ(options_of({"--type", "pi-", "--side", "0.07"}).values.sides_cm, metres * 100.0F);
 }
 

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "files/event_file.h"
-#include "tests/support/event_helpers.h"
+#include "tests/support/event_making.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/tools/tool_run.h"
 #include "tools/microsecond_seed.h"

@@ -52,9 +52,11 @@ void KeyWindow::changeEvent(QEvent* event) {
   }
 }
 
-TrackRig::TrackRig() : window(new KeyWindow), panel(new TrackPanel) {
-  view = panel->track_view();
-  slider = panel->vSlider();
+TrackRig::TrackRig()
+    : window(new KeyWindow),
+      panel(new TrackPanel),
+      view(panel->track_view()),
+      slider(panel->vSlider()) {
   window->setCentralWidget(panel);
   makeMenus();
   panel->setItems(inject_item, clear_item);

@@ -1,4 +1,4 @@
-#include "tests/support/event_helpers.h"
+#include "tests/support/event_making.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+#include <optional>
+
+namespace velquon {
+
+/// Writes a file whole or not at all: a failure leaves a file of that name as it was.
+/// \return why it could not be written, or nothing
+[[nodiscard]] std::optional<QString> write_whole_file(const QString& path, QByteArrayView bytes);
+
+}  // namespace velquon

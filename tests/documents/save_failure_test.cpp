@@ -1,0 +1,128 @@
+#include <QAction>
+#include <QDir>
+#include <csignal>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include "support/documents_fixture.h"
+#include "support/event_bytes.h"
+
+namespace velquon::test {
+
+namespace {
+
+/// While it lives no file can grow beyond a size, as on a full disk.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) {
+    ::getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limited{bytes, before_.rlim_max};
+    handler_ = std::signal(SIGXFSZ, SIG_IGN);
+    ::setrlimit(RLIMIT_FSIZE, &limited);
+  }
+  ~FileSizeLimit() {
+    ::setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+  FileSizeLimit(FileSizeLimit&&) = delete;
+  FileSizeLimit& operator=(FileSizeLimit&&) = delete;
+
+ private:
+  rlimit before_{};
+  void (*handler_)(int) = SIG_DFL;
+};
+
+RecordingDialogs::Alert not_saved(const QString& path, const char* reason) {
+  return {
+      QStringLiteral("Not saved"),
+      QStringLiteral("Velquon can't write the file %1: %2.").arg(path, QString::fromUtf8(reason))};
+}
+
+class SaveFailureTest : public DocumentsFixture {
+ protected:
+  void expectFailure(const QString& path, const char* reason) {
+    const Shown before = shown();
+    dialogs().answer = path;
+    choose("save_item");
+    EXPECT_EQ(dialogs().alerts, std::vector{not_saved(path, reason)});
+    EXPECT_EQ(differences(before, shown()), "");
+  }
+
+  QStringList filesInFolder() {
+    return QDir(folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+  }
+};
+
+/// Sizes of events whose files are written at the first call or kept back until the last.
+class FullDiskTest : public SaveFailureTest, public testing::WithParamInterface<int> {};
+
+TEST_P(FullDiskTest, LeavesTheOldFileAndNoOther) {
+  const QString file = write(QStringLiteral("a.cwd"), event_file(spiral(2)));
+  controller().setChamberData(spiral(GetParam()));
+  const QByteArray before = read(file);
+  {
+    const FileSizeLimit limit(1000);
+    expectFailure(file, "File too large");
+  }
+  EXPECT_EQ(read(file), before);
+  EXPECT_EQ(filesInFolder(), QStringList{QStringLiteral("a.cwd")});
+}
+
+TEST_P(FullDiskTest, LeavesNothingOfANewFile) {
+  controller().setChamberData(spiral(GetParam()));
+  {
+    const FileSizeLimit limit(1000);
+    expectFailure(path(QStringLiteral("new.cwd")), "File too large");
+  }
+  EXPECT_TRUE(filesInFolder().isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Points, FullDiskTest, testing::Values(50, 350, 5000));
+
+TEST_F(SaveFailureTest, AFolderThatIsMissing) {
+  makeEvent(0);
+  expectFailure(path(QStringLiteral("missing/a.cwd")), "No such file or directory");
+}
+
+TEST_F(SaveFailureTest, AFileInPlaceOfAFolder) {
+  makeEvent(0);
+  write(QStringLiteral("file"), "x");
+  expectFailure(path(QStringLiteral("file/a.cwd")), "Not a directory");
+}
+
+TEST_F(SaveFailureTest, AFolderInPlaceOfTheFile) {
+  makeEvent(0);
+  ASSERT_TRUE(QDir(folder()).mkdir(QStringLiteral("a.cwd")));
+  expectFailure(path(QStringLiteral("a.cwd")), "Filename refers to a directory");
+  EXPECT_EQ(filesInFolder(), QStringList{QStringLiteral("a.cwd")});
+}
+
+TEST_F(SaveFailureTest, AFolderThatMayNotBeWritten) {
+  if (::geteuid() == 0) {
+    GTEST_SKIP() << "root may write everywhere";
+  }
+  makeEvent(0);
+  const QString file = write(QStringLiteral("a.cwd"), "old");
+  const QFile::Permissions rights = QFile::permissions(folder());
+  ASSERT_TRUE(QFile::setPermissions(folder(), QFile::ReadOwner | QFile::ExeOwner));
+  expectFailure(file, "Permission denied");
+  EXPECT_TRUE(QFile::setPermissions(folder(), rights));
+  EXPECT_EQ(read(file), "old");
+}
+
+TEST_F(SaveFailureTest, CanBeMendedBySavingElsewhere) {
+  makeEvent(0);
+  dialogs().answer = path(QStringLiteral("missing/a.cwd"));
+  choose("save_item");
+  dialogs().answer = path(QStringLiteral("a.cwd"));
+  choose("save_item");
+  EXPECT_EQ(dialogs().alerts.size(), 1U);
+  EXPECT_EQ(filesInFolder(), QStringList{QStringLiteral("a.cwd")});
+}
+
+}  // namespace
+
+}  // namespace velquon::test

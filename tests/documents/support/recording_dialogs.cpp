@@ -1,0 +1,34 @@
+#include "support/recording_dialogs.h"
+
+#include <ostream>
+
+namespace velquon::test {
+
+void RecordingDialogs::alert(const QString& title, const QString& message) {
+  alerts.push_back({title, message});
+  if (on_alert) {
+    on_alert();
+  }
+}
+
+QString RecordingDialogs::fileToOpen(const QString& title, const QString& filter) {
+  questions.push_back({title, filter, {}, {}});
+  return answer;
+}
+
+QString RecordingDialogs::fileToSave(const QString& title, const QString& suggestion,
+                                     const QString& filter, const QString& suffix) {
+  questions.push_back({title, filter, suggestion, suffix});
+  return answer;
+}
+
+void PrintTo(const RecordingDialogs::Alert& alert, std::ostream* out) {
+  *out << '"' << alert.title.toStdString() << "\" / \"" << alert.message.toStdString() << '"';
+}
+
+void PrintTo(const RecordingDialogs::Question& question, std::ostream* out) {
+  *out << '"' << question.title.toStdString() << "\", " << question.filter.toStdString() << ", \""
+       << question.suggestion.toStdString() << "\", ." << question.suffix.toStdString();
+}
+
+}  // namespace velquon::test

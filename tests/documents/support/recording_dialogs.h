@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <vector>
+
+#include "app/user_dialogs.h"
+
+namespace velquon::test {
+
+/// Answers in the user's place and remembers what he was asked and told.
+class RecordingDialogs : public UserDialogs {
+ public:
+  struct Alert {
+    QString title;
+    QString message;
+
+    friend bool operator==(const Alert&, const Alert&) = default;
+  };
+
+  /// A question for a file; a file to open has neither suggestion nor suffix.
+  struct Question {
+    QString title;
+    QString filter;
+    QString suggestion;
+    QString suffix;
+
+    friend bool operator==(const Question&, const Question&) = default;
+  };
+
+  void alert(const QString& title, const QString& message) override;
+  QString fileToOpen(const QString& title, const QString& filter) override;
+  QString fileToSave(const QString& title, const QString& suggestion, const QString& filter,
+                     const QString& suffix) override;
+
+  QString answer;                   ///< path that every question gets; empty is giving up
+  std::vector<Alert> alerts;        ///< in the order told
+  std::vector<Question> questions;  ///< in the order asked
+  std::function<void()> on_alert;   ///< called while an alert is up
+};
+
+/// How a failing test shows these.
+void PrintTo(const RecordingDialogs::Alert& alert, std::ostream* out);
+void PrintTo(const RecordingDialogs::Question& question, std::ostream* out);
+
+}  // namespace velquon::test

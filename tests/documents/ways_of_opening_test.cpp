@@ -1,0 +1,223 @@
+#include <QAction>
+#include <QApplication>
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QUrl>
+
+#include "gui/support/pictures.h"
+#include "gui/support/waiting.h"
+#include "support/documents_fixture.h"
+#include "support/event_bytes.h"
+#include "support/other_program.h"
+
+namespace velquon::test {
+
+namespace {
+
+class WaysOfOpeningTest : public DocumentsFixture {
+ protected:
+  void SetUp() override {
+    DocumentsFixture::SetUp();
+    file_ = write(QStringLiteral("event.cwd"), event_file(spiral(7)));
+  }
+
+  [[nodiscard]] const QString& file() const { return file_; }
+
+ private:
+  QString file_;
+};
+
+RecordingDialogs::Question question(const QString& title, const QString& filter) {
+  return {title, filter, {}, {}};
+}
+
+TEST_F(WaysOfOpeningTest, OpeningOffersEventFilesOnly) {
+  dialogs().answer = file();
+  choose("open_item");
+  EXPECT_EQ(dialogs().questions, std::vector{question(QStringLiteral("Open Event"),
+                                                      QStringLiteral("Event files (*.cwd)"))});
+  EXPECT_EQ(chamber().point_number(), 7);
+}
+
+TEST_F(WaysOfOpeningTest, ImportingOffersTheNamesOfThePcEditionToo) {
+  dialogs().answer = file();
+  choose("import_item");
+  EXPECT_EQ(dialogs().questions,
+            std::vector{question(QStringLiteral("Import PC Event"),
+                                 QStringLiteral("PC event files (*.cwd *.CWD *.txt *.TXT)"))});
+  EXPECT_EQ(chamber().point_number(), 7);
+}
+
+TEST_F(WaysOfOpeningTest, TheFormatTagAloneDecides) {
+  const QString pc = write(QStringLiteral("pc.cwd"), pc_file(spiral(9)));
+  dialogs().answer = pc;
+  choose("open_item");
+  EXPECT_EQ(chamber().point_number(), 9);
+  dialogs().answer = file();
+  choose("import_item");
+  EXPECT_EQ(chamber().point_number(), 7);
+  EXPECT_TRUE(dialogs().alerts.empty());
+}
+
+TEST_F(WaysOfOpeningTest, CancelledChangesNothing) {
+  makeEvent(0);
+  const Shown before = shown();
+  for (const char* const name : {"open_item", "import_item"}) {
+    choose(name);
+  }
+  EXPECT_EQ(dialogs().questions.size(), 2U);
+  EXPECT_TRUE(dialogs().alerts.empty());
+  EXPECT_EQ(differences(before, shown()), "");
+}
+
+TEST_F(WaysOfOpeningTest, AFileOfAnotherProgramIsRefusedWhicheverWay) {
+  dialogs().answer = write(QStringLiteral("letter.txt"), "Dear reader");
+  choose("open_item");
+  choose("import_item");
+  EXPECT_FALSE(documents().application_openFile(dialogs().answer));
+  EXPECT_EQ(dialogs().alerts, std::vector(3, wrong_format));
+}
+
+TEST_F(WaysOfOpeningTest, AnOpenRequestAnswersWhetherItIsShown) {
+  EXPECT_TRUE(documents().application_openFile(file()));
+  EXPECT_EQ(chamber().point_number(), 7);
+  EXPECT_TRUE(dialogs().questions.empty());
+}
+
+/// Drags something over a window and, if the window takes it, drops it there.
+bool drag_and_drop(QWidget& window, const QMimeData& data) {
+  const QPoint place(50, 50);
+  QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  enter.ignore();
+  QCoreApplication::sendEvent(&window, &enter);
+  if (enter.isAccepted()) {
+    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &drop);
+  }
+  handle_waiting_events();
+  return enter.isAccepted();
+}
+
+TEST_F(WaysOfOpeningTest, AFileDroppedOnEitherWindowIsShown) {
+  QMimeData data;
+  for (QWidget* const window :
+       {static_cast<QWidget*>(&chamberWindow()), static_cast<QWidget*>(&projectorWindow())}) {
+    makeEvent(0);
+    data.setUrls({QUrl::fromLocalFile(file())});
+    EXPECT_TRUE(drag_and_drop(*window, data));
+    EXPECT_EQ(copy_of(chamber().data_ptr()), spiral(7));
+    EXPECT_EQ(chamberWindow().windowTitle(), QStringLiteral("Particle Chamber: event.cwd"));
+  }
+}
+
+TEST_F(WaysOfOpeningTest, OfSeveralFilesDroppedTheLastIsShown) {
+  const QString last = write(QStringLiteral("last.cwd"), event_file(spiral(11)));
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(file()), QUrl::fromLocalFile(last)});
+  EXPECT_TRUE(drag_and_drop(chamberWindow(), data));
+  EXPECT_EQ(chamber().point_number(), 11);
+}
+
+TEST_F(WaysOfOpeningTest, ADroppedFileThatIsRefusedIsTold) {
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(write(QStringLiteral("a.cwd"), hex("50")))});
+  EXPECT_TRUE(drag_and_drop(chamberWindow(), data));
+  EXPECT_EQ(dialogs().alerts, std::vector{bad_data});
+}
+
+TEST_F(WaysOfOpeningTest, WhatIsNoFileIsNotTaken) {
+  makeEvent(0);
+  const Shown before = shown();
+  QMimeData text;
+  text.setText(QStringLiteral("event.cwd"));
+  QMimeData page;
+  page.setUrls({QUrl(QStringLiteral("https://example.org/event.cwd"))});
+  for (const QMimeData* const data : {&text, &page}) {
+    EXPECT_FALSE(drag_and_drop(chamberWindow(), *data));
+    QDropEvent drop(QPoint(50, 50), Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&chamberWindow(), &drop);
+    handle_waiting_events();
+  }
+  EXPECT_TRUE(dialogs().alerts.empty());
+  EXPECT_EQ(differences(before, shown()), "");
+}
+
+/// The program itself, started with a file.
+class ProgramTest : public testing::Test {
+ protected:
+  QString write(const QString& name, const QByteArray& bytes) {
+    QFile file(folder_.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    return file.fileName();
+  }
+
+  static void expectTitles(const QString& file, const QString& name) {
+    RunningProgram program(VELQUON_PROGRAM, {file});
+    const QStringList titles{QStringLiteral("Particle Chamber: ") + name,
+                             QStringLiteral("Projector: ") + name};
+    EXPECT_TRUE(wait_until([&] { return program.windowTitles() == titles; }))
+        << program.windowTitles().join(QStringLiteral(" | ")).toStdString();
+    // Nor does a dialog follow.
+    run_loop_for(200);
+    EXPECT_EQ(program.windowTitles(), titles);
+    EXPECT_TRUE(program.isRunning());
+  }
+
+ private:
+  QTemporaryDir folder_;
+};
+
+TEST_F(ProgramTest, OpensTheFileItIsStartedWith) {
+  expectTitles(write(QStringLiteral("event.cwd"), event_file(spiral(7))),
+               QStringLiteral("event.cwd"));
+}
+
+/// Pixels of a colour in a window that another program has on the screen.
+std::size_t pixels_in(RunningProgram& program, const QString& title, QRgb color) {
+  return pixels_of(program.windowPicture(title), color).size();
+}
+
+TEST_F(ProgramTest, ShowsTheFileItIsStartedWithInBothViews) {
+  std::vector<PlotPoint> points = spiral(300);
+  for (PlotPoint& point : points) {
+    point.code = 3;  // red
+  }
+  const QString file = write(QStringLiteral("red.cwd"), event_file(points));
+  std::size_t white_without_event = 0;
+  {
+    RunningProgram empty(VELQUON_PROGRAM, {});
+    ASSERT_TRUE(wait_until([&] {
+      white_without_event = pixels_in(empty, QStringLiteral("Projector: Empty"), white);
+      return white_without_event > 500;  // the dotted frame
+    }));
+  }
+  RunningProgram program(VELQUON_PROGRAM, {file});
+  EXPECT_TRUE(wait_until(
+      [&] { return pixels_in(program, QStringLiteral("Particle Chamber: red.cwd"), red) > 300; }));
+  EXPECT_TRUE(wait_until([&] {
+    return pixels_in(program, QStringLiteral("Projector: red.cwd"), white) >
+           white_without_event + 200;
+  }));
+}
+
+TEST_F(ProgramTest, OpensAFileOfThePcEdition) {
+  expectTitles(write(QStringLiteral("EVENT.CWD"), pc_file(spiral(7))), QStringLiteral("EVENT.CWD"));
+}
+
+TEST_F(ProgramTest, StartsWithoutAFileThatCannotBeLoaded) {
+  for (const char* const path : {"/no/such/file.cwd", "/dev/zero", "/tmp"}) {
+    expectTitles(QLatin1String(path), QStringLiteral("Empty"));
+  }
+}
+
+TEST_F(ProgramTest, TellsOfAFileThatItRefuses) {
+  RunningProgram program(VELQUON_PROGRAM, {write(QStringLiteral("a.cwd"), hex("50"))});
+  const QStringList titles{QStringLiteral("Bad data"), QStringLiteral("Particle Chamber: Empty"),
+                           QStringLiteral("Projector: Empty")};
+  EXPECT_TRUE(wait_until([&] { return program.windowTitles() == titles; }))
+      << program.windowTitles().join(QStringLiteral(" | ")).toStdString();
+}
+
+}  // namespace
+
+}  // namespace velquon::test

@@ -1,0 +1,251 @@
+// The replay of an event point by point, seen from inside and on the screen.
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QTest>
+#include <QTimer>
+#include <algorithm>
+
+#include "tests/gui/support/application_fixture.h"
+#include "tests/gui/support/pictures.h"
+#include "tests/gui/support/screen_pixels.h"
+#include "tests/gui/support/waiting.h"
+
+namespace velquon::test {
+
+namespace {
+
+constexpr int frame_milliseconds = 10;
+
+class ReplayTest : public ApplicationFixture {
+ protected:
+  void SetUp() override {
+    ApplicationFixture::SetUp();
+    hideAxesAndValues();
+    chamberWindow().raise();
+  }
+
+  /// A row of red points that do not cover each other.
+  void showRow(int count) {
+    std::vector<PlotPoint> points;
+    for (int i = 0; i < count; ++i) {
+      points.push_back(point_at(0.0, -380.0 + 760.0 * i / count, 200.0 - 300.0 * (i % 2), 3));
+    }
+    showEvent(points);
+  }
+
+  /// Runs the loop until the replay that was asked for is over. From then on until the function
+  /// returns the loop handles nothing else.
+  void runReplay(int passes_before) {
+    // Both timers are overdue when the loop looks at them: the replay's runs, then, with nothing
+    // between, the one that ends the wait.
+    QEventLoop loop;
+    bool is_over = false;
+    QTimer after;
+    QObject::connect(&after, &QTimer::timeout, &loop, [&] {
+      is_over = chamber().passes() >= passes_before + chamber().point_number();
+      if (is_over) {
+        at_end_();
+        loop.quit();
+      }
+    });
+    after.start(40);
+    QTest::qSleep(100);
+    QTimer::singleShot(30'000, &loop, &QEventLoop::quit);
+    loop.exec();
+    EXPECT_TRUE(is_over);
+  }
+
+  std::function<void()> at_end_ = [] {};
+};
+
+/// Looks at the red pixels of a view on the screen from a process of its own.
+class ScreenWatch {
+ public:
+  explicit ScreenWatch(const QWidget& view) {
+    const QPoint corner = view.mapToGlobal(QPoint(0, 0));
+    process_.start(
+        QStringLiteral(SCREEN_WATCH),
+        {QString::number(corner.x()), QString::number(corner.y()), QString::number(view.width()),
+         QString::number(view.height()), QStringLiteral("FF0000")});
+    EXPECT_TRUE(process_.waitForReadyRead());
+  }
+
+  /// Each count that was seen, in order.
+  std::vector<int> finish() {
+    process_.closeWriteChannel();
+    EXPECT_TRUE(process_.waitForFinished());
+    std::vector<int> counts;
+    for (const QByteArray& line : process_.readAllStandardOutput().split('\n')) {
+      if (!line.isEmpty()) {
+        counts.push_back(line.toInt());
+      }
+    }
+    return counts;
+  }
+
+ private:
+  QProcess process_;
+};
+
+/// Red pixels of a view on the screen.
+int red_on_screen(const QWidget& view) {
+  constexpr unsigned long red_color = 0xFF0000;
+  const QPoint corner = view.mapToGlobal(QPoint(0, 0));
+  return count_screen_pixels({corner.x(), corner.y(), static_cast<unsigned>(view.width()),
+                              static_cast<unsigned>(view.height())},
+                             red_color);
+}
+
+}  // namespace
+
+TEST_F(ReplayTest, GivesTheFullCountBackAndShowsAllPoints) {
+  showRow(30);
+  const QImage before = picture_of(chamber());
+  const int passes = chamber().passes();
+  choose("replay_item");
+  runReplay(passes);
+  EXPECT_EQ(chamber().point_number(), 30);
+  EXPECT_EQ(chamber().data_ptr().size(), 30U);
+  EXPECT_EQ(differing_pixels(picture_of(chamber()), before), 0);
+}
+
+TEST_F(ReplayTest, DrawsOnceAPointAndTakesTenMillisecondsAPointPlusTheDrawing) {
+  constexpr int count = 60;
+  showRow(count);
+  int passes = 0;
+  QElapsedTimer clock;
+  qint64 took = 0;
+  const int start = chamber().passes();
+  choose("replay_item");
+  // Stopping the turntable draws once when asked for and once at the replay's begin.
+  passes = chamber().passes();
+  EXPECT_EQ(passes, start + 1);
+  at_end_ = [&] { took = clock.elapsed(); };
+  clock.start();
+  runReplay(passes);
+  EXPECT_EQ(chamber().passes(), passes + 1 + count);
+  EXPECT_GE(took, count * frame_milliseconds);
+  constexpr int most_drawing = 60;  // milliseconds a frame on a busy machine
+  EXPECT_LE(took, count * (frame_milliseconds + most_drawing) + 150);
+}
+
+TEST_F(ReplayTest, BeginsAfterTheTurntablesDelay) {
+  showRow(3);
+  for (const char* const rate : {"rotate_slower_item", "rotate_faster_item"}) {
+    choose(rate);
+    QElapsedTimer clock;
+    clock.start();
+    choose("replay_item");
+    const int passes = chamber().passes();
+    ASSERT_TRUE(wait_until([&] { return chamber().passes() >= passes + 4; }));
+    EXPECT_GE(static_cast<double>(clock.elapsed()),
+              chamber().rot_delay() * 1000.0 + 3 * frame_milliseconds - 1.0);
+  }
+}
+
+TEST_F(ReplayTest, AnEventWithoutPointsHasNothingToReplay) {
+  showEvent({});
+  const QImage before = picture_of(chamber());
+  choose("replay_item");
+  const int passes = chamber().passes();
+  ASSERT_TRUE(wait_until([&] { return chamber().passes() > passes; }));
+  run_loop_for(50);
+  EXPECT_EQ(chamber().passes(), passes + 1);
+  EXPECT_EQ(chamber().point_number(), 0);
+  EXPECT_EQ(differing_pixels(picture_of(chamber()), before), 0);
+}
+
+TEST_F(ReplayTest, StopsTheTurntable) {
+  showRow(5);
+  choose("rotate_item");
+  const auto steps = chamber().rotation_steps();
+  ASSERT_TRUE(wait_until([&] { return chamber().rotation_steps() > steps + 5; }));
+  choose("replay_item");
+  EXPECT_FALSE(chamber().is_rotating());
+  runReplay(chamber().passes());
+  EXPECT_FALSE(chamber().is_rotating());
+}
+
+TEST_F(ReplayTest, ANewEventIsReplayedInSlowMotion) {
+  choose("slomo_item");
+  choose("muplus_item");
+  choose("new_event_item");
+  const int count = chamber().point_number();
+  ASSERT_GT(count, 0);
+  const int passes = chamber().passes();
+  runReplay(passes);
+  EXPECT_GE(chamber().passes(), passes + count);
+  EXPECT_EQ(chamber().point_number(), count);
+
+  choose("slomo_item");
+  choose("new_event_item");
+  const int without = chamber().passes();
+  run_loop_for(100);
+  EXPECT_EQ(chamber().passes(), without);
+}
+
+TEST_F(ReplayTest, PointsAppearOneByOneOnTheScreen) {
+  constexpr int count = 60;
+  showRow(count);
+  ASSERT_TRUE(wait_until([&] { return red_on_screen(chamber()) > count; }));
+  const int all = red_on_screen(chamber());
+  ScreenWatch watch(chamber());
+  choose("replay_item");
+  runReplay(chamber().passes());
+  std::vector<int> counts = watch.finish();
+
+  // The whole event before the replay, then a count that only grows.
+  ASSERT_GE(counts.size(), 2U);
+  EXPECT_EQ(counts.front(), all);
+  EXPECT_EQ(counts.back(), all);
+  counts.erase(counts.begin());
+  EXPECT_TRUE(std::ranges::is_sorted(counts));
+  EXPECT_GE(counts.size(), 6U) << "distinct pictures of " << count;
+  EXPECT_LT(counts.front(), all / 2);
+}
+
+TEST_F(ReplayTest, TheLastPictureIsOnTheScreenBeforeControlReturns) {
+  showRow(40);
+  ASSERT_TRUE(wait_until([&] { return red_on_screen(chamber()) > 40; }));
+  const int all = red_on_screen(chamber());
+  int at_end = 0;
+  at_end_ = [&] {
+    // The server may be behind; the program does nothing more meanwhile.
+    for (int attempt = 0; attempt < 100 && at_end != all; ++attempt) {
+      at_end = red_on_screen(chamber());
+      QTest::qSleep(5);
+    }
+  };
+  choose("replay_item");
+  runReplay(chamber().passes());
+  EXPECT_EQ(at_end, all);
+}
+
+TEST_F(ReplayTest, NothingElseIsHandledUntilItEnds) {
+  constexpr int count = 20;
+  showRow(count);
+  int looks = 0;
+  int looks_in_between = 0;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, &chamber(), [&] {
+    ++looks;
+    looks_in_between += chamber().point_number() != count ? 1 : 0;
+  });
+  look.start(1);
+  choose("replay_item");
+  runReplay(chamber().passes());
+  EXPECT_GT(looks, 0);
+  EXPECT_EQ(looks_in_between, 0);
+}
+
+TEST_F(ReplayTest, WorksWhileTheChamberIsHidden) {
+  showRow(5);
+  chamberWindow().close();
+  choose("replay_item");
+  run_loop_for(200);
+  EXPECT_EQ(chamber().point_number(), 5);
+  EXPECT_FALSE(chamberWindow().isVisible());
+}
+
+}  // namespace velquon::test

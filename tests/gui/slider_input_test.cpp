@@ -1,0 +1,208 @@
+// The controls of the chamber values under keys, mouse and wheel.
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QLabel>
+#include <QTest>
+
+#include "platform/value_slider.h"
+#include "tests/gui/support/application_fixture.h"
+#include "tests/gui/support/input.h"
+#include "tests/gui/support/waiting.h"
+
+namespace velquon::test {
+
+namespace {
+
+class SliderInputTest : public ApplicationFixture {
+ protected:
+  [[nodiscard]] ValueSlider& slider(const char* name) { return control<ValueSlider>(name); }
+  [[nodiscard]] ValueSlider& energy() { return slider("energy_slider"); }
+  [[nodiscard]] QComboBox& ranges() { return control<QComboBox>("efactor_popup"); }
+  [[nodiscard]] std::string label(const char* name) {
+    return control<QLabel>(name).text().toStdString();
+  }
+  /// The last range, whose least value is 0.
+  void chooseLowestRange() { ranges().setCurrentIndex(6); }
+};
+
+struct SliderCase {
+  const char* slider;
+  double least;
+  double tick;
+  double greatest;
+};
+constexpr std::array sliders{SliderCase{"magfield_slider", 0.0, 0.5, 10.0},
+                             SliderCase{"size_slider", 0.5, 0.5, 10.0},
+                             SliderCase{"energy_slider", 0.1, 0.09, 1.0}};
+
+struct KeyCase {
+  Qt::Key key;
+  double ticks;
+};
+constexpr std::array keys{KeyCase{Qt::Key_Right, 0.1},  KeyCase{Qt::Key_Left, -0.1},
+                          KeyCase{Qt::Key_Up, 0.1},     KeyCase{Qt::Key_Down, -0.1},
+                          KeyCase{Qt::Key_PageUp, 1.0}, KeyCase{Qt::Key_PageDown, -1.0}};
+
+}  // namespace
+
+TEST_F(SliderInputTest, ArrowKeysMoveATenthOfATickAndPageKeysATick) {
+  for (const auto& [name, least, tick, greatest] : sliders) {
+    for (const auto& [key, ticks] : keys) {
+      SCOPED_TRACE(testing::Message() << name << ", key " << key);
+      const double middle = least + 4.0 * tick;
+      slider(name).setFloatValue(static_cast<float>(middle));
+      QTest::keyClick(&slider(name), key);
+      EXPECT_NEAR(slider(name).doubleValue(), middle + ticks * tick, 1.0e-5 * greatest);
+    }
+  }
+}
+
+TEST_F(SliderInputTest, HomeAndEndReachTheEnds) {
+  for (const auto& [name, least, tick, greatest] : sliders) {
+    QTest::keyClick(&slider(name), Qt::Key_End);
+    EXPECT_FLOAT_EQ(slider(name).floatValue(), static_cast<float>(greatest)) << name;
+    QTest::keyClick(&slider(name), Qt::Key_Home);
+    EXPECT_FLOAT_EQ(slider(name).floatValue(), static_cast<float>(least)) << name;
+    QTest::keyClick(&slider(name), Qt::Key_Left);
+    EXPECT_FLOAT_EQ(slider(name).floatValue(), static_cast<float>(least)) << name;
+  }
+}
+
+TEST_F(SliderInputTest, KeysRefreshTheLabels) {
+  QTest::keyClick(&slider("magfield_slider"), Qt::Key_Right);
+  EXPECT_EQ(label("magfield_text"), "B = 0.650 kG");
+  QTest::keyClick(&slider("size_slider"), Qt::Key_PageDown);
+  EXPECT_EQ(label("sides_text"), "L = 4.500 m");
+  QTest::keyClick(&energy(), Qt::Key_End);
+  EXPECT_EQ(label("kinetic_energy_text"), "T = 1.000 MeV");
+}
+
+TEST_F(SliderInputTest, ADragMovesTheValueAndItsLabelAsItGoes) {
+  struct Case {
+    const char* slider;
+    const char* label;
+  };
+  constexpr std::array cases{Case{"magfield_slider", "magfield_text"},
+                             Case{"size_slider", "sides_text"},
+                             Case{"energy_slider", "kinetic_energy_text"}};
+  for (const auto& [name, text] : cases) {
+    SCOPED_TRACE(name);
+    ValueSlider& moved = slider(name);
+    moved.moveTo(moved.minValue() + 0.3 * (moved.maxValue() - moved.minValue()));
+    const float before = moved.floatValue();
+    const std::string label_before = label(text);
+    const QPoint knob = knob_of(moved);
+    press(moved, knob);
+    move_pressed(moved, knob + QPoint(30, 0));
+    const float under_way = moved.floatValue();
+    const std::string label_under_way = label(text);
+    move_pressed(moved, knob + QPoint(60, 0));
+    release(moved, knob + QPoint(60, 0));
+    EXPECT_GT(under_way, before);
+    EXPECT_GT(moved.floatValue(), under_way);
+    EXPECT_NE(label_under_way, label_before);
+    EXPECT_NE(label(text), label_under_way);
+  }
+}
+
+TEST_F(SliderInputTest, ADragBeyondTheEndsStaysInTheRange) {
+  for (const auto& [name, least, tick, greatest] : sliders) {
+    ValueSlider& moved = slider(name);
+    drag(moved, knob_of(moved), {5000, 5});
+    EXPECT_FLOAT_EQ(moved.floatValue(), static_cast<float>(greatest)) << name;
+    drag(moved, knob_of(moved), {-5000, 5});
+    EXPECT_FLOAT_EQ(moved.floatValue(), static_cast<float>(least)) << name;
+  }
+}
+
+TEST_F(SliderInputTest, TheWheelMovesByTenthsOfATick) {
+  for (const auto& [name, least, tick, greatest] : sliders) {
+    SCOPED_TRACE(name);
+    ValueSlider& moved = slider(name);
+    const double middle = least + 4.0 * tick;
+    moved.setFloatValue(static_cast<float>(middle));
+    turn_wheel(moved, 1);
+    const double step = tick / 10.0 * QApplication::wheelScrollLines();
+    EXPECT_NEAR(moved.doubleValue(), middle + step, 1.0e-5 * greatest);
+    turn_wheel(moved, -2);
+    EXPECT_NEAR(moved.doubleValue(), middle - step, 1.0e-5 * greatest);
+  }
+}
+
+TEST_F(SliderInputTest, MovesOfAPersonStayInTheRangeAfterAValueFromOutside) {
+  controller().settings().setFieldControl(12.0F);
+  QTest::keyClick(&slider("magfield_slider"), Qt::Key_Left);
+  EXPECT_NEAR(slider("magfield_slider").doubleValue(), 9.95, 1.0e-5);
+  EXPECT_EQ(label("magfield_text"), "B = 9.950 kG");
+}
+
+TEST_F(SliderInputTest, NoKeyReachesEnergyZero) {
+  chooseLowestRange();
+  QTest::keyClick(&energy(), Qt::Key_Home);
+  EXPECT_NEAR(energy().doubleValue(), 0.0001, 1.0e-8);
+  for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Down, Qt::Key_PageDown, Qt::Key_Home}) {
+    for (int i = 0; i < 3; ++i) {
+      QTest::keyClick(&energy(), key);
+    }
+    EXPECT_GT(energy().floatValue(), 0.0F) << key;
+  }
+  EXPECT_EQ(label("kinetic_energy_text"), "T = 0.0001 MeV");
+}
+
+TEST_F(SliderInputTest, NoMouseReachesEnergyZero) {
+  chooseLowestRange();
+  drag(energy(), knob_of(energy()), {-5000, 5});
+  EXPECT_GT(energy().floatValue(), 0.0F);
+  for (int i = 0; i < 60; ++i) {
+    QTest::mouseClick(&energy(), Qt::LeftButton, {}, QPoint(0, energy().height() / 2));
+  }
+  EXPECT_GT(energy().floatValue(), 0.0F);
+  turn_wheel(energy(), -200);
+  EXPECT_GT(energy().floatValue(), 0.0F);
+}
+
+TEST_F(SliderInputTest, NoChangeOfRangeReachesEnergyZero) {
+  for (const int from : {0, 3, 5}) {
+    ranges().setCurrentIndex(from);
+    QTest::keyClick(&energy(), Qt::Key_Home);
+    chooseLowestRange();
+    EXPECT_GT(energy().floatValue(), 0.0F) << from;
+  }
+}
+
+TEST_F(SliderInputTest, EnergyZeroOfTheProgramIsShownAndKept) {
+  controller().settings().setEnergyControl(0.0F);
+  EXPECT_EQ(energy().floatValue(), 0.0F);
+  EXPECT_EQ(label("kinetic_energy_text"), "T = 0.0000 MeV");
+  QTest::keyClick(&energy(), Qt::Key_Right);
+  EXPECT_GT(energy().floatValue(), 0.0F);
+}
+
+TEST_F(SliderInputTest, RangesAreChosenByKeys) {
+  ranges().setFocus();
+  QTest::keyClick(&ranges(), Qt::Key_Down);
+  EXPECT_EQ(ranges().currentIndex(), 5);
+  EXPECT_FLOAT_EQ(static_cast<float>(energy().maxValue()), 0.1F);
+  EXPECT_EQ(label("kinetic_energy_text"), "T = 0.100 MeV");
+  QTest::keyClick(&ranges(), Qt::Key_Home);
+  EXPECT_EQ(ranges().currentIndex(), 0);
+  EXPECT_EQ(label("kinetic_energy_text"), "T = 1000.0 MeV");
+}
+
+TEST_F(SliderInputTest, RangesAreChosenByMouse) {
+  QTest::mouseClick(&ranges(), Qt::LeftButton);
+  QAbstractItemView& list = *ranges().view();
+  ASSERT_TRUE(wait_until([&] { return list.isVisible(); }));
+  // The list takes no choice in the moment after the click that opened it.
+  run_loop_for(QApplication::doubleClickInterval() + 100);
+  const QRect row = list.visualRect(list.model()->index(2, 0));
+  QTest::mouseMove(list.viewport(), row.center());
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, row.center());
+  ASSERT_TRUE(wait_until([&] { return ranges().currentIndex() == 2; }));
+  EXPECT_EQ(energy().minValue(), 10.0);
+  EXPECT_EQ(energy().maxValue(), 100.0);
+  EXPECT_EQ(label("kinetic_energy_text"), "T = 10.00 MeV");
+}
+
+}  // namespace velquon::test
