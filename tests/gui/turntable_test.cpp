@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QTest>
 #include <QThread>
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -50,10 +51,23 @@ class TurntableTest : public ApplicationFixture {
   }
   void expectMarksSeenBy(const Camera& camera) {
     const QImage picture = picture_of(chamber());
+    std::vector<QPointF> places;
     for (const PlotPoint& mark : marks_) {
-      const QPointF place = camera.pixel({mark.coords[0], mark.coords[1], mark.coords[2]});
-      EXPECT_EQ(color_at(picture, place), color_of_code(mark.code)) << "code " << mark.code;
+      places.push_back(camera.pixel({mark.coords[0], mark.coords[1], mark.coords[2]}));
     }
+    std::size_t seen = 0;
+    for (std::size_t i = 0; i < places.size(); ++i) {
+      // How far it turned is a matter of time, so a later mark may just be in front.
+      const bool is_covered = std::any_of(
+          places.begin() + static_cast<std::ptrdiff_t>(i) + 1, places.end(), [&](QPointF later) {
+            return std::hypot(later.x() - places[i].x(), later.y() - places[i].y()) < 4.0;
+          });
+      if (!is_covered) {
+        EXPECT_EQ(color_at(picture, places[i]), color_of_code(marks_.at(i).code)) << "mark " << i;
+        ++seen;
+      }
+    }
+    EXPECT_GE(seen, 2U);
   }
   void expectNoMoreSteps() {
     EXPECT_FALSE(chamber().is_rotating());
