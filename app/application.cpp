@@ -52,7 +52,10 @@ void Application::showWindows() {
   projector_window_->resize(projector_window_->sizeHint());
   chamber_window_->move(chamber_corner);
   projector_window_->move(chamber_corner + QPoint(chamber_window_->width() + gap, 0));
+  // The keys go to the chamber's window at once, not first to the one that comes up before it.
+  projector_window_->setAttribute(Qt::WA_ShowWithoutActivating);
   projector_window_->show();
+  projector_window_->setAttribute(Qt::WA_ShowWithoutActivating, false);
   chamber_window_->makeKeyAndOrderFront();
 }
 

@@ -216,7 +216,9 @@ void ChamberController::keyWindowChanged() {
     setPrintView(outlets_.chamber_view);
     return;
   }
-  outlets_.chamber_view->stopRotating();
+  if (outlets_.chamber_view->is_rotating()) {
+    outlets_.chamber_view->stopRotating();
+  }
   setPrintView(outlets_.projector_window->isActiveWindow() ? outlets_.projection_view : nullptr);
 }
 

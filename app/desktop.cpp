@@ -23,7 +23,7 @@ void finish_desktop(int argc, char** argv) {
   glutInit(&argc, argv);
   install_accessible_value_sliders();
   QIcon icon;
-  for (const int size : {16, 32, 48, 64, 128, 256}) {
+  for (const int size : {16, 32, 48}) {
     icon.addFile(QStringLiteral(":/icons/velquon-%1.png").arg(size));
   }
   QApplication::setWindowIcon(icon);
