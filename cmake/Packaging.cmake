@@ -58,7 +58,8 @@ add_custom_target(packaging ALL DEPENDS ${packaged})
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_VENDOR "The Velquon developers")
 set(CPACK_PACKAGE_CONTACT "The Velquon developers <velquon@example.org>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "simulator of a particle-detector chamber in a magnetic field")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY
+  "simulator of a particle-detector chamber in a magnetic field")
 set(CPACK_PACKAGE_DESCRIPTION "\
 Velquon makes decays of pions, muons and the Lambda by chance in a chamber\n\
 with a magnetic field, shows their tracks in three dimensions and flat on a\n\

@@ -94,7 +94,11 @@ typed() {  # typed EXPECTED FILE, where a leading ! means any other type
   local found
   found=$(gio info -a standard::content-type "$2" | sed -n 's/^ *standard::content-type: //p')
   case $1 in
-    !*) [ -n "$found" ] && [ "$found" != "${1#!}" ] || fail "${2##*/} is taken for '$found'" ;;
+    !*)
+      if [ -z "$found" ] || [ "$found" = "${1#!}" ]; then
+        fail "${2##*/} is taken for '$found'"
+      fi
+      ;;
     *) same "the type of ${2##*/}" "$1" "$found" ;;
   esac
 }
@@ -104,11 +108,11 @@ zeros() { head -c "$1" /dev/zero; }
 # event_with HIGH LOW [FOURTH [CODE]]: one point record behind a count of the two bytes given, its
 # fourth coordinate 1.0 and its code 3 unless told otherwise.
 event_with() {
-  printf "P\\x$1\\x$2"
+  printf %b "P\\x$1\\x$2"
   zeros 24
-  printf "${3:-\\x3f\\xf0}"
+  printf %b "${3:-\\x3f\\xf0}"
   zeros 14
-  printf "${4:-\\x00\\x03}"
+  printf %b "${4:-\\x00\\x03}"
   zeros 78
 }
 
@@ -116,11 +120,11 @@ event_with() {
 pc_event_with() {
   printf W
   zeros 48
-  printf "\\x$1\\x$2\\x$3\\x00"
+  printf %b "\\x$1\\x$2\\x$3\\x00"
   zeros 30
-  printf "${4:-\\xf0\\x3f}"
+  printf %b "${4:-\\xf0\\x3f}"
   zeros 8
-  printf "${5:-\\x03\\x00}"
+  printf %b "${5:-\\x03\\x00}"
   zeros 6
 }
 
@@ -139,7 +143,8 @@ check_event_types() {
   done
 
   # By content alone, at the ends of every stretch of counts. 1388 is 5000.
-  for name in 0001 0002 00ff 0100 0350 07ff 0800 090a 0fff 1000 11ff 1200 1300 137f 1380 1387 1388; do
+  for name in 0001 0002 00ff 0100 0350 07ff 0800 090a 0fff 1000 11ff 1200 1300 137f 1380 1387 \
+    1388; do
     event_with ${name:0:2} ${name:2} >"$files/points-$name"
     typed $event_type "$files/points-$name"
     pc_event_with ${name:2} ${name:0:2} 00 >"$files/pc-points-$name"
@@ -234,7 +239,7 @@ check_manual_options() {
     helped=$("$tree/usr/bin/$page" --help | grep -oE '(^|[ ,])--[a-z]+' | tr -d ' ,' | sort -u)
     [ "$(wc -l <<<"$helped")" -ge 4 ] || fail "$page --help names too few options"
     named=$(page_text "$page" | sed -n '/^\.SH OPTIONS/,/^\.SH "*[^O]/p' |
-      grep -A1 '^\.T[PQ]' | grep -oE '\\-\\-[a-z]+' | tr -d '\\' | sort -u)
+      grep -A1 '^\.T[PQ]' | grep -oE '\\-\\-[a-z]+' | sed 's/\\//g' | sort -u)
     same "options of $page" "$helped" "$named"
   done
 }
@@ -243,7 +248,8 @@ check_manual_options() {
 check_manual_examples() {
   local folder=$work/examples counts
   fresh_folder "$folder"
-  page_text velquon-events | sed -n '/^\.EX/,/^\.EE/{/^\.E/d; s/^\$ //; s/\\-/-/g; s/\\(aq/'"'"'/g; s/\\e$/\\/; p}' \
+  page_text velquon-events |
+    sed -n '/^\.EX/,/^\.EE/{/^\.E/d; s/^\$ //; s/\\-/-/g; s/\\(aq/'"'"'/g; s/\\e$/\\/; p}' \
     >"$folder/examples.sh"
   counts=$(cd "$folder" && PATH=$tree/usr/bin:$PATH bash -euo pipefail examples.sh) ||
     fail "an example ends with an error"
@@ -269,26 +275,49 @@ check_make_package() {
   rm -rf "$package"
   need dpkg-shlibdeps dpkg-deb
   mkdir -p "$package"
-  (cd "$build" && "$(dirname "$CMAKE_COMMAND")/cpack" -G DEB -B "$package") >"$package/cpack.log" 2>&1 ||
-    { tail -n 20 "$package/cpack.log" >&2; fail "cpack"; }
+  (cd "$build" && "$(dirname "$CMAKE_COMMAND")/cpack" -G DEB -B "$package") \
+    >"$package/cpack.log" 2>&1 || { tail -n 20 "$package/cpack.log" >&2; fail "cpack"; }
   [ -s "$(the_package)" ] || fail "there is no package"
   fresh_folder "$unpacked"
   dpkg-deb -x "$(the_package)" "$unpacked"
 }
 
-check_package_files() {
-  need_package
-  local expected actual document
-  expected=$(
+expected_files() {
+  local document
+  {
     cat "$source/tests/desktop/package_files.txt"
     for document in README.md CHANGELOG.md; do
       [ ! -e "$source/$document" ] || echo "/usr/share/doc/velquon/$document"
     done
-  )
-  actual=$(dpkg-deb -c "$(the_package)" | grep -v '^d' | sed 's/.* \.\//\//')
-  diff <(sort <<<"$expected") <(sort <<<"$actual") || fail "the package holds other files"
-  local modes='^(drwxr-xr-x root/root .*/|-rwxr-xr-x root/root .* \./usr/bin/[^/]*|-rw-r--r-- root/root .*)$'
+  } | sort
+}
+
+check_package_files() {
+  need_package
+  local actual
+  actual=$(dpkg-deb -c "$(the_package)" | grep -v '^d' | sed 's/.* \.\//\//' | sort)
+  diff <(expected_files) - <<<"$actual" || fail "the package holds other files"
+  local modes='^(drwxr-xr-x root/root .*/|-rw-r--r-- root/root .*'
+  modes+='|-rwxr-xr-x root/root .* \./usr/bin/[^/]*)$'
   ! dpkg-deb -c "$(the_package)" | grep -vE "$modes" || fail "owners or modes"
+}
+
+# Installs into a folder with a package database of its own, and removes again.
+check_package_installs() {
+  need_package
+  [ "$(id -u)" -eq 0 ] || { echo "skipped: dpkg wants to be root here"; exit 77; }
+  local root=$package/root left
+  local dpkg=(dpkg --root="$root" --log=/dev/null --force-depends --no-triggers)
+  fresh_folder "$root"
+  mkdir -p "$root/var/lib/dpkg/info" "$root/var/lib/dpkg/updates"
+  : >"$root/var/lib/dpkg/status"
+  "${dpkg[@]}" -i "$(the_package)" >"$package/dpkg.log" 2>&1 ||
+    { cat "$package/dpkg.log" >&2; fail "dpkg -i"; }
+  diff <(expected_files) <(find "$root/usr" ! -type d -printf '/usr/%P\n' | sort) ||
+    fail "dpkg installs other files"
+  "${dpkg[@]}" -P velquon >"$package/dpkg.log" 2>&1 || fail "dpkg -P"
+  left=$(find "$root" -path "$root/var" -prune -o ! -type d -print)
+  same "files that stay behind" "" "$left"
 }
 
 check_package_control() {
@@ -312,13 +341,13 @@ check_package_runs() {
     file --brief "$unpacked/usr/bin/$page" | grep -q ', stripped$' || fail "$page is not stripped"
   done
   "$unpacked/usr/bin/velquon-events" --type pi- --seed 1 >"$package/packaged.csv"
-  [ "$(wc -l <"$package/packaged.csv")" -gt 2 ] || fail "velquon-events of the package makes no event"
+  [ "$(wc -l <"$package/packaged.csv")" -gt 2 ] || fail "the packaged tool makes no event"
 }
 
 check_package_policy() {
   need_package
   need lintian
-  local options=(--no-cfg --fail-on error,warning)
+  local options=(--no-cfg --fail-on 'error,warning')
   [ "$(id -u)" -ne 0 ] || options+=(--allow-root)
   lintian "${options[@]}" "$(the_package)" || fail "lintian"
 }
