@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "app/print_view.h"
 #include "app/user_dialogs.h"
@@ -32,10 +33,10 @@ void set_margins(QPagedPaintDevice& device) {
 
 }  // namespace
 
-PrintPanel::PrintPanel(PrintView& view, const QString& name, UserDialogs& dialogs, QWidget* parent)
+PrintPanel::PrintPanel(PrintView& view, QString name, UserDialogs& dialogs, QWidget* parent)
     : QDialog(parent),
       view_(view),
-      name_(name),
+      name_(std::move(name)),
       dialogs_(dialogs),
       printer_(std::make_unique<QPrinter>(QPrinter::HighResolution)) {
   setWindowTitle(tr("Print"));

@@ -20,7 +20,7 @@ class PrintPanel : public QDialog {
   /// \param view    the page
   /// \param name    name offered for a PDF file, without its ending
   /// \param dialogs asks and tells the user
-  PrintPanel(PrintView& view, const QString& name, UserDialogs& dialogs, QWidget* parent = nullptr);
+  PrintPanel(PrintView& view, QString name, UserDialogs& dialogs, QWidget* parent = nullptr);
   ~PrintPanel() override;
 
  private:

@@ -54,7 +54,7 @@ QString DesktopDialogs::fileToSave(const QString& title, const QString& suggesti
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   dialog.selectFile(suggestion);
   for (;;) {
-    const QString path = with_suffix(chosen_file(dialog), suffix);
+    QString path = with_suffix(chosen_file(dialog), suffix);
     if (path.isEmpty() || !QFileInfo::exists(path) || may_overwrite(path)) {
       return path;
     }

@@ -164,7 +164,7 @@ TEST_F(OpenEventTest, ShowsALargeEventWithinATenthOfASecond) {
   const QString file = write(QStringLiteral("full.cwd"), event_file(spiral(5000)));
   QElapsedTimer clock;
   qint64 best = std::numeric_limits<qint64>::max();
-  for (int i = 0; i < 3; ++i) {
+  for (int i = 0; i < 5; ++i) {
     clock.start();
     ASSERT_TRUE(documents().readAndDisplayFile(file));
     best = std::min(best, clock.elapsed());
