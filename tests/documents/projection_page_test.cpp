@@ -68,7 +68,8 @@ void expect_frame(const PdfPage& page, QPointF low, QPointF high) {
       {{low, right}, {right, high}, {high, left}, {left, low}}};
   for (const auto& [from, to] : sides) {
     const auto side = std::ranges::find_if(
-        page.lines, [&](const PaperLine& line) { return joins(line, from, to); });
+        page.lines,
+        [&, from = from, to = to](const PaperLine& line) { return joins(line, from, to); });
     ASSERT_NE(side, page.lines.end());
     EXPECT_TRUE(is_gray(side->color));
   }
