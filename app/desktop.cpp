@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <array>
 #include <clocale>
 
 #include "platform/accessible_value_slider.h"
@@ -17,10 +18,19 @@ void prepare_desktop() {
   use_compatibility_contexts();
 }
 
-void finish_desktop(int argc, char** argv) {
+std::future<void> start_glut() {
+  return std::async(std::launch::async, [] {
+    // The options that GLUT knows are not for the user.
+    char name[] = "velquon";
+    std::array<char*, 2> arguments{name, nullptr};
+    int count = 1;
+    glutInit(&count, arguments.data());
+  });
+}
+
+void finish_desktop() {
   // A desktop's locale would put a comma into the values and end the reading of "2.5" at the point.
   std::setlocale(LC_NUMERIC, "C");
-  glutInit(&argc, argv);
   install_accessible_value_sliders();
   QIcon icon;
   for (const int size : {16, 32, 48}) {

@@ -38,9 +38,11 @@ int main(int argc, char** argv) {
   }
   velquon::prepare_desktop();
   const QApplication qt_application(argc, argv);
-  velquon::finish_desktop(argc, argv);
+  const std::future<void> glut = velquon::start_glut();
+  velquon::finish_desktop();
   velquon::DesktopDialogs dialogs;
   velquon::Application application(parsed.options->seed, dialogs);
+  glut.wait();
   if (!parsed.options->pictures.isEmpty()) {
     return velquon::save_pictures(application, parsed.options->pictures);
   }

@@ -111,7 +111,8 @@ int main(int argc, char** argv) {
   }
   prepare_desktop();
   const QApplication qt_application(argc, argv);
-  finish_desktop(argc, argv);
+  start_glut().wait();
+  finish_desktop();
   DesktopDialogs dialogs;
   Application application(1, dialogs);
   application.showWindows();

@@ -36,7 +36,8 @@ int main(int argc, char** argv) {
   }
   velquon::prepare_desktop();
   const QApplication qt_application(argc, argv);
-  velquon::finish_desktop(argc, argv);
+  velquon::start_glut().wait();
+  velquon::finish_desktop();
   int result = RUN_ALL_TESTS();
   if (testing::UnitTest::GetInstance()->test_to_run_count() == 0 &&
       !testing::GTEST_FLAG(list_tests)) {
