@@ -115,12 +115,28 @@ int main(int argc, char** argv) {
     return medians.of("glut/" + points, "processor time") /
            medians.of("array/" + points, "processor time");
   };
+  // Points that cost nothing would be as many times as fast: no array can do better.
+  const auto most = [](const Medians& medians, const std::string& points) {
+    return medians.of("glut/" + points, "processor time") / medians.of("empty", "processor time");
+  };
+  // The points alone, without the clearing and the lines of every pass.
+  const auto gain_of_points = [](const Medians& medians, const std::string& points) {
+    const double empty = medians.of("empty", "processor time");
+    return (medians.of("glut/" + points, "processor time") - empty) /
+           (medians.of("array/" + points, "processor time") - empty);
+  };
   return velquon::bench::run_benchmarks(
       argc, argv, repetitions,
       {{"drawing 350 points, times a cube a GLUT call", Bound::at_least, 8.0,
         [=](const Medians& m) { return gain(m, "350"); }},
+       {"a pass without points, times 350 by a cube a GLUT call", Bound::none, 0.0,
+        [=](const Medians& m) { return most(m, "350"); }},
+       {"the 350 points alone, times a cube a GLUT call", Bound::none, 0.0,
+        [=](const Medians& m) { return gain_of_points(m, "350"); }},
        {"drawing 5000 points, times a cube a GLUT call", Bound::at_least, 4.0,
         [=](const Medians& m) { return gain(m, "5000"); }},
+       {"the 5000 points alone, times a cube a GLUT call", Bound::none, 0.0,
+        [=](const Medians& m) { return gain_of_points(m, "5000"); }},
        {"drawing passes a second with 5000 points", Bound::at_least, 180.0,
         [=](const Medians& m) { return m.of("array/5000", "passes/s"); }}});
 }

@@ -47,6 +47,30 @@ std::string with_three_digits(double value) {
   return text.data();
 }
 
+std::string bound_text(const Requirement& requirement) {
+  switch (requirement.bound) {
+    case Bound::at_least:
+      return "at least " + with_three_digits(requirement.limit);
+    case Bound::at_most:
+      return "at most " + with_three_digits(requirement.limit);
+    case Bound::none:
+      break;
+  }
+  return "-";
+}
+
+const char* verdict_on(const Requirement& requirement, double figure) {
+  if (std::isnan(figure)) {
+    return "not measured";
+  }
+  if (requirement.bound == Bound::none) {
+    return "-";
+  }
+  const bool holds = requirement.bound == Bound::at_least ? figure >= requirement.limit
+                                                          : figure <= requirement.limit;
+  return holds ? "holds" : "MISSED";
+}
+
 }  // namespace
 
 double Medians::of(const std::string& benchmark, const std::string& figure) const {
@@ -84,15 +108,9 @@ bool report_requirements(const Medians& medians, const std::vector<Requirement>&
   bool measured = true;
   for (const Requirement& requirement : requirements) {
     const double figure = requirement.figure(medians);
-    const bool least = requirement.bound == Bound::at_least;
-    const bool holds = least ? figure >= requirement.limit : figure <= requirement.limit;
-    const char* verdict = holds ? "holds" : "MISSED";
-    if (std::isnan(figure)) {
-      verdict = "not measured";
-      measured = false;
-    }
-    const std::string bound =
-        (least ? "at least " : "at most ") + with_three_digits(requirement.limit);
+    const std::string bound = bound_text(requirement);
+    const char* const verdict = verdict_on(requirement, figure);
+    measured = measured && !std::isnan(figure);
     std::printf("%-58s %8s  (%s: %s)\n", requirement.what.c_str(),
                 with_three_digits(figure).c_str(), bound.c_str(), verdict);
     lines << requirement.what << '\t' << with_three_digits(figure) << '\t' << bound << '\t'

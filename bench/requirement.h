@@ -24,13 +24,14 @@ class Medians {
   std::map<std::string, std::map<std::string, double>> values_;
 };
 
-enum class Bound { at_least, at_most };
+/// `none`: the figure is only shown, beside those that it helps to judge.
+enum class Bound { at_least, at_most, none };
 
 /// A figure that a run is held to.
 struct Requirement {
   std::string what;
   Bound bound;
-  double limit;
+  double limit;  ///< of no meaning without a bound
   std::function<double(const Medians&)> figure;
 };
 

@@ -23,6 +23,7 @@ constexpr int digit_count = 17;
 // a unit of the 17th digit.
 constexpr double short_way_begin = 1.0;
 constexpr double short_way_end = 1000.0;
+constexpr double below_one_begin = 0.1;
 
 constexpr unsigned mantissa_bits = 52;
 
@@ -62,11 +63,35 @@ char* write_short_way(char* out, std::uint64_t bits, double magnitude) {
   return used == 0 ? out : out + 1 + used;
 }
 
-char* write_number(char* out, double value) {
-  const auto bits = std::bit_cast<std::uint64_t>(value);
+/// For a magnitude from 0.1 to below 1, whose 17 digits are all behind the point; none of them rounds
+/// up to 1 either.
+char* write_below_one(char* out, std::uint64_t bits) {
+  constexpr std::uint64_t ten_to_17 = 100'000'000'000'000'000U;
+  constexpr std::uint64_t ten_to_16 = ten_to_17 / 10;
+  constexpr std::uint64_t leading_bit = std::uint64_t{1} << mantissa_bits;
+  const std::uint64_t exponent = (bits >> mantissa_bits) & 0x7FFU;
+  const std::uint64_t places = mantissa_bits + 1023 - exponent;
+  const Wide product = Wide{(bits & (leading_bit - 1)) | leading_bit} * ten_to_17;
+  auto number = static_cast<std::uint64_t>(product >> places);
+  const auto rest = static_cast<std::uint64_t>(product) & ((std::uint64_t{1} << places) - 1);
+  number += rest + (number & 1U) > std::uint64_t{1} << (places - 1) ? 1U : 0U;
+
+  *out = '-';
+  out += bits >> 63U;
+  const std::uint64_t first = number / ten_to_16;
+  *out++ = '0';
+  *out++ = '.';
+  *out++ = static_cast<char>('0' + first);
+  const SixteenDigits digits(number - first * ten_to_16);
+  digits.write(out);
+  return out + digits.used();
+}
+
+/// Kept out of the loop over coordinates, which is tight without it.
+[[gnu::noinline]] char* write_long_way(char* out, std::uint64_t bits, double value) {
   const double magnitude = std::fabs(value);
-  if (magnitude >= short_way_begin && magnitude < short_way_end) {
-    return write_short_way(out, bits, magnitude);
+  if (magnitude >= below_one_begin && magnitude < short_way_begin) {
+    return write_below_one(out, bits);
   }
   if (magnitude == 0.0) {
     *out = '-';
@@ -76,6 +101,15 @@ char* write_number(char* out, double value) {
   }
   return std::to_chars(out, out + decimal_text_size, value, std::chars_format::general, digit_count)
       .ptr;
+}
+
+char* write_number(char* out, double value) {
+  const auto bits = std::bit_cast<std::uint64_t>(value);
+  const double magnitude = std::fabs(value);
+  if (magnitude >= short_way_begin && magnitude < short_way_end) [[likely]] {
+    return write_short_way(out, bits, magnitude);
+  }
+  return write_long_way(out, bits, value);
 }
 
 }  // namespace

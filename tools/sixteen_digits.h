@@ -44,8 +44,8 @@ inline SixteenDigits::SixteenDigits(std::uint64_t number) {
   const __m128i units = _mm_sub_epi64(eights, _mm_mul_epu32(thousands, _mm_set1_epi64x(10'000)));
   const __m128i fours = _mm_or_si128(thousands, _mm_slli_epi64(units, 32));
   const __m128i hundreds = _mm_srli_epi16(_mm_mulhi_epu16(fours, _mm_set1_epi16(10'486)), 4);
-  const __m128i below_hundred =
-      _mm_sub_epi16(fours, _mm_mullo_epi16(hundreds, _mm_set1_epi16(100)));
+  // A multiplication that compilers do not take apart into a chain of shifts and sums.
+  const __m128i below_hundred = _mm_sub_epi16(fours, _mm_madd_epi16(hundreds, _mm_set1_epi16(100)));
   const __m128i twos = _mm_or_si128(hundreds, _mm_slli_epi32(below_hundred, 16));
   const __m128i tens = _mm_mulhi_epu16(twos, _mm_set1_epi16(6'554));
   // The rest and its place in one step: tens + (twos - tens * 10) * 2^8.

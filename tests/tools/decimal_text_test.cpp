@@ -127,6 +127,21 @@ TEST(WriteDecimal, IsExactForCoordinatesInTheChamber) {
   }
 }
 
+TEST(WriteDecimal, RoundsTiesBelowOneToTheEvenDigit) {
+  // Odd multiples of 2^-18 have 18 digits behind the point, and the last is a 5.
+  for (int odd = 26215; odd < 1 << 18; odd += 2) {
+    ASSERT_TRUE(same_text(std::ldexp(odd, -18)));
+  }
+}
+
+TEST(WriteDecimal, IsExactBelowOne) {
+  std::mt19937_64 engine(155);
+  std::uniform_real_distribution<double> coordinate(0.1, 1.0);
+  for (int i = 0; i < 200000; ++i) {
+    ASSERT_TRUE(same_text(coordinate(engine)));
+  }
+}
+
 TEST(WriteDecimal, IsExactForEveryMagnitudeOfItsShortWay) {
   std::mt19937_64 engine(153);
   std::uniform_real_distribution<double> exponent(-4.0, 4.0);
