@@ -4,6 +4,7 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "app/form.h"
 #include "chamber/chamber_scene.h"
 #include "chamber/chamber_view.h"
 #include "ui_chamber_window.h"
@@ -39,9 +40,8 @@ QToolButton* make_event_type_button(QMenu* event_menu) {
 }  // namespace
 
 ChamberWindow::ChamberWindow(std::optional<std::uint32_t> seed, const Ui::Menus& menus)
-    : ui_(std::make_unique<Ui::ChamberWindow>()) {
-  ui_->setupUi(this);
-  view_ = new ChamberView(seed, ui_->chamber_area->viewport());
+    : ui_(make_form<Ui::ChamberWindow>(*this)),
+      view_(new ChamberView(seed, ui_->chamber_area->viewport())) {
   view_->setObjectName(QStringLiteral("chamber_view"));
   view_->setAccessibleName(tr("Particle chamber"));
   ui_->chamber_area->setView(view_, {chamber_width, chamber_height});

@@ -15,7 +15,7 @@ namespace velquon {
 namespace {
 
 // No layout has a field beyond that many bytes, and what follows the last field is ignored.
-constexpr qint64 longest_event_file = 256 * 1024;
+constexpr auto longest_event_file = qint64{256} * 1024;
 
 /// The bytes of a regular file that a reader can want; nothing when it cannot be loaded.
 std::optional<QByteArray> load(const QString& path) {

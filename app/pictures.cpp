@@ -32,7 +32,9 @@ bool wait_until_exposed(const QWidget& window) {
     }
   });
   poll.start(5);
-  QTimer::singleShot(longest_wait, &loop, &QEventLoop::quit);
+  QTimer give_up;
+  QObject::connect(&give_up, &QTimer::timeout, &loop, &QEventLoop::quit);
+  give_up.start(longest_wait);
   loop.exec();
   return window.windowHandle()->isExposed();
 }

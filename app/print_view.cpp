@@ -6,6 +6,7 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 #include "chamber/chamber_view.h"
 #include "platform/page.h"
@@ -45,8 +46,8 @@ void place_page(QPainter& painter, const QPagedPaintDevice& device) {
 
 }  // namespace
 
-PrintView::PrintView(Printable& pview, const QString& title, ChamberView& chamber_view)
-    : pview_(pview), title_(title), chamber_view_(chamber_view) {}
+PrintView::PrintView(Printable& pview, QString title, ChamberView& chamber_view)
+    : pview_(pview), title_(std::move(title)), chamber_view_(chamber_view) {}
 
 bool PrintView::print(QPagedPaintDevice& device) {
   QPainter page;

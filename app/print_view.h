@@ -17,7 +17,7 @@ class PrintView {
   /// \param pview        the view to print
   /// \param title        the title of its window
   /// \param chamber_view where the values line comes from
-  PrintView(Printable& pview, const QString& title, ChamberView& chamber_view);
+  PrintView(Printable& pview, QString title, ChamberView& chamber_view);
 
   /// Draws the page in the middle of the device's paper, at its own size where that fits with
   /// margins of 36 points.

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "app/form.h"
 #include "projection/projection_view.h"
 #include "ui_projector_window.h"
 
@@ -31,9 +32,9 @@ void connect_choice(QAbstractButton* button, ProjectionView* view,
 
 }  // namespace
 
-ProjectorWindow::ProjectorWindow() : ui_(std::make_unique<Ui::ProjectorWindow>()) {
-  ui_->setupUi(this);
-  view_ = new ProjectionView(ui_->projector_area->viewport());
+ProjectorWindow::ProjectorWindow()
+    : ui_(make_form<Ui::ProjectorWindow>(*this)),
+      view_(new ProjectionView(ui_->projector_area->viewport())) {
   view_->setObjectName(QStringLiteral("projection_view"));
   view_->setAccessibleName(tr("Projection"));
   ui_->projector_area->setView(view_, {projection_width, projection_height});

@@ -178,11 +178,14 @@ TEST_F(NewEventTest, TheTypeButtonOpensTheTypesAndShowsTheChoice) {
   auto& button = control<QToolButton>("event_type_button");
   EXPECT_EQ(button.text(), QStringLiteral("Negative Pion π⁻"));
   ASSERT_NE(button.menu(), nullptr);
-  QTimer::singleShot(0, &button, [&] {
+  QTimer menu_opens;
+  menu_opens.setSingleShot(true);
+  QObject::connect(&menu_opens, &QTimer::timeout, &button, [&] {
     EXPECT_TRUE(wait_until([&] { return button.menu()->isVisible(); }));
     const QRect place = button.menu()->actionGeometry(&item("muplus_item"));
     QTest::mouseClick(button.menu(), Qt::LeftButton, {}, place.center());
   });
+  menu_opens.start(0);
   QTest::mouseClick(&button, Qt::LeftButton);
   ASSERT_TRUE(wait_until([&] { return chamber().event_type() == 4; }));
   EXPECT_EQ(button.text(), QStringLiteral("Positive Muon μ⁺"));

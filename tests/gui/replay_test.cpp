@@ -51,7 +51,9 @@ class ReplayTest : public ApplicationFixture {
     });
     after.start(40);
     QTest::qSleep(100);
-    QTimer::singleShot(30'000, &loop, &QEventLoop::quit);
+    QTimer give_up;
+    QObject::connect(&give_up, &QTimer::timeout, &loop, &QEventLoop::quit);
+    give_up.start(30'000);
     loop.exec();
     EXPECT_TRUE(is_over);
   }

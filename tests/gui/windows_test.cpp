@@ -27,7 +27,10 @@ class WindowsTest : public ApplicationFixture {
   static bool endsTheProgram(const std::function<void()>& action) {
     constexpr int still_running = 77;
     constexpr int patience = 1500;  // milliseconds
-    QTimer::singleShot(0, qApp, action);
+    QTimer first;
+    first.setSingleShot(true);
+    QObject::connect(&first, &QTimer::timeout, qApp, action);
+    first.start(0);
     QTimer give_up;
     give_up.setSingleShot(true);
     QObject::connect(&give_up, &QTimer::timeout, [] { QCoreApplication::exit(still_running); });

@@ -20,14 +20,19 @@ bool wait_until(const std::function<bool()>& condition, int milliseconds) {
     }
   });
   poll.start(2);
-  QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+  QTimer give_up;
+  QObject::connect(&give_up, &QTimer::timeout, &loop, &QEventLoop::quit);
+  give_up.start(milliseconds);
   loop.exec();
   return holds || condition();
 }
 
 void run_loop_for(int milliseconds) {
   QEventLoop loop;
-  QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+  QTimer end;
+  end.setTimerType(Qt::PreciseTimer);
+  QObject::connect(&end, &QTimer::timeout, &loop, &QEventLoop::quit);
+  end.start(milliseconds);
   loop.exec();
 }
 
