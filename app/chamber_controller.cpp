@@ -33,7 +33,7 @@ void set_title(GLPanel& window, const QString& prefix, const QString& name) {
                  qPrintable(name));
     std::abort();
   }
-  window.setWindowTitle(title);
+  window.setTitle(title);
 }
 
 }  // namespace
@@ -158,7 +158,7 @@ void ChamberController::print() {
   GLPanel* const window = view == static_cast<Printable*>(outlets_.chamber_view)
                               ? outlets_.chamber_window
                               : outlets_.projector_window;
-  PrintView page(*view, window->windowTitle(), *outlets_.chamber_view);
+  PrintView page(*view, window->title(), *outlets_.chamber_view);
   PrintPanel(page, QFileInfo(shown_name_).completeBaseName(), *outlets_.dialogs, window).exec();
 }
 

@@ -1,5 +1,6 @@
 #include "app/chamber_window.h"
 
+#include <QLabel>
 #include <QMenu>
 #include <QToolButton>
 #include <algorithm>
@@ -37,6 +38,12 @@ QToolButton* make_event_type_button(QMenu* event_menu) {
   return button;
 }
 
+/// Keeps the window's width when a file holds a value beyond all sense.
+void give_room_for_usual_values(QLabel& label) {
+  label.setMinimumWidth(label.fontMetrics().horizontalAdvance(QStringLiteral("T = 10000.0 MeV")));
+  label.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+}
+
 }  // namespace
 
 ChamberWindow::ChamberWindow(std::optional<std::uint32_t> seed, const Ui::Menus& menus)
@@ -45,6 +52,9 @@ ChamberWindow::ChamberWindow(std::optional<std::uint32_t> seed, const Ui::Menus&
   view_->setObjectName(QStringLiteral("chamber_view"));
   view_->setAccessibleName(tr("Particle chamber"));
   ui_->chamber_area->setView(view_, {chamber_width, chamber_height});
+  for (QLabel* const label : {ui_->magfield_text, ui_->sides_text, ui_->kinetic_energy_text}) {
+    give_room_for_usual_values(*label);
+  }
   fillToolBar(menus);
 }
 

@@ -1,16 +1,29 @@
 #include "app/command_line.h"
 
 #include <QCommandLineParser>
+#include <QDir>
+#include <algorithm>
 
 namespace velquon {
 
 namespace {
 
 ParsedCommandLine refusal(const QString& reason) {
-  return {std::nullopt, QStringLiteral("velquon: %1\n").arg(reason), 2};
+  return {std::nullopt, QStringLiteral("velquon: %1\n").arg(as_one_line(reason)), 2};
+}
+
+/// The path from the root, so that Qt does not take a name with a colon for one of a resource.
+QString absolute_path(const QString& path) {
+  return path.startsWith(QLatin1Char('/')) ? path : QDir::currentPath() + QLatin1Char('/') + path;
 }
 
 }  // namespace
+
+QString as_one_line(QString text) {
+  std::ranges::replace_if(
+      text, [](QChar c) { return c.category() == QChar::Other_Control; }, QLatin1Char('?'));
+  return text;
+}
 
 ParsedCommandLine parse_command_line(const QStringList& arguments) {
   QCommandLineParser parser;
@@ -62,7 +75,7 @@ ParsedCommandLine parse_command_line(const QStringList& arguments) {
     return refusal(QStringLiteral("'%1' is one argument too many").arg(files.back()));
   }
   if (!files.isEmpty()) {
-    options.file = files.front();
+    options.file = absolute_path(files.front());
   }
   return {options, {}, 0};
 }

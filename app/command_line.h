@@ -10,7 +10,7 @@ namespace velquon {
 /// What the program is started with.
 struct CommandLine {
   std::optional<std::uint32_t> seed;
-  QString file;      ///< event file to open, or empty
+  QString file;      ///< absolute path of the event file to open, or empty
   QString pictures;  ///< folder to leave pictures in, or empty
 };
 
@@ -20,6 +20,10 @@ struct ParsedCommandLine {
   QString message;
   int status = 0;
 };
+
+/// The text with a question mark for every control character: what a terminal can show as one line
+/// of a name that may hold anything.
+[[nodiscard]] QString as_one_line(QString text);
 
 /// Reads the command line. Needs no application object.
 /// \param arguments the program's name first

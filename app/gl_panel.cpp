@@ -30,6 +30,12 @@ GLPanel::GLPanel(QWidget* parent) : QMainWindow(parent) {
   setAcceptDrops(true);
 }
 
+void GLPanel::setTitle(const QString& title) {
+  const QLatin1String mark("[*]");
+  title_ = title;
+  setWindowTitle(QString(title).replace(mark, QLatin1String("[*][*]")));
+}
+
 void GLPanel::makeKeyAndOrderFront() {
   if (isMinimized()) {
     showNormal();

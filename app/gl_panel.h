@@ -12,6 +12,11 @@ class GLPanel : public QMainWindow {
  public:
   explicit GLPanel(QWidget* parent = nullptr);
 
+  /// Gives the window a title in which every character stands for itself; Qt takes "[*]" in a
+  /// window's title for the place of a mark.
+  void setTitle(const QString& title);
+  [[nodiscard]] const QString& title() const { return title_; }
+
   /// Brings the window to the front and makes it the one that keys go to.
   void makeKeyAndOrderFront();
 
@@ -26,6 +31,9 @@ class GLPanel : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
+
+ private:
+  QString title_;
 };
 
 }  // namespace velquon

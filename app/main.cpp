@@ -16,8 +16,9 @@
 namespace {
 
 int end_with(const QString& text, int status) {
-  std::fputs(qPrintable(text), status == 0 ? stdout : stderr);
-  return status;
+  std::FILE* const out = status == 0 ? stdout : stderr;
+  const bool written = std::fputs(qPrintable(text), out) >= 0 && std::fflush(out) == 0;
+  return written ? status : 1;
 }
 
 }  // namespace
@@ -49,7 +50,7 @@ int main(int argc, char** argv) {
   application.showWindows();
   const QString& file = parsed.options->file;
   if (!file.isEmpty() && !application.documents().application_openFile(file)) {
-    std::fprintf(stderr, "velquon: cannot open %s\n", qPrintable(file));
+    std::fprintf(stderr, "velquon: cannot open %s\n", qPrintable(velquon::as_one_line(file)));
   }
   return QApplication::exec();
 }

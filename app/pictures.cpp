@@ -1,17 +1,19 @@
 #include "app/pictures.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QEventLoop>
 #include <QMenu>
-#include <QSaveFile>
 #include <QTimer>
 #include <QWindow>
 #include <cstdio>
 
 #include "app/application.h"
 #include "app/chamber_window.h"
+#include "app/command_line.h"
 #include "app/menus.h"
 #include "app/projector_window.h"
+#include "app/whole_file.h"
 #include "chamber/chamber_view.h"
 #include "events/event_types.h"
 #include "projection/projection_view.h"
@@ -39,17 +41,21 @@ bool wait_until_exposed(const QWidget& window) {
   return window.windowHandle()->isExposed();
 }
 
+QByteArray png_of(const QImage& picture) {
+  QBuffer bytes;
+  bytes.open(QIODevice::WriteOnly);
+  picture.save(&bytes, "PNG");
+  return bytes.data();
+}
+
 bool save_picture(GLView& view, const QString& path) {
-  QSaveFile file(path);
-  const bool saved =
-      file.open(QIODevice::WriteOnly) && view.grabFramebuffer().save(&file, "PNG") && file.commit();
-  if (saved) {
-    std::printf("%s\n", qPrintable(path));
-  } else {
-    std::fprintf(stderr, "velquon: cannot write %s: %s\n", qPrintable(path),
-                 qPrintable(file.errorString()));
+  if (const auto reason = write_whole_file(path, png_of(view.grabFramebuffer()))) {
+    std::fprintf(stderr, "velquon: cannot write %s: %s\n", qPrintable(as_one_line(path)),
+                 qPrintable(*reason));
+    return false;
   }
-  return saved;
+  std::printf("%s\n", qPrintable(path));
+  return true;
 }
 
 QString picture_name(const EventType& type, const QString& view) {
@@ -63,7 +69,7 @@ QString picture_name(const EventType& type, const QString& view) {
 int save_pictures(Application& application, const QString& folder) {
   const QDir target(folder);
   if (!target.mkpath(QStringLiteral("."))) {
-    std::fprintf(stderr, "velquon: cannot make the folder %s\n", qPrintable(folder));
+    std::fprintf(stderr, "velquon: cannot make the folder %s\n", qPrintable(as_one_line(folder)));
     return 1;
   }
   application.showWindows();

@@ -15,9 +15,14 @@ QString chosen_file(QFileDialog& dialog) {
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().constLast() : QString();
 }
 
-QString with_suffix(const QString& path, const QString& suffix) {
-  const bool has_suffix = QFileInfo(path).suffix().compare(suffix, Qt::CaseInsensitive) == 0;
-  return path.isEmpty() || has_suffix ? path : path + QLatin1Char('.') + suffix;
+/// The path with the ending that the dialogs look for: one in other letters, of which the suggested
+/// name of an imported file may be, gives way to it.
+QString with_suffix(QString path, const QString& suffix) {
+  const QString ending = QLatin1Char('.') + suffix;
+  if (path.endsWith(ending, Qt::CaseInsensitive)) {
+    path.chop(ending.size());
+  }
+  return path.isEmpty() ? path : path + ending;
 }
 
 bool may_overwrite(const QString& path) {
@@ -52,7 +57,7 @@ QString DesktopDialogs::fileToSave(const QString& title, const QString& suggesti
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   // The dialog would ask about the name as typed, not about the one with the ending.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
-  dialog.selectFile(suggestion);
+  dialog.selectFile(with_suffix(suggestion, suffix));
   for (;;) {
     QString path = with_suffix(chosen_file(dialog), suffix);
     if (path.isEmpty() || !QFileInfo::exists(path) || may_overwrite(path)) {

@@ -13,7 +13,7 @@ ReadResult read_event_file(std::span<const std::byte> bytes) {
     case event_tag:
       return read_event_layout(bytes);
     case pc_tag:
-      return read_pc_layout(1, bytes);
+      return readWinData(1, bytes);
     default:
       return Refusal::wrong_format;
   }

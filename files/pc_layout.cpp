@@ -33,7 +33,7 @@ void pc_to_mac_plot_point(PlotPoint& destination,
   destination.code = code == pc_end_code ? end_code : static_cast<std::int16_t>(code & 0xFFFF);
 }
 
-ReadResult read_pc_layout(std::size_t tag_length, std::span<const std::byte> bytes) {
+ReadResult readWinData(std::size_t tag_length, std::span<const std::byte> bytes) {
   if (bytes.size() < tag_length + points_offset) {
     return Refusal::bad_data;
   }

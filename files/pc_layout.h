@@ -9,7 +9,7 @@ inline constexpr std::byte pc_tag{'W'};
 
 /// Reads an event file of the PC edition.
 /// \param tag_length bytes ahead of the header; 0 for the same layout without a tag
-[[nodiscard]] ReadResult read_pc_layout(std::size_t tag_length, std::span<const std::byte> bytes);
+[[nodiscard]] ReadResult readWinData(std::size_t tag_length, std::span<const std::byte> bytes);
 
 /// Converts one point record of the PC edition, 48 bytes. Its code 7 becomes 2; of every other code
 /// the low 16 bits are taken.

@@ -3,7 +3,9 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
+#include <cstdlib>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace velquon {
@@ -25,7 +27,7 @@ struct RawOptions {
 /// More events than that in one run are a slip of the hand.
 constexpr std::uint64_t most_events = 1'000'000'000;
 
-/// The whole text as a number, if it is one and fits.
+/// The whole text as a number, if it is one and fits. One that is too small for its type is 0.
 template <typename Number>
 std::optional<Number> number_in(std::string_view text) {
   if (text.starts_with('+') && !text.starts_with("+-")) {
@@ -33,6 +35,11 @@ std::optional<Number> number_in(std::string_view text) {
   }
   Number number{};
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if constexpr (std::is_floating_point_v<Number>) {
+    if (error == std::errc::result_out_of_range && end == text.data() + text.size()) {
+      return std::strtod(std::string(text).c_str(), nullptr);
+    }
+  }
   if (error != std::errc() || end != text.data() + text.size()) {
     return std::nullopt;
   }
@@ -89,25 +96,33 @@ EventOptions checked_options(const RawOptions& raw) {
           .output = raw.output};
 }
 
-/// The text as one line that a terminal can show: what is given on a command line may hold
-/// anything.
+/// What does not belong on the command line, in its order; a mistyped option comes ahead of what is
+/// missing because of it.
+void refuse_unknown_arguments(const CLI::App& app) {
+  const auto unknown = app.remaining();
+  if (!unknown.empty()) {
+    throw CLI::ValidationError("'" + unknown.front() + "'", "is not known to velquon-events");
+  }
+}
+
+}  // namespace
+
 std::string as_one_line(std::string text) {
   std::ranges::replace_if(
       text, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }, '?');
   return text;
 }
 
-}  // namespace
-
 ParsedOptions parse_event_options(int argc, const char* const* argv) {
   CLI::App app("Makes decay events in a particle-detector chamber, without a screen.",
                "velquon-events");
   RawOptions raw;
   app.set_version_flag("--version", "velquon-events " VELQUON_VERSION);
-  app.add_option("--type", raw.type, "kind of event: pi-, pi+, pi0, mu-, mu+ or lambda")
-      ->required()
-      ->type_name("TYPE")
-      ->check(CLI::IsMember(type_keys()));
+  app.allow_extras();
+  const auto* type_option =
+      app.add_option("--type", raw.type, "kind of event: pi-, pi+, pi0, mu-, mu+ or lambda")
+          ->type_name("TYPE REQUIRED")
+          ->check(CLI::IsMember(type_keys()));
   app.add_option("--field", raw.field_kG, "magnetic field, kG")
       ->type_name("KG")
       ->capture_default_str()
@@ -131,11 +146,19 @@ ParsedOptions parse_event_options(int argc, const char* const* argv) {
       ->type_name("FORMAT")
       ->capture_default_str()
       ->check(CLI::IsMember({"csv", "cwd"}));
-  const auto* output_option =
-      app.add_option("--output", raw.output, "folder of the event files (default: this one)")
-          ->type_name("DIR");
+  const auto* output_option = app.add_option("--output", raw.output,
+                                             "folder of the event files, which take the place of "
+                                             "earlier ones (default: this one)")
+                                  ->type_name("DIR");
   try {
     app.parse(argc, argv);
+    refuse_unknown_arguments(app);
+    if (!*type_option) {
+      throw CLI::RequiredError("--type");
+    }
+    if (raw.output.empty()) {
+      throw CLI::ValidationError("--output", "no folder is named");
+    }
     if (*output_option && raw.format == "csv") {
       throw CLI::ValidationError("--output", "goes with --format cwd");
     }

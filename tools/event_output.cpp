@@ -15,7 +15,7 @@ namespace velquon {
 namespace {
 
 int report(std::FILE* messages, const std::string& name, const std::error_code& error) {
-  std::fprintf(messages, "velquon-events: cannot write %s: %s\n", name.c_str(),
+  std::fprintf(messages, "velquon-events: cannot write %s: %s\n", as_one_line(name).c_str(),
                error.message().c_str());
   return 1;
 }

@@ -9,8 +9,9 @@
 int main(int argc, char** argv) {
   const velquon::ParsedOptions parsed = velquon::parse_event_options(argc, argv);
   if (!parsed.options) {
-    std::fputs(parsed.message.c_str(), parsed.status == 0 ? stdout : stderr);
-    return parsed.status;
+    std::FILE* const out = parsed.status == 0 ? stdout : stderr;
+    const bool written = std::fputs(parsed.message.c_str(), out) >= 0 && std::fflush(out) == 0;
+    return written ? parsed.status : 1;
   }
   // A file that grows beyond the user's limit is to be an error like any other, and leave no half.
   std::signal(SIGXFSZ, SIG_IGN);

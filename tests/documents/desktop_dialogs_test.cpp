@@ -157,7 +157,8 @@ TEST_F(DesktopDialogsTest, AFileToOpenIsGivenBackWithItsPath) {
 TEST_F(DesktopDialogsTest, ANewNameGetsItsEndingWithoutAQuestion) {
   EXPECT_EQ(save({typing(QStringLiteral("new"))}), path(QStringLiteral("new.cwd")));
   EXPECT_EQ(save({typing(QStringLiteral("new.cwd"))}), path(QStringLiteral("new.cwd")));
-  EXPECT_EQ(save({typing(QStringLiteral("NEW.CWD"))}), path(QStringLiteral("NEW.CWD")));
+  EXPECT_EQ(save({typing(QStringLiteral("NEW.CWD"))}), path(QStringLiteral("NEW.cwd")))
+      << "which the dialog to open a file offers";
   EXPECT_EQ(save({typing(QStringLiteral("pi 0.5 MeV"))}), path(QStringLiteral("pi 0.5 MeV.cwd")));
 }
 
@@ -207,7 +208,9 @@ TEST_F(DesktopDialogsTest, TheSuggestionIsOffered) {
                     QTest::keyClick(&dialog, Qt::Key_Escape);
                   }};
   save({look}, QStringLiteral("Untitled Type 1 Decay"));
-  EXPECT_EQ(offered, QStringLiteral("Untitled Type 1 Decay"));
+  EXPECT_EQ(offered, QStringLiteral("Untitled Type 1 Decay.cwd"));
+  save({look}, QStringLiteral("EVENT.CWD"));
+  EXPECT_EQ(offered, QStringLiteral("EVENT.cwd"));
 }
 
 TEST_F(DesktopDialogsTest, ARefusedFileIsToldInAnAlertOfThisProgram) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -83,6 +84,67 @@ TEST(AtomicFile, TheFileHasTheUsualModeOfANewFile) {
   struct stat status {};
   ASSERT_EQ(::stat((folder.path() / "event.cwd").c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 0777U, 0640U);
+}
+
+TEST(AtomicFile, AFileThatIsReplacedKeepsItsMode) {
+  const TemporaryFolder folder;
+  const auto path = folder.path() / "event.cwd";
+  write_text(path, "the old event");
+  ASSERT_EQ(::chmod(path.c_str(), 0620), 0);
+  EXPECT_FALSE(write_file_atomically(path, bytes_of(5)));
+  struct stat status {};
+  ASSERT_EQ(::stat(path.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777U, 0620U);
+}
+
+TEST(AtomicFile, AWriteProtectedFileIsRefused) {
+  const TemporaryFolder folder;
+  const auto path = folder.path() / "event.cwd";
+  write_text(path, "the old event");
+  ASSERT_EQ(::chmod(path.c_str(), 0444), 0);
+  EXPECT_EQ(write_file_atomically(path, bytes_of(5)), std::errc::permission_denied);
+  EXPECT_EQ(file_text(path), "the old event");
+  EXPECT_EQ(folder.names(), Names{"event.cwd"});
+}
+
+TEST(AtomicFile, ALinkLeadsToTheFileThatIsReplaced) {
+  const TemporaryFolder folder;
+  const TemporaryFolder elsewhere;
+  write_text(elsewhere.path() / "target.cwd", "the old event");
+  std::filesystem::create_symlink(elsewhere.path() / "target.cwd", folder.path() / "event.cwd");
+  EXPECT_FALSE(write_file_atomically(folder.path() / "event.cwd", bytes_of(5)));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.path() / "event.cwd"));
+  EXPECT_EQ(file_bytes(elsewhere.path() / "target.cwd"), bytes_of(5));
+  EXPECT_EQ(elsewhere.names(), Names{"target.cwd"});
+}
+
+TEST(AtomicFile, WhatIsNoPlainFileIsRefused) {
+  const TemporaryFolder folder;
+  const auto path = folder.path() / "event.cwd";
+  ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+  EXPECT_EQ(write_file_atomically(path, bytes_of(5)), std::errc::not_supported);
+  EXPECT_TRUE(std::filesystem::is_fifo(path));
+}
+
+TEST(AtomicFile, ASignalThatEndsTheProgramLeavesNoTemporaryFile) {
+  const TemporaryFolder folder;
+  const auto path = folder.path() / "event.cwd";
+  const Bytes bytes = bytes_of(100000);
+  for (int attempt = 0; attempt < 20; ++attempt) {
+    const pid_t writer = ::fork();
+    if (writer == 0) {
+      while (!write_file_atomically(path, bytes)) {
+      }
+      ::_exit(1);
+    }
+    ::usleep(3000 + 700 * static_cast<useconds_t>(attempt));
+    ::kill(writer, SIGTERM);
+    int status = 0;
+    ::waitpid(writer, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status));
+    EXPECT_LE(folder.names().size(), 1U) << "no name but the event's";
+  }
+  EXPECT_EQ(file_bytes(path), bytes);
 }
 
 TEST(AtomicFile, IntoAMissingFolderIsAnErrorAndMakesNoFolder) {

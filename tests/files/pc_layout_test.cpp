@@ -48,7 +48,7 @@ bool refused(const ReadResult& result) {
 }
 
 TEST(PcLayout, AFileOfTwoPointsIsRead) {
-  const auto result = read_pc_layout(1, hex_bytes(two_point_file));
+  const auto result = readWinData(1, hex_bytes(two_point_file));
   const auto* event = std::get_if<StoredEvent>(&result);
   ASSERT_NE(event, nullptr);
   const std::vector<PlotPoint> expected{{.coords = {1.5, -2.0, 0.1, 1.0}, .time = 0.25, .code = 2},
@@ -59,7 +59,7 @@ TEST(PcLayout, AFileOfTwoPointsIsRead) {
 }
 
 TEST(PcLayout, ANegativeFieldBecomesItsAbsoluteValueAndIsReported) {
-  const auto result = read_pc_layout(1, hex_bytes(two_point_file));
+  const auto result = readWinData(1, hex_bytes(two_point_file));
   ASSERT_TRUE(std::holds_alternative<StoredEvent>(result));
   EXPECT_EQ(std::get<StoredEvent>(result).values.B_field, 5.0F);
   EXPECT_TRUE(std::get<StoredEvent>(result).field_was_negative);
@@ -81,7 +81,7 @@ TEST(PcLayout, OnlyAFieldBelow0IsReported) {
     SCOPED_TRACE(row.name);
     Bytes file = hex_bytes(two_point_file);
     put_hex(file, field_offset, row.digits);
-    const auto result = read_pc_layout(1, file);
+    const auto result = readWinData(1, file);
     ASSERT_TRUE(std::holds_alternative<StoredEvent>(result));
     const auto& event = std::get<StoredEvent>(result);
     EXPECT_EQ(event.values.B_field, row.field);
@@ -92,7 +92,7 @@ TEST(PcLayout, OnlyAFieldBelow0IsReported) {
 
 TEST(PcLayout, WithoutATagTheHeaderBeginsAtTheFirstByte) {
   const Bytes file = hex_bytes(two_point_file);
-  const auto result = read_pc_layout(0, std::span(file).subspan(1));
+  const auto result = readWinData(0, std::span(file).subspan(1));
   ASSERT_TRUE(std::holds_alternative<StoredEvent>(result));
   EXPECT_EQ(std::get<StoredEvent>(result).points.size(), 2U);
   EXPECT_EQ(std::get<StoredEvent>(result).points[0].coords[0], 1.5);
@@ -139,7 +139,7 @@ TEST_P(PcCount, IsAcceptedFrom1To5000) {
   Bytes file = hex_bytes(two_point_file);
   file.resize(53 + 48 * row.length_for);
   put_hex(file, count_offset, row.digits);
-  const auto result = read_pc_layout(1, file);
+  const auto result = readWinData(1, file);
   EXPECT_EQ(!refused(result), row.accepted);
   if (row.accepted) {
     EXPECT_EQ(std::get<StoredEvent>(result).points.size(), row.length_for);
@@ -162,15 +162,15 @@ TEST(PcLayout, AFileCutAnywhereIsRefused) {
   const Bytes file = hex_bytes(two_point_file);
   ASSERT_EQ(file.size(), 53U + 2 * 48);
   for (std::size_t size = 1; size < file.size(); ++size) {
-    EXPECT_TRUE(refused(read_pc_layout(1, std::span(file).first(size)))) << size << " bytes";
+    EXPECT_TRUE(refused(readWinData(1, std::span(file).first(size)))) << size << " bytes";
   }
-  EXPECT_FALSE(refused(read_pc_layout(1, file)));
+  EXPECT_FALSE(refused(readWinData(1, file)));
 }
 
 TEST(PcLayout, BytesBeyondTheLastRecordAreIgnored) {
   Bytes file = hex_bytes(two_point_file);
   file.resize(file.size() + 7, std::byte{0xFF});
-  EXPECT_FALSE(refused(read_pc_layout(1, file)));
+  EXPECT_FALSE(refused(readWinData(1, file)));
 }
 
 struct ValueCase {
@@ -184,7 +184,7 @@ class PcValue : public ::testing::TestWithParam<ValueCase> {};
 TEST_P(PcValue, IsRefusedWhenNoChamberCanHaveIt) {
   Bytes file = hex_bytes(two_point_file);
   put_hex(file, GetParam().offset, GetParam().digits);
-  EXPECT_TRUE(refused(read_pc_layout(1, file)));
+  EXPECT_TRUE(refused(readWinData(1, file)));
 }
 
 INSTANTIATE_TEST_SUITE_P(

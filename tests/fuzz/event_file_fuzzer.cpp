@@ -27,7 +27,7 @@ using Bytes = std::span<const std::byte>;
 /// With a tag and without one, by the first bit, so that both are reached.
 [[maybe_unused]] ReadResult read_layout_of_pc(Bytes bytes) {
   const bool tagged = !bytes.empty() && (std::to_integer<unsigned>(bytes[0]) & 1U) != 0U;
-  return velquon::read_pc_layout(tagged ? 1 : 0, bytes);
+  return velquon::readWinData(tagged ? 1 : 0, bytes);
 }
 
 void require(bool holds, const char* what) {

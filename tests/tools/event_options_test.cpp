@@ -78,6 +78,7 @@ TEST(EventOptions, NumbersHaveTheirUsualForms) {
   EXPECT_EQ(options_of({"--type", "pi-", "--field", "-.5"}).values.B_field, -0.5F);
   EXPECT_EQ(options_of({"--type", "pi-", "--field", "-0.0"}).values.B_field, 0.0F);
   EXPECT_EQ(options_of({"--type", "pi-", "--energy", "1e4"}).values.kinetic_Mev, 10000.0F);
+  EXPECT_EQ(options_of({"--type", "pi-", "--field", "1e-400"}).values.B_field, 0.0F);
   EXPECT_EQ(options_of({"--type", "pi-", "--seed", "0"}).seed, 0U);
   EXPECT_EQ(options_of({"--type", "pi-", "--seed", "4294967295"}).seed, 4294967295U);
   EXPECT_EQ(options_of({"--type", "pi-", "--events", "0"}).events, 0U);
@@ -109,28 +110,31 @@ INSTANTIATE_TEST_SUITE_P(Types, HostileCommandLine,
 
 INSTANTIATE_TEST_SUITE_P(
     Numbers, HostileCommandLine,
-    ::testing::Values(
-        with_type({"--field"}), with_type({"--field="}), with_type({"--field", ""}),
-        with_type({"--field", "strong"}), with_type({"--field", "1,5"}),
-        with_type({"--field", "1 "}), with_type({"--field", " 1"}), with_type({"--field", "0x10"}),
-        with_type({"--field", "++1"}), with_type({"--field", "+-1"}), with_type({"--field", "--1"}),
-        with_type({"--field", "nan"}), with_type({"--field", "-inf"}),
-        with_type({"--field", "1e39"}), with_type({"--field", "1e400"}),
-        with_type({"--field", "1", "2"}), with_type({"--field", "1\n2"}),
-        with_type({"--field", "1", "--field", "2"}), with_type({"--side", "0"}),
-        with_type({"--side", "-500"}), with_type({"--side", "1e-60"}),
-        with_type({"--side", "1e-45"}), with_type({"--side", "inf"}), with_type({"--energy", "0"}),
-        with_type({"--energy", "-0.0"}), with_type({"--energy", "-1"}),
-        with_type({"--energy", "1e-50"}), with_type({"--energy", "1e39"}),
-        with_type({"--energy", "nan"}), with_type({"--seed", "-1"}), with_type({"--seed", "1.5"}),
-        with_type({"--seed", ""}), with_type({"--seed", "4294967296"}),
-        with_type({"--events", "-1"}), with_type({"--events", "1e3"}),
-        with_type({"--events", "1000000001"}), with_type({"--events", "99999999999999999999"})));
+    ::testing::Values(with_type({"--field"}), with_type({"--field="}), with_type({"--field", ""}),
+                      with_type({"--field", "strong"}), with_type({"--field", "1,5"}),
+                      with_type({"--field", "1 "}), with_type({"--field", " 1"}),
+                      with_type({"--field", "0x10"}), with_type({"--field", "++1"}),
+                      with_type({"--field", "+-1"}), with_type({"--field", "--1"}),
+                      with_type({"--field", "nan"}), with_type({"--field", "-inf"}),
+                      with_type({"--field", "1e39"}), with_type({"--field", "1e400"}),
+                      with_type({"--field", "1", "2"}), with_type({"--field", "1\n2"}),
+                      with_type({"--field", "1", "--field", "2"}), with_type({"--side", "0"}),
+                      with_type({"--side", "-500"}), with_type({"--side", "1e-60"}),
+                      with_type({"--side", "1e-45"}), with_type({"--side", "inf"}),
+                      with_type({"--energy", "0"}), with_type({"--energy", "-0.0"}),
+                      with_type({"--energy", "-1"}), with_type({"--energy", "1e-50"}),
+                      with_type({"--energy", "1e-400"}), with_type({"--energy", "1e39"}),
+                      with_type({"--energy", "nan"}), with_type({"--seed", "-1"}),
+                      with_type({"--seed", "1.5"}), with_type({"--seed", ""}),
+                      with_type({"--seed", "4294967296"}), with_type({"--events", "-1"}),
+                      with_type({"--events", "1e3"}), with_type({"--events", "1000000001"}),
+                      with_type({"--events", "99999999999999999999"})));
 
 INSTANTIATE_TEST_SUITE_P(
     Others, HostileCommandLine,
     ::testing::Values(with_type({"--format", "xml"}), with_type({"--format", "CSV"}),
                       with_type({"--output", "/tmp"}), with_type({"--format", "cwd", "--output"}),
+                      with_type({"--format", "cwd", "--output", ""}),
                       with_type({"--format", "csv", "--output", "."}), with_type({"extra"}),
                       with_type({""}), with_type({"-"}), with_type({"--bogus"}),
                       with_type({"--bo\ngus"}), with_type({"-x"}), with_type({"--field=1=2"}),
@@ -139,6 +143,14 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(EventOptions, AMessageNamesTheOptionAndWhatItWas) {
   EXPECT_EQ(parsed({"--type", "pi-", "--side", "0"}).message,
             "velquon-events: --side: '0' is not a finite side in cm above 0\n");
+}
+
+TEST(EventOptions, AMistypedOptionIsNamedAheadOfWhatIsMissingBecauseOfIt) {
+  EXPECT_EQ(parsed({"--typ", "pi-"}).message,
+            "velquon-events: '--typ': is not known to velquon-events\n");
+  EXPECT_EQ(parsed({"--type", "pi-", "--filed", "2"}).message,
+            "velquon-events: '--filed': is not known to velquon-events\n");
+  EXPECT_EQ(parsed({}).message, "velquon-events: --type is required\n");
 }
 
 TEST(EventOptions, AMessageShowsNoControlCharacters) {

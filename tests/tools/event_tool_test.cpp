@@ -103,6 +103,18 @@ TEST(EventTool, AFullOutputEndsWithStatus1AndOneLine) {
   }
 }
 
+TEST(EventTool, HelpThatCannotBeWrittenEndsWithStatus1) {
+  EXPECT_EQ(run_tool({"--help"}, "/dev/full").status, 1);
+}
+
+TEST(EventFiles, AFolderOfAnyNameIsNamedOnOneLine) {
+  const auto run = run_tool({"--type", "pi+", "--format", "cwd", "--output", "/no/\n\x1b[31m"});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(
+      run.messages,
+      "velquon-events: cannot write /no/??[31m/event-000001.cwd: No such file or directory\n");
+}
+
 TEST(EventFiles, AreNumberedFrom1WithSixDigitsAndHoldTheEvents) {
   const TemporaryFolder folder;
   const auto run = run_tool({"--type", "pi-", "--seed", "4", "--events", "12", "--field", "2",

@@ -1,0 +1,152 @@
+// What the program answers to its command line, as a shell sees it.
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <QDir>
+#include <QImage>
+#include <QTemporaryDir>
+
+#include "app/command_line.h"
+#include "gui/support/pictures.h"
+#include "support/other_program.h"
+
+namespace velquon::test {
+
+namespace {
+
+QStringList words(std::initializer_list<const char*> list) {
+  QStringList result;
+  for (const char* const word : list) {
+    result << QString::fromUtf8(word);
+  }
+  return result;
+}
+
+Ending start(const QStringList& arguments, const QStringList& variables = {}) {
+  return run_program(VELQUON_PROGRAM, arguments, variables);
+}
+
+/// Reads a command line; the program's name is added.
+ParsedCommandLine parsed(const QStringList& arguments) {
+  return parse_command_line(QStringList{QStringLiteral("velquon")} + arguments);
+}
+
+TEST(CommandLine, WithoutArgumentsChoosesNothing) {
+  const auto options = parsed({}).options;
+  ASSERT_TRUE(options.has_value());
+  EXPECT_FALSE(options->seed.has_value());
+  EXPECT_EQ(options->file, QString());
+  EXPECT_EQ(options->pictures, QString());
+}
+
+TEST(CommandLine, TakesASeedInItsWholeRange) {
+  EXPECT_EQ(parsed(words({"--seed", "0"})).options->seed, 0U);
+  EXPECT_EQ(parsed(words({"--seed=4294967295"})).options->seed, 4294967295U);
+}
+
+TEST(CommandLine, GivesTheFileItsPathFromTheRoot) {
+  const QString here = QDir::currentPath();
+  EXPECT_EQ(parsed(words({"event.cwd"})).options->file, here + QStringLiteral("/event.cwd"));
+  EXPECT_EQ(parsed(words({":x.cwd"})).options->file, here + QStringLiteral("/:x.cwd"));
+  EXPECT_EQ(parsed(words({"--", "-x.cwd"})).options->file, here + QStringLiteral("/-x.cwd"));
+  EXPECT_EQ(parsed(words({"/tmp/event.cwd"})).options->file, QStringLiteral("/tmp/event.cwd"));
+}
+
+class HostileArguments : public testing::TestWithParam<QStringList> {};
+
+TEST_P(HostileArguments, EndTheProgramWithStatus2AndOneLine) {
+  const Ending ending = start(GetParam());
+  EXPECT_FALSE(ending.crashed);
+  EXPECT_EQ(ending.status, 2);
+  EXPECT_EQ(ending.output, QString());
+  EXPECT_TRUE(ending.errors.startsWith(QStringLiteral("velquon: ")));
+  EXPECT_EQ(ending.errors.count(QLatin1Char('\n')), 1);
+  EXPECT_TRUE(ending.errors.endsWith(QLatin1Char('\n')));
+  EXPECT_FALSE(ending.errors.contains(QChar(0x1B)));
+}
+
+INSTANTIATE_TEST_SUITE_P(CommandLine, HostileArguments,
+                         testing::Values(words({"--seed"}), words({"--seed", "-1"}),
+                                         words({"--seed", "4294967296"}), words({"--seed", "1.5"}),
+                                         words({"--seed", ""}), words({"--bogus"}),
+                                         words({"--bo\ngus\x1b[31m"}), words({"a.cwd", "b.cwd"}),
+                                         words({"--pictures"}), words({"--pictures="}),
+                                         words({"--pictures", "folder", "a.cwd"}),
+                                         words({"--seed", "1\n\x1b[31m"})));
+
+TEST(CommandLine, HelpAndVersionGoToStandardOutput) {
+  for (const char* const word : {"--help", "-h", "--version", "-v"}) {
+    const Ending ending = start(words({word}));
+    EXPECT_EQ(ending.status, 0);
+    EXPECT_TRUE(ending.output.contains(QStringLiteral("velquon"))) << word;
+    EXPECT_EQ(ending.errors, QString());
+  }
+}
+
+TEST(CommandLine, WithoutADisplayTheProgramSaysSo) {
+  const Ending ending = start({}, words({"DISPLAY="}));
+  EXPECT_EQ(ending.status, 1);
+  EXPECT_EQ(ending.errors, QStringLiteral("velquon: there is no X display to show windows on "
+                                          "(DISPLAY is not set)\n"));
+}
+
+TEST(CommandLine, ADisplayThatDoesNotAnswerIsNamed) {
+  const Ending ending = start({}, words({"DISPLAY=:9999"}));
+  EXPECT_EQ(ending.status, 1);
+  EXPECT_EQ(ending.errors, QStringLiteral("velquon: the X display ':9999' does not answer\n"));
+}
+
+/// Leaves pictures in a folder that goes with the test.
+class PicturesTest : public testing::Test {
+ protected:
+  [[nodiscard]] QString folder() const { return folder_.filePath(QStringLiteral("pictures")); }
+  [[nodiscard]] QStringList files() const {
+    return QDir(folder()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+  }
+  [[nodiscard]] Ending leavePictures() const {
+    return start(
+        {QStringLiteral("--pictures"), folder(), QStringLiteral("--seed"), QStringLiteral("1")});
+  }
+
+ private:
+  QTemporaryDir folder_;
+};
+
+TEST_F(PicturesTest, ShowEachViewOfAnEventOfEachKind) {
+  const Ending ending = leavePictures();
+  EXPECT_EQ(ending.status, 0) << ending.errors.toStdString();
+  ASSERT_EQ(files(), words({"lambda-chamber.png", "lambda-projector.png",
+                            "negative-muon-chamber.png", "negative-muon-projector.png",
+                            "negative-pion-chamber.png", "negative-pion-projector.png",
+                            "neutral-pion-chamber.png", "neutral-pion-projector.png",
+                            "positive-muon-chamber.png", "positive-muon-projector.png",
+                            "positive-pion-chamber.png", "positive-pion-projector.png"}));
+  for (const QString& name : files()) {
+    EXPECT_TRUE(ending.output.contains(name));
+    const bool of_chamber = name.endsWith(QStringLiteral("chamber.png"));
+    const QImage picture(QDir(folder()).filePath(name));
+    EXPECT_EQ(picture.size(), of_chamber ? QSize(682, 500) : QSize(470, 420));
+  }
+  // The yellow track of the muon that the pion becomes.
+  EXPECT_GT(
+      pixels_of(QImage(folder() + QStringLiteral("/negative-pion-chamber.png")), yellow).size(),
+      20U);
+}
+
+TEST_F(PicturesTest, ThatDoNotFitOnTheDiskAreNamedAndNotLeftByHalves) {
+  rlimit before{};
+  ::getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit limited{3000, before.rlim_max};
+  ::setrlimit(RLIMIT_FSIZE, &limited);
+  const Ending ending = leavePictures();
+  ::setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_EQ(ending.status, 1);
+  EXPECT_TRUE(ending.errors.contains(QStringLiteral("velquon: cannot write ")))
+      << ending.errors.toStdString();
+  EXPECT_EQ(files(), QStringList());
+}
+
+}  // namespace
+
+}  // namespace velquon::test
