@@ -1,6 +1,8 @@
 #include "app/application.h"
 
 #include <QApplication>
+#include <QScreen>
+#include <algorithm>
 
 #include "app/chamber_controller.h"
 #include "app/chamber_window.h"
@@ -51,7 +53,11 @@ void Application::showWindows() {
   chamber_window_->resize(chamber_window_->sizeHint());
   projector_window_->resize(projector_window_->sizeHint());
   chamber_window_->move(chamber_corner);
-  projector_window_->move(chamber_corner + QPoint(chamber_window_->width() + gap, 0));
+  // Rather over the other window than beyond the edge of a narrow screen.
+  const int beside = chamber_corner.x() + chamber_window_->width() + gap;
+  const int rightmost =
+      projector_window_->screen()->availableGeometry().right() - projector_window_->width();
+  projector_window_->move(std::max(std::min(beside, rightmost), 0), chamber_corner.y());
   // The keys go to the chamber's window at once, not first to the one that comes up before it.
   projector_window_->setAttribute(Qt::WA_ShowWithoutActivating);
   projector_window_->show();
@@ -83,6 +89,12 @@ void Application::connectWindowMenu() {
                [this](QAction*) { chamber_window_->makeKeyAndOrderFront(); });
   on_triggered({items.projector_window_item}, this,
                [this](QAction*) { projector_window_->makeKeyAndOrderFront(); });
+  // Connected after the track controller's own action, which may have hidden the last window.
+  on_triggered({items.activate_item}, this, [this](QAction*) {
+    if (!GLPanel::anyOnScreen()) {
+      chamber_window_->makeKeyAndOrderFront();
+    }
+  });
   on_triggered({items.quit_item}, this, [](QAction*) {
     // Not quit(): that would first ask the windows to close, and they only hide.
     QCoreApplication::exit();

@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QMenu>
+#include <QPrinter>
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -43,6 +44,8 @@ ChamberController::ChamberController(const ChamberOutlets& outlets, QObject* par
   connectMenus();
   connectWindows();
 }
+
+ChamberController::~ChamberController() = default;
 
 void ChamberController::awakeFromNib() {
   constexpr ChamberValues start_up;
@@ -158,8 +161,14 @@ void ChamberController::print() {
   GLPanel* const window = view == static_cast<Printable*>(outlets_.chamber_view)
                               ? outlets_.chamber_window
                               : outlets_.projector_window;
+  // The page shows the picture at rest, as the panel's preview does.
+  outlets_.chamber_view->stopRotating();
   PrintView page(*view, window->title(), *outlets_.chamber_view);
-  PrintPanel(page, QFileInfo(shown_name_).completeBaseName(), *outlets_.dialogs, window).exec();
+  if (printer_ == nullptr) {
+    printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  }
+  PrintPanel(page, QFileInfo(shown_name_).completeBaseName(), *printer_, *outlets_.dialogs, window)
+      .exec();
 }
 
 void ChamberController::set_event_type(QAction* sender) {

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <memory>
 #include <span>
 
 #include "app/chamber_settings.h"
@@ -9,6 +10,7 @@
 #include "events/event_types.h"
 
 class QAction;
+class QPrinter;
 
 namespace Ui {
 class Menus;
@@ -43,6 +45,11 @@ class ChamberController : public QObject {
 
  public:
   explicit ChamberController(const ChamberOutlets& outlets, QObject* parent = nullptr);
+  ~ChamberController() override;
+  ChamberController(const ChamberController&) = delete;
+  ChamberController& operator=(const ChamberController&) = delete;
+  ChamberController(ChamberController&&) = delete;
+  ChamberController& operator=(ChamberController&&) = delete;
 
   /// Sets the start-up values and shows no event yet. To be called once, before the windows are
   /// shown.
@@ -98,6 +105,7 @@ class ChamberController : public QObject {
   QString shown_name_;
   bool chamber_on_top_ = true;
   Printable* print_view_ = nullptr;
+  std::unique_ptr<QPrinter> printer_;  ///< made for the first print; keeps its choices
 };
 
 }  // namespace velquon

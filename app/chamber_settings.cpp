@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstddef>
 
+#include "platform/number_text.h"
 #include "platform/value_slider.h"
 
 namespace velquon {
@@ -45,7 +46,7 @@ int energy_decimals(double energy_MeV) {
 
 void show_value(QLabel& label, const QString& text, double value, int decimals) {
   constexpr int width = 5;
-  label.setText(text.arg(value, width, 'f', decimals));
+  label.setText(text.arg(fixed_text(value, width, decimals)));
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "app/form.h"
 #include "chamber/chamber_scene.h"
 #include "chamber/chamber_view.h"
+#include "platform/wheel_guard.h"
 #include "ui_chamber_window.h"
 #include "ui_menus.h"
 
@@ -22,7 +23,6 @@ QToolButton* make_event_type_button(QMenu* event_menu) {
   button->setPopupMode(QToolButton::InstantPopup);
   button->setMenu(event_menu);
   button->setToolTip(ChamberWindow::tr("Kind of the next event"));
-  button->setFocusPolicy(Qt::TabFocus);
   const auto show_choice = [button, event_menu] {
     const auto items = event_menu->actions();
     const auto chosen = std::ranges::find_if(items, &QAction::isChecked);
@@ -38,9 +38,9 @@ QToolButton* make_event_type_button(QMenu* event_menu) {
   return button;
 }
 
-/// Keeps the window's width when a file holds a value beyond all sense.
-void give_room_for_usual_values(QLabel& label) {
-  label.setMinimumWidth(label.fontMetrics().horizontalAdvance(QStringLiteral("T = 10000.0 MeV")));
+/// Gives a label room for a text; a value beyond all sense in a file does not widen the window.
+void give_room_for(QLabel& label, const QString& text) {
+  label.setMinimumWidth(label.fontMetrics().horizontalAdvance(text));
   label.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 
@@ -51,10 +51,12 @@ ChamberWindow::ChamberWindow(std::optional<std::uint32_t> seed, const Ui::Menus&
       view_(new ChamberView(seed, ui_->chamber_area->viewport())) {
   view_->setObjectName(QStringLiteral("chamber_view"));
   view_->setAccessibleName(tr("Particle chamber"));
+  ui_->chamber_area->setAccessibleName(tr("Part of the chamber that is seen"));
   ui_->chamber_area->setView(view_, {chamber_width, chamber_height});
-  for (QLabel* const label : {ui_->magfield_text, ui_->sides_text, ui_->kinetic_energy_text}) {
-    give_room_for_usual_values(*label);
-  }
+  give_room_for(*ui_->magfield_text, QStringLiteral("B = 10.000 kG"));
+  give_room_for(*ui_->sides_text, QStringLiteral("L = 10.000 m"));
+  give_room_for(*ui_->kinetic_energy_text, QStringLiteral("T = 10000.0 MeV"));
+  take_wheel_only_with_focus(*ui_->efactor_popup);
   fillToolBar(menus);
 }
 
@@ -82,6 +84,12 @@ void ChamberWindow::fillToolBar(const Ui::Menus& menus) {
   bar.addAction(menus.replay_item);
   bar.addAction(menus.rotate_item);
   bar.addAction(menus.reset_orientation_item);
+  const auto items = bar.actions();
+  for (QAction* const action : items) {
+    if (auto* const button = qobject_cast<QToolButton*>(bar.widgetForAction(action))) {
+      button->setFocusPolicy(Qt::TabFocus);
+    }
+  }
 }
 
 }  // namespace velquon

@@ -7,16 +7,11 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "platform/window_order.h"
+
 namespace velquon {
 
 namespace {
-
-bool any_window_on_screen() {
-  const auto windows = QApplication::topLevelWidgets();
-  return std::ranges::any_of(windows, [](const QWidget* window) {
-    return qobject_cast<const GLPanel*>(window) != nullptr && window->isVisible();
-  });
-}
 
 /// The file that is dragged, the last of several; empty when it is none of this computer.
 QString dragged_file(const QMimeData& data) {
@@ -30,6 +25,13 @@ GLPanel::GLPanel(QWidget* parent) : QMainWindow(parent) {
   setAcceptDrops(true);
 }
 
+bool GLPanel::anyOnScreen() {
+  const auto windows = QApplication::topLevelWidgets();
+  return std::ranges::any_of(windows, [](const QWidget* window) {
+    return qobject_cast<const GLPanel*>(window) != nullptr && window->isVisible();
+  });
+}
+
 void GLPanel::setTitle(const QString& title) {
   const QLatin1String mark("[*]");
   title_ = title;
@@ -37,12 +39,7 @@ void GLPanel::setTitle(const QString& title) {
 }
 
 void GLPanel::makeKeyAndOrderFront() {
-  if (isMinimized()) {
-    showNormal();
-  }
-  show();
-  raise();
-  activateWindow();
+  bring_to_front(*this);
 }
 
 bool GLPanel::event(QEvent* event) {
@@ -57,7 +54,7 @@ bool GLPanel::event(QEvent* event) {
 void GLPanel::closeEvent(QCloseEvent* event) {
   event->ignore();
   hide();
-  if (!any_window_on_screen()) {
+  if (!anyOnScreen()) {
     QCoreApplication::quit();
   }
 }

@@ -12,6 +12,9 @@ class GLPanel : public QMainWindow {
  public:
   explicit GLPanel(QWidget* parent = nullptr);
 
+  /// Whether any window of the kind is shown, minimized ones included.
+  [[nodiscard]] static bool anyOnScreen();
+
   /// Gives the window a title in which every character stands for itself; Qt takes "[*]" in a
   /// window's title for the place of a mark.
   void setTitle(const QString& title);

@@ -33,17 +33,14 @@ void set_margins(QPagedPaintDevice& device) {
 
 }  // namespace
 
-PrintPanel::PrintPanel(PrintView& view, QString name, UserDialogs& dialogs, QWidget* parent)
-    : QDialog(parent),
-      view_(view),
-      name_(std::move(name)),
-      dialogs_(dialogs),
-      printer_(std::make_unique<QPrinter>(QPrinter::HighResolution)) {
+PrintPanel::PrintPanel(PrintView& view, QString name, QPrinter& printer, UserDialogs& dialogs,
+                       QWidget* parent)
+    : QDialog(parent), view_(view), name_(std::move(name)), printer_(printer), dialogs_(dialogs) {
   setWindowTitle(tr("Print"));
-  set_margins(*printer_);
+  set_margins(printer_);
   const bool has_printer = !QPrinterInfo::availablePrinterNames().isEmpty();
 
-  auto* const preview = new QPrintPreviewWidget(printer_.get(), this);
+  auto* const preview = new QPrintPreviewWidget(&printer_, this);
   preview->setObjectName(QStringLiteral("print_preview"));
   preview->setAccessibleName(tr("Preview of the page"));
   preview->fitInView();
@@ -75,11 +72,11 @@ QLayout* PrintPanel::makePaperRow(QPrintPreviewWidget* preview) {
   for (const QPageSize::PageSizeId size : {QPageSize::A4, QPageSize::Letter}) {
     popup->addItem(QPageSize::name(size), size);
   }
-  const int usual = popup->findData(printer_->pageLayout().pageSize().id());
+  const int usual = popup->findData(printer_.pageLayout().pageSize().id());
   popup->setCurrentIndex(std::max(usual, 0));
   const auto take_choice = [this, popup, preview] {
-    printer_->setPageSize(QPageSize(popup->currentData().value<QPageSize::PageSizeId>()));
-    set_margins(*printer_);
+    printer_.setPageSize(QPageSize(popup->currentData().value<QPageSize::PageSizeId>()));
+    set_margins(printer_);
     preview->updatePreview();
   };
   take_choice();
@@ -106,18 +103,16 @@ QWidget* PrintPanel::makeButtons(bool has_printer) {
   return buttons;
 }
 
-PrintPanel::~PrintPanel() = default;
-
 void PrintPanel::sendToPrinter() {
-  QPrintDialog dialog(printer_.get(), this);
+  QPrintDialog dialog(&printer_, this);
   if (dialog.exec() != QDialog::Accepted) {
     return;
   }
-  if (view_.print(*printer_)) {
+  if (view_.print(printer_)) {
     accept();
   } else {
     dialogs_.alert(tr("Not printed"),
-                   tr("The printer %1 did not take the page.").arg(printer_->printerName()));
+                   tr("The printer %1 did not take the page.").arg(printer_.printerName()));
   }
 }
 
@@ -131,7 +126,8 @@ void PrintPanel::saveAsPdf() {
   QBuffer buffer(&document);
   buffer.open(QIODevice::WriteOnly);
   QPdfWriter writer(&buffer);
-  writer.setPageSize(printer_->pageLayout().pageSize());
+  writer.setTitle(view_.title());
+  writer.setPageSize(printer_.pageLayout().pageSize());
   set_margins(writer);
   const auto reason = view_.print(writer) ? write_whole_file(path, document)
                                           : std::optional(tr("the page cannot be drawn"));

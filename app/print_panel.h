@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 class QPrintPreviewWidget;
 class QPrinter;
@@ -19,9 +18,10 @@ class PrintPanel : public QDialog {
  public:
   /// \param view    the page
   /// \param name    name offered for a PDF file, without its ending
+  /// \param printer keeps the choices of paper and printer from one print to the next
   /// \param dialogs asks and tells the user
-  PrintPanel(PrintView& view, QString name, UserDialogs& dialogs, QWidget* parent = nullptr);
-  ~PrintPanel() override;
+  PrintPanel(PrintView& view, QString name, QPrinter& printer, UserDialogs& dialogs,
+             QWidget* parent = nullptr);
 
  private:
   QLayout* makePaperRow(QPrintPreviewWidget* preview);
@@ -31,8 +31,8 @@ class PrintPanel : public QDialog {
 
   PrintView& view_;
   QString name_;
+  QPrinter& printer_;
   UserDialogs& dialogs_;
-  std::unique_ptr<QPrinter> printer_;
   QPushButton* default_button_ = nullptr;
 };
 

@@ -19,6 +19,8 @@ class PrintView {
   /// \param chamber_view where the values line comes from
   PrintView(Printable& pview, QString title, ChamberView& chamber_view);
 
+  [[nodiscard]] const QString& title() const { return title_; }
+
   /// Draws the page in the middle of the device's paper, at its own size where that fits with
   /// margins of 36 points.
   /// \return whether the device could be drawn on

@@ -37,6 +37,9 @@ ProjectorWindow::ProjectorWindow()
       view_(new ProjectionView(ui_->projector_area->viewport())) {
   view_->setObjectName(QStringLiteral("projection_view"));
   view_->setAccessibleName(tr("Projection"));
+  ui_->projector_area->setAccessibleName(tr("Part of the projection that is seen"));
+  ui_->tape_text->setMinimumWidth(
+      ui_->tape_text->fontMetrics().horizontalAdvance(QStringLiteral("D = 9999.99 cm")));
   ui_->projector_area->setView(view_, {projection_width, projection_height});
   connectButtons();
 }

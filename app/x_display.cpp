@@ -6,17 +6,30 @@
 
 namespace velquon {
 
+namespace {
+
+bool has_opengl(Display* display) {
+  int major_opcode = 0;
+  int first_event = 0;
+  int first_error = 0;
+  return XQueryExtension(display, "GLX", &major_opcode, &first_event, &first_error) == True;
+}
+
+}  // namespace
+
 std::string missing_for_windows() {
-  Display* const display = XOpenDisplay(nullptr);
-  if (display != nullptr) {
-    XCloseDisplay(display);
-    return {};
-  }
   const char* const name = std::getenv("DISPLAY");
   if (name == nullptr || *name == '\0') {
     return "there is no X display to show windows on (DISPLAY is not set)";
   }
-  return "the X display '" + std::string(name) + "' does not answer";
+  const std::string the_display = "the X display '" + std::string(name) + "' ";
+  Display* const display = XOpenDisplay(nullptr);
+  if (display == nullptr) {
+    return the_display + "does not answer";
+  }
+  const bool complete = has_opengl(display);
+  XCloseDisplay(display);
+  return complete ? std::string() : the_display + "has no OpenGL (GLX)";
 }
 
 }  // namespace velquon

@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QScreen>
 #include <algorithm>
+#include <utility>
 
 #include "platform/delayed_message.h"
 
@@ -31,14 +32,28 @@ void GLView::displaySoon() {
     return;
   }
   display_pending_ = true;
-  const double frame = 1.0 / std::max(screen()->refreshRate(), 1.0);
-  const double elapsed = since_presented_.isValid()
-                             ? static_cast<double>(since_presented_.nsecsElapsed()) * 1e-9
-                             : frame;
-  perform_after(frame - elapsed, this, [this] {
+  perform_after(secondsToNextFrame(), this, [this] {
     display_pending_ = false;
     if (stale_) {
       display();
+    }
+  });
+}
+
+void GLView::drawAndPresentSoon() {
+  if (!isValid() || !isVisible() || secondsToNextFrame() <= 0.0) {
+    display();
+    return;
+  }
+  makeCurrent();
+  runDrawingPass();
+  if (present_pending_) {
+    return;
+  }
+  present_pending_ = true;
+  perform_after(secondsToNextFrame(), this, [this] {
+    if (std::exchange(present_pending_, false) && isVisible()) {
+      present();
     }
   });
 }
@@ -81,9 +96,18 @@ void GLView::runDrawingPass() {
   drawRect();
 }
 
+double GLView::secondsToNextFrame() const {
+  if (!since_presented_.isValid()) {
+    return 0.0;
+  }
+  const double frame = 1.0 / std::max(screen()->refreshRate(), 1.0);
+  return frame - static_cast<double>(since_presented_.nsecsElapsed()) * 1e-9;
+}
+
 void GLView::present() {
   // Qt holds a repaint to the screen's refresh rate; sending the request that it would post gets
   // the picture out now.
+  present_pending_ = false;
   since_presented_.start();
   update();
   QEvent request(QEvent::UpdateRequest);

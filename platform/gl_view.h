@@ -26,6 +26,10 @@ class GLView : public QOpenGLWidget {
   /// show another picture. Any number of requests until then make one pass.
   void displaySoon();
 
+  /// Runs one full drawing pass at once and brings it to the screen at once or, when the last was
+  /// just now, as soon as the screen can show another picture.
+  void drawAndPresentSoon();
+
   /// The part of the view's document that can be seen; the origin is 0, 0 unless it is scrolled.
   [[nodiscard]] QRectF visibleRect() const;
   /// Set by the scrolling area.
@@ -54,12 +58,15 @@ class GLView : public QOpenGLWidget {
  private:
   void runDrawingPass();
   void present();
+  /// Seconds until the screen can show another picture; not above 0 when it can now.
+  [[nodiscard]] double secondsToNextFrame() const;
 
   QPointF visible_origin_;
   QElapsedTimer since_presented_;
   int passes_ = 0;
   bool stale_ = true;
   bool display_pending_ = false;
+  bool present_pending_ = false;
 };
 
 }  // namespace velquon

@@ -62,6 +62,9 @@ double ValueSlider::stepValue() const {
 }
 
 void ValueSlider::moveTo(double value) {
+  if (!std::isfinite(value)) {
+    return;
+  }
   value_ = static_cast<float>(std::clamp(value, lowestChoice(), max_value_));
   placeKnob();
   QAccessibleValueChangeEvent event(this, doubleValue());

@@ -7,8 +7,16 @@
 
 namespace velquon {
 
+namespace {
+
+// On a screen with a broken scale a window comes out that much smaller than what was asked for.
+constexpr int rounding = 2;
+
+}  // namespace
+
 ViewScrollArea::ViewScrollArea(QWidget* parent) : QAbstractScrollArea(parent) {
   setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);
 }
 
 void ViewScrollArea::setView(GLView* view, QSize document) {
@@ -40,10 +48,10 @@ void ViewScrollArea::scrollContentsBy(int /*dx*/, int /*dy*/) {
 void ViewScrollArea::placeView() {
   // A scroll bar that is there takes room that the whole document may not need once it is gone.
   const QSize without_bars = maximumViewportSize();
-  const bool all_fits =
-      without_bars.width() >= document_.width() && without_bars.height() >= document_.height();
+  const QSize short_of = document_ - without_bars;
+  const bool all_fits = short_of.width() <= rounding && short_of.height() <= rounding;
   const QSize seen = all_fits ? without_bars : viewport()->size();
-  const QSize hidden = (document_ - seen).expandedTo(QSize(0, 0));
+  const QSize hidden = all_fits ? QSize(0, 0) : (document_ - seen).expandedTo(QSize(0, 0));
   horizontalScrollBar()->setRange(0, hidden.width());
   verticalScrollBar()->setRange(0, hidden.height());
   horizontalScrollBar()->setPageStep(seen.width());
@@ -52,6 +60,8 @@ void ViewScrollArea::placeView() {
       {static_cast<qreal>(horizontalScrollBar()->value()),
        static_cast<qreal>(std::max(hidden.height() - verticalScrollBar()->value(), 0))});
   view_->setGeometry(viewport()->rect());
+  // Keys have something to do here only while a part is out of sight.
+  setFocusPolicy(all_fits ? Qt::NoFocus : Qt::StrongFocus);
 }
 
 }  // namespace velquon

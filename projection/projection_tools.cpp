@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <cmath>
 
+#include "platform/number_text.h"
 #include "projection/projection_view.h"
 
 namespace velquon {
@@ -70,7 +71,7 @@ void ProjectionView::hideTape() {
 }
 
 void ProjectionView::showReading(double centimetres) {
-  outlets_.tape_text->setText(QString::asprintf("D = %5.2f cm", centimetres));
+  outlets_.tape_text->setText(QStringLiteral("D = %1 cm").arg(fixed_text(centimetres, 5, 2)));
 }
 
 void ProjectionView::stretchTape(QPointF place) {

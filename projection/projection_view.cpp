@@ -94,7 +94,11 @@ ProjectionMapping ProjectionView::mapping() const {
   return {.zoom = static_cast<double>(zoom_factor_),
           .offset_across = OffH_,
           .offset_up = OffV_,
-          .view_height = std::max<double>(projection_height, height())};
+          .view_height = pictureHeight()};
+}
+
+double ProjectionView::pictureHeight() const {
+  return page_ != nullptr ? projection_height : std::max<double>(projection_height, height());
 }
 
 void ProjectionView::makeDisplayPoints() {
@@ -155,12 +159,20 @@ void ProjectionView::printRect() {
     }
   }
   if (tape_visible_) {
-    page_->drawLine(tape_start_point_ + page_offset, tape_end_point_ + page_offset);
+    const QPointF from_screen(0.0, pictureHeight() - shown_height_);
+    page_->drawLine(tape_start_point_ + from_screen + page_offset,
+                    tape_end_point_ + from_screen + page_offset);
   }
 }
 
 void ProjectionView::reshape() {
   glClear(GL_COLOR_BUFFER_BIT);
+  // The tape stays on what it measured.
+  const QPointF moved(0.0, pictureHeight() - shown_height_);
+  tape_start_point_ += moved;
+  tape_end_point_ += moved;
+  last_grab_ += moved;
+  shown_height_ = pictureHeight();
 }
 
 }  // namespace velquon

@@ -66,6 +66,7 @@ class ProjectionView : public GLView, public Printable {
   void setPrinting(QPainter* page) override { page_ = page; }
   void printRect() override;
 
+  /// The way to view units on the screen or, while printing, on the page.
   [[nodiscard]] ProjectionMapping mapping() const;
   [[nodiscard]] ProjectionPlane projection_plane() const { return projection_plane_; }
   [[nodiscard]] bool tape_visible() const { return tape_visible_; }
@@ -80,6 +81,8 @@ class ProjectionView : public GLView, public Printable {
  private:
   enum class Tool : std::uint8_t { tape, grab };
 
+  /// Height of the picture, which hangs from its top; a page takes it as the defaults have it.
+  [[nodiscard]] double pictureHeight() const;
   void makeDisplayPoints();
   void drawTracks();
   void resetCursorRects();
@@ -104,6 +107,7 @@ class ProjectionView : public GLView, public Printable {
   bool tape_visible_ = false;
   QPainter* page_ = nullptr;  ///< the page while printing
   double scaler_ = 0.0;
+  double shown_height_ = projection_height;  ///< when the tape was laid
 };
 
 }  // namespace velquon

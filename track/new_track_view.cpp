@@ -112,7 +112,7 @@ void NewTrackView::TrackWithTimer(QTimer* timer) {
 
 void NewTrackView::step() {
   simulation_.advance();
-  redraw();
+  redrawForStep();
   if (simulation_.takeClearSignal()) {
     clearColorBuffer();
   }
@@ -153,9 +153,20 @@ void NewTrackView::resetCursorRects() {
 }
 
 void NewTrackView::redraw() {
+  notePictureLost();
+  display();
+}
+
+void NewTrackView::redrawForStep() {
+  // Each step draws its points at once; a step may be shorter than what a screen can show, or than
+  // bringing a window to it takes.
+  notePictureLost();
+  drawAndPresentSoon();
+}
+
+void NewTrackView::notePictureLost() {
   // Out of sight nothing is drawn, so that the newest points alone would not do later.
   picture_lost_ = picture_lost_ || !isValid() || !isVisible();
-  display();
 }
 
 void NewTrackView::clearColorBuffer() {

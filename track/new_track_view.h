@@ -106,6 +106,8 @@ class NewTrackView : public GLView {
   void step();
   void endRun();
   void redraw();
+  void redrawForStep();
+  void notePictureLost();
   void clearColorBuffer();
   void resetCursorRects();
   void drawTrack() const;

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/value_slider.h"
+#include "platform/window_order.h"
 #include "track/new_track_view.h"
 
 namespace velquon {
@@ -85,9 +86,7 @@ void TrackController::awakeFromNib() {
 
 void TrackController::setActivate(QAction* sender) {
   if (!activated_) {
-    outlets_.track_window->show();
-    outlets_.track_window->raise();
-    outlets_.track_window->activateWindow();
+    bring_to_front(*outlets_.track_window);
     return;
   }
   sender->setText(tr("Activate"));

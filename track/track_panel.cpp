@@ -2,6 +2,7 @@
 
 #include <QAction>
 
+#include "platform/number_text.h"
 #include "track/new_track_view.h"
 #include "ui_track_window.h"
 
@@ -9,8 +10,25 @@ namespace velquon {
 
 namespace {
 
-void make_stand_for(QAbstractButton* button, QAction* item) {
-  const auto follow = [button, item] { button->setEnabled(item->isEnabled()); };
+constexpr const char* had_keys = "had_keys";
+
+/// Makes a button do what an item does. While it is disabled the keys go to another control instead
+/// of the next one, which does something else; they come back with it.
+void make_stand_for(QAbstractButton* button, QAction* item, QWidget* keys_meanwhile) {
+  const auto follow = [button, item, keys_meanwhile] {
+    const bool enabled = item->isEnabled();
+    if (!enabled && button->hasFocus()) {
+      keys_meanwhile->setFocus();
+      button->setProperty(had_keys, true);
+    }
+    button->setEnabled(enabled);
+    if (enabled && button->property(had_keys).toBool()) {
+      button->setProperty(had_keys, false);
+      if (keys_meanwhile->hasFocus()) {
+        button->setFocus();
+      }
+    }
+  };
   QObject::connect(button, &QAbstractButton::clicked, item, &QAction::trigger);
   QObject::connect(item, &QAction::changed, button, follow);
   follow();
@@ -26,8 +44,9 @@ TrackPanel::TrackPanel(QWidget* parent)
   view->setTapeBox(ui_->tape_box);
   connect(ui_->vSlider, &ValueSlider::moved, view,
           [this] { track_view()->setMagField(vSlider()); });
-  connect(view, &NewTrackView::fieldTaken, ui_->field_text,
-          [this](double field) { ui_->field_text->setText(QString::asprintf("B = %.2f", field)); });
+  connect(view, &NewTrackView::fieldTaken, ui_->field_text, [this](double field) {
+    ui_->field_text->setText(QStringLiteral("B = %1").arg(fixed_text(field, 0, 2)));
+  });
 }
 
 TrackPanel::~TrackPanel() = default;
@@ -38,8 +57,8 @@ void TrackPanel::setItems(QAction* inject_item, QAction* clear_item) {
           [view, inject_item] { view->injectParticle(inject_item); });
   connect(clear_item, &QAction::triggered, view,
           [view, clear_item] { view->clearScreen(clear_item); });
-  make_stand_for(ui_->inject_button, inject_item);
-  make_stand_for(ui_->clear_button, clear_item);
+  make_stand_for(ui_->inject_button, inject_item, view);
+  make_stand_for(ui_->clear_button, clear_item, view);
 }
 
 NewTrackView* TrackPanel::track_view() const {

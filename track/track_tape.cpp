@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <cmath>
 
+#include "platform/number_text.h"
 #include "track/new_track_view.h"
 
 namespace velquon {
@@ -52,7 +53,7 @@ void NewTrackView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void NewTrackView::drawTape() {
-  tape_box_->setText(QString::asprintf("D = %5.2f", tapeLength()));
+  tape_box_->setText(QStringLiteral("D = %1").arg(fixed_text(tapeLength(), 5, 2)));
   glColor3f(1.0F, 0.0F, 0.0F);
   glBegin(GL_LINES);
   glVertex3d(tape_start_point_.x(), tape_start_point_.y(), 0.0);

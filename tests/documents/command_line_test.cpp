@@ -9,6 +9,7 @@
 
 #include "app/command_line.h"
 #include "gui/support/pictures.h"
+#include "gui/support/waiting.h"
 #include "support/other_program.h"
 
 namespace velquon::test {
@@ -95,6 +96,51 @@ TEST(CommandLine, ADisplayThatDoesNotAnswerIsNamed) {
   const Ending ending = start({}, words({"DISPLAY=:9999"}));
   EXPECT_EQ(ending.status, 1);
   EXPECT_EQ(ending.errors, QStringLiteral("velquon: the X display ':9999' does not answer\n"));
+}
+
+TEST(CommandLine, ADisplayWithoutOpenGLIsNamed) {
+  QProcess server;
+  server.start(QStringLiteral("Xvfb"),
+               words({"-displayfd", "1", "-extension", "GLX", "-nolisten", "tcp"}));
+  ASSERT_TRUE(server.waitForStarted() && server.waitForReadyRead());
+  const QString name = QLatin1Char(':') + QString::fromUtf8(server.readLine()).trimmed();
+  const Ending ending = start({}, {QStringLiteral("DISPLAY=") + name});
+  server.terminate();
+  server.waitForFinished();
+  EXPECT_EQ(ending.status, 1);
+  EXPECT_EQ(ending.errors,
+            QStringLiteral("velquon: the X display '%1' has no OpenGL (GLX)\n").arg(name));
+}
+
+TEST(CommandLine, OnANarrowScreenBothWindowsAreWithinIt) {
+  QProcess server;
+  server.start(QStringLiteral("Xvfb"), words({"-displayfd", "1", "-screen", "0", "1024x768x24",
+                                              "-nolisten", "tcp", "-noreset"}));
+  ASSERT_TRUE(server.waitForStarted() && server.waitForReadyRead());
+  const QString name = QLatin1Char(':') + QString::fromUtf8(server.readLine()).trimmed();
+  QProcess program;
+  program.setEnvironment(QProcess::systemEnvironment() +
+                         QStringList{QStringLiteral("DISPLAY=") + name});
+  program.start(QStringLiteral(VELQUON_PROGRAM), {});
+  ASSERT_TRUE(program.waitForStarted());
+  QString places;
+  EXPECT_TRUE(wait_until([&] {
+    places = run_program("xwininfo", words({"-name", "Projector: Empty"}),
+                         {QStringLiteral("DISPLAY=") + name})
+                 .output;
+    return places.contains(QStringLiteral("IsViewable"));
+  })) << places.toStdString();
+  const auto number_behind = [&](const QString& label) {
+    return places.section(label, 1).section(QLatin1Char('\n'), 0, 0).trimmed().toInt();
+  };
+  const int right = number_behind(QStringLiteral("Absolute upper-left X:")) +
+                    number_behind(QStringLiteral("Width:"));
+  EXPECT_GT(right, 470);
+  EXPECT_LE(right, 1024);
+  program.kill();
+  program.waitForFinished();
+  server.terminate();
+  server.waitForFinished();
 }
 
 /// Leaves pictures in a folder that goes with the test.

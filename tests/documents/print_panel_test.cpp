@@ -14,6 +14,7 @@
 #include "support/documents_fixture.h"
 #include "support/event_bytes.h"
 #include "support/modal.h"
+#include "support/other_program.h"
 #include "support/printing.h"
 
 namespace velquon::test {
@@ -140,6 +141,42 @@ TEST_F(PrintPanelTest, PrintsOnThePaperChosen) {
     EXPECT_EQ(line_at(words_of_pdf(dialogs().answer), choice.paper, 675.0),
               QStringLiteral("Projector: event.cwd"));
   }
+}
+
+TEST_F(PrintPanelTest, KeepsThePaperFromOnePrintToTheNext) {
+  for (const char* const paper : {"Letter", "A4"}) {
+    onPanel(chamberWindow(), [&](QWidget& panel) {
+      auto& papers = *panel.findChild<QComboBox*>(QStringLiteral("paper_popup"));
+      papers.setCurrentIndex(papers.findText(QLatin1String(paper), Qt::MatchContains));
+      cancel(panel);
+    });
+    onPanel(projectorWindow(), [&](QWidget& panel) {
+      const auto& papers = *panel.findChild<QComboBox*>(QStringLiteral("paper_popup"));
+      EXPECT_TRUE(papers.currentText().contains(QLatin1String(paper)));
+      cancel(panel);
+    });
+  }
+}
+
+TEST_F(PrintPanelTest, FindsTheTurntableAtRest) {
+  activate(chamberWindow());
+  choose("rotate_item");
+  ASSERT_TRUE(wait_until([&] { return chamber().rotation_steps() > 5; }));
+  bool turned_at_once = true;
+  onPanel(chamberWindow(), [&](QWidget& panel) {
+    turned_at_once = chamber().is_rotating();
+    cancel(panel);
+  });
+  EXPECT_FALSE(turned_at_once);
+  EXPECT_FALSE(chamber().is_rotating());
+}
+
+TEST_F(PrintPanelTest, TitlesAPdfFileAfterTheWindow) {
+  dialogs().answer = path(QStringLiteral("page.pdf"));
+  onPanel(projectorWindow(), [](QWidget& panel) { click(panel, "pdf_button"); });
+  const Ending info = run_program("pdfinfo", {dialogs().answer});
+  EXPECT_TRUE(info.output.contains(QStringLiteral("Projector: event.cwd")))
+      << info.output.toStdString();
 }
 
 TEST_F(PrintPanelTest, SaysWhenThereIsNoPrinter) {

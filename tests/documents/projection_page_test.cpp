@@ -174,6 +174,18 @@ TEST_F(ProjectionPageTest, DoesNotFollowTheScrollBars) {
   expect_squares(print(), {on_paper({}, 50, -100, document_height, a4)});
 }
 
+TEST_F(ProjectionPageTest, IsTheSameFromAnEnlargedWindow) {
+  openEvent(spiral(50));
+  clickButton("tape_tool");
+  drag(projection(), {100, 150}, {250, 210});
+  const PdfPage before = print();
+  projectorWindow().resize(projectorWindow().width() + 100, projectorWindow().height() + 300);
+  ASSERT_TRUE(wait_until([&] { return projection().height() > 650; }));
+  const PdfPage after = print();
+  ASSERT_EQ(after.rectangles.size(), before.rectangles.size());
+  EXPECT_EQ(after.operators, before.operators);
+}
+
 TEST_F(ProjectionPageTest, IsTheSameWhenPrintedAgain) {
   openEvent(spiral(200));
   const PdfPage first = print();

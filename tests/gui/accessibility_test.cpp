@@ -6,6 +6,9 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QScrollBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <cmath>
 
 #include "platform/value_slider.h"
 #include "tests/gui/support/application_fixture.h"
@@ -80,6 +83,25 @@ TEST_F(AccessibilityTest, EveryControlUnderTheViewsIsInTheTabOrder) {
   }
 }
 
+TEST_F(AccessibilityTest, ToolBarButtonsAreInTheTabOrder) {
+  const auto buttons = control<QToolBar>("chamber_tool_bar").findChildren<QToolButton*>();
+  int seen = 0;
+  for (const QToolButton* const button : buttons) {
+    if (button->isVisible()) {
+      EXPECT_TRUE((button->focusPolicy() & Qt::TabFocus) != 0) << button->text().toStdString();
+      ++seen;
+    }
+  }
+  EXPECT_EQ(seen, 5);
+}
+
+TEST_F(AccessibilityTest, TheEnergyRangesHaveALabel) {
+  auto* const ranges = QAccessible::queryAccessibleInterface(&control<QComboBox>("efactor_popup"));
+  const auto labels = ranges->relations(QAccessible::Label);
+  ASSERT_EQ(labels.size(), 1);
+  EXPECT_EQ(labels.front().first->text(QAccessible::Name), QStringLiteral("Range:"));
+}
+
 TEST_F(AccessibilityTest, WindowsAndLabelsAreNamedByTheirText) {
   EXPECT_EQ(accessible_name(chamberWindow()), chamberWindow().windowTitle());
   EXPECT_EQ(accessible_name(projectorWindow()), projectorWindow().windowTitle());
@@ -119,6 +141,10 @@ TEST_F(AccessibilityTest, ValuesSetByAScreenReaderAreMovesOfThePerson) {
   EXPECT_EQ(control<QLabel>("magfield_text").text().toStdString(), "B = 2.500 kG");
   value("magfield_slider").setCurrentValue(99.0);
   EXPECT_EQ(control<ValueSlider>("magfield_slider").floatValue(), 10.0F);
+  for (const double wild : {std::nan(""), HUGE_VAL, -HUGE_VAL}) {
+    value("size_slider").setCurrentValue(wild);
+    EXPECT_EQ(control<ValueSlider>("size_slider").floatValue(), 5.0F);
+  }
   control<QComboBox>("efactor_popup").setCurrentIndex(6);
   value("energy_slider").setCurrentValue(0.0);
   EXPECT_GT(control<ValueSlider>("energy_slider").floatValue(), 0.0F);

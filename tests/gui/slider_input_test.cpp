@@ -130,6 +130,17 @@ TEST_F(SliderInputTest, TheWheelMovesByTenthsOfATick) {
   }
 }
 
+TEST_F(SliderInputTest, TheWheelBesideTheKeysDoesNotChangeTheEnergyRange) {
+  auto& ranges = control<QComboBox>("efactor_popup");
+  slider("magfield_slider").setFocus();
+  turn_wheel(ranges, 1);
+  EXPECT_EQ(ranges.currentIndex(), 4);
+  EXPECT_EQ(slider("energy_slider").floatValue(), 0.4F);
+  ranges.setFocus();
+  turn_wheel(ranges, 1);
+  EXPECT_EQ(ranges.currentIndex(), 3);
+}
+
 TEST_F(SliderInputTest, MovesOfAPersonStayInTheRangeAfterAValueFromOutside) {
   controller().settings().setFieldControl(12.0F);
   QTest::keyClick(&slider("magfield_slider"), Qt::Key_Left);

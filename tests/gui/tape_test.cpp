@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QTest>
+#include <cstdlib>
 
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
@@ -52,6 +53,26 @@ TEST_F(TapeTest, ReadsAHundredUnitsAtEachZoomAlongAnyDirection) {
     drag(projection(), {300, 250}, {240, 330});
     EXPECT_EQ(reading(), text);
   }
+}
+
+TEST_F(TapeTest, RoundsAsPrintfDoes) {
+  clickButton("zoom_2");
+  drag(projection(), {100, 100}, {201, 100});
+  EXPECT_EQ(reading(), "D = 63.12 cm") << "63.125, to the even digit";
+  drag(projection(), {100, 100}, {203, 100});
+  EXPECT_EQ(reading(), "D = 64.38 cm") << "64.375";
+}
+
+TEST_F(TapeTest, StaysOnWhatItMeasuredWhenTheWindowGrows) {
+  drag(projection(), {100, 100}, {200, 140});
+  const QRect before = extent_of(redPixels());
+  projectorWindow().resize(projectorWindow().width(), projectorWindow().height() + 200);
+  ASSERT_TRUE(wait_until([&] { return projection().height() >= 600; }));
+  // The picture hangs from the top, and so does the tape.
+  const QRect after = extent_of(redPixels());
+  EXPECT_EQ(after.left(), before.left());
+  EXPECT_LE(std::abs(after.top() - before.top()), 1);
+  EXPECT_EQ(reading(), "D = 134.63 cm");
 }
 
 TEST_F(TapeTest, AFrameWideTapeReadsTheSideAtEveryZoom) {

@@ -35,6 +35,21 @@ class TurntableTest : public ApplicationFixture {
     ApplicationFixture::SetUp();
     hideAxesAndValues();
     showEvent(marks_);
+    waitUntilTheKeysRest();
+  }
+
+  /// A window manager may still move the keys about when windows have just come and gone.
+  void waitUntilTheKeysRest() {
+    constexpr qint64 calm = 100;  // milliseconds
+    QElapsedTimer since;
+    since.start();
+    ASSERT_TRUE(wait_until([&] {
+      if (!chamberWindow().isActiveWindow()) {
+        chamberWindow().activateWindow();
+        since.restart();
+      }
+      return since.elapsed() > calm;
+    }));
   }
 
   [[nodiscard]] bool waitForSteps(std::int64_t count) {

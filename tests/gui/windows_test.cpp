@@ -5,9 +5,11 @@
 #include <QTimer>
 #include <csignal>
 
+#include "app/track_window.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/pictures.h"
 #include "tests/gui/support/waiting.h"
+#include "track/track_controller.h"
 
 namespace velquon::test {
 
@@ -151,6 +153,59 @@ TEST_F(WindowsTest, AMinimizedWindowComesBack) {
   choose("projector_window_item");
   EXPECT_TRUE(wait_until([&] { return !projectorWindow().isMinimized(); }));
   expectActive(projectorWindow());
+}
+
+TEST_F(WindowsTest, AMaximizedWindowComesBackMaximized) {
+  projectorWindow().showMaximized();
+  ASSERT_TRUE(wait_until([&] { return projectorWindow().isMaximized(); }));
+  projectorWindow().showMinimized();
+  ASSERT_TRUE(wait_until([&] { return projectorWindow().isMinimized(); }));
+  choose("projector_window_item");
+  EXPECT_TRUE(wait_until([&] { return !projectorWindow().isMinimized(); }));
+  EXPECT_TRUE(projectorWindow().isMaximized());
+}
+
+TEST_F(WindowsTest, DeactivatingTheLastWindowBringsTheChamberBack) {
+  choose("activate_item");
+  expectActive(application().trackWindow());
+  projectorWindow().close();
+  chamberWindow().close();
+  choose("activate_item");
+  EXPECT_FALSE(application().trackWindow().isVisible());
+  EXPECT_TRUE(chamberWindow().isVisible());
+  expectActive(chamberWindow());
+}
+
+TEST_F(WindowsTest, AMinimizedTrackWindowIsActivatedAgain) {
+  choose("activate_item");
+  expectActive(application().trackWindow());
+  application().trackWindow().showMinimized();
+  ASSERT_TRUE(wait_until([&] { return application().trackWindow().isMinimized(); }));
+  choose("activate_item");
+  EXPECT_FALSE(application().trackWindow().isVisible());
+  choose("activate_item");
+  EXPECT_TRUE(wait_until([&] { return !application().trackWindow().isMinimized(); }));
+  expectActive(application().trackWindow());
+  EXPECT_TRUE(application().trackWindow().controller().activated());
+}
+
+TEST_F(WindowsTest, EveryCharacterOfANameStandsForItself) {
+  controller().renameWindows(QStringLiteral("ok[*]x.cwd"));
+  EXPECT_EQ(chamberWindow().title(), QStringLiteral("Particle Chamber: ok[*]x.cwd"));
+  // What the desktop shows; a doubled mark is one.
+  EXPECT_TRUE(wait_until([&] {
+    return chamberWindow().windowHandle()->title().startsWith(
+        QStringLiteral("Particle Chamber: ok[*]x.cwd"));
+  })) << chamberWindow().windowHandle()->title().toStdString();
+}
+
+TEST_F(WindowsTest, AWildValueOfAFileDoesNotWidenTheWindow) {
+  const int width = chamberWindow().width();
+  controller().settings().setSidesControl(3.0e38F);
+  controller().settings().setFieldControl(1.0e30F);
+  controller().settings().setEnergyControl(1.0e30F);
+  run_loop_for(50);
+  EXPECT_EQ(chamberWindow().width(), width);
 }
 
 TEST_F(WindowsTest, AClosedWindowKeepsItsPicture) {

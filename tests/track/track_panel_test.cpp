@@ -92,6 +92,27 @@ TEST(TrackPanel, ItsButtonsStandForTheMenuItems) {
   EXPECT_FALSE(rig.panel->clear_button()->isEnabled());
 }
 
+TEST(TrackPanel, TheKeysComeBackToInjectAndDoNotGoOnToClear) {
+  TrackRig rig;
+  rig.activate();
+  rig.panel->inject_button()->setFocus();
+  QTest::keyClick(rig.window->focusWidget(), Qt::Key_Space);
+  ASSERT_TRUE(rig.view->is_tracking());
+  EXPECT_FALSE(rig.panel->clear_button()->hasFocus());
+  ASSERT_TRUE(rig.waitForEnd());
+  EXPECT_TRUE(rig.panel->inject_button()->hasFocus());
+}
+
+TEST(TrackPanel, TheKeysStayWhereTheyWereTakenDuringARun) {
+  TrackRig rig;
+  rig.activate();
+  rig.panel->inject_button()->setFocus();
+  QTest::keyClick(rig.window->focusWidget(), Qt::Key_Space);
+  rig.slider->setFocus();
+  ASSERT_TRUE(rig.waitForEnd());
+  EXPECT_TRUE(rig.slider->hasFocus());
+}
+
 TEST(TrackPanel, CutsNoTextOff) {
   TrackRig rig;
   rig.activate();

@@ -1,0 +1,11 @@
+#pragma once
+
+class QWidget;
+
+namespace velquon {
+
+/// Lets a control turn by the wheel only while the keys go to it, so that scrolling past it changes
+/// nothing.
+void take_wheel_only_with_focus(QWidget& control);
+
+}  // namespace velquon
