@@ -8,6 +8,7 @@
 #include <chrono>
 #include <cmath>
 
+#include "platform/clock.h"
 #include "platform/cursors.h"
 #include "platform/value_slider.h"
 #include "track/main_thread_call.h"
@@ -21,6 +22,13 @@ namespace {
 constexpr double snapping_distance = 0.005;
 
 constexpr QPoint hot_spot{7, 7};
+
+// A run that is later than that, after the program stood still for a while, does not catch up.
+constexpr std::uint64_t most_lateness = 250'000;  // microseconds
+
+std::uint64_t microseconds_of(const QTimer& timer) {
+  return static_cast<std::uint64_t>(timer.interval()) * 1000;
+}
 
 std::chrono::milliseconds milliseconds_of(double seconds) {
   return std::chrono::milliseconds(std::lround(seconds * 1000.0));
@@ -83,8 +91,9 @@ void NewTrackView::startTracking() {
   auto timer = std::make_unique<QTimer>();
   timer->setTimerType(Qt::PreciseTimer);
   timer->setInterval(milliseconds_of(timerSecs_));
-  connect(timer.get(), &QTimer::timeout, this, [this] { TrackWithTimer(trackTimer_.get()); });
+  connect(timer.get(), &QTimer::timeout, this, [this] { makeStepsDue(); });
   setTrackTimer(std::move(timer));
+  next_step_at_ = Microseconds() + microseconds_of(*trackTimer_);
   trackTimer_->start();
 }
 
@@ -97,6 +106,19 @@ void NewTrackView::prepareForTracking() {
 
 void NewTrackView::setTrackTimer(std::unique_ptr<QTimer> timer) {
   trackTimer_ = std::move(timer);
+}
+
+void NewTrackView::makeStepsDue() {
+  // What it costs to bring a picture to the screen does not slow the particle down: the firings
+  // that were lost meanwhile are made up for.
+  const std::uint64_t now = Microseconds();
+  if (now > next_step_at_ + most_lateness) {
+    next_step_at_ = now;
+  }
+  do {
+    next_step_at_ += microseconds_of(*trackTimer_);
+    TrackWithTimer(trackTimer_.get());
+  } while (trackTimer_->isActive() && next_step_at_ <= now);
 }
 
 void NewTrackView::TrackWithTimer(QTimer* timer) {

@@ -103,6 +103,7 @@ class NewTrackView : public GLView {
   void trackOnScreen(const std::stop_token& given_up);
   void setTracking(bool tracking);
   void takeField(double field);
+  void makeStepsDue();
   void step();
   void endRun();
   void redraw();
@@ -125,6 +126,7 @@ class NewTrackView : public GLView {
   QPointF tape_start_point_;
   QPointF tape_end_point_;
   std::unique_ptr<QTimer> trackTimer_;
+  std::uint64_t next_step_at_ = 0;  ///< microseconds
   std::jthread injection_;  ///< ends before anything that it uses
 };
 
