@@ -19,9 +19,9 @@
 #include "chamber/cube_array.h"
 #include "platform/surface_format.h"
 
-namespace {
+namespace velquon::bench {
 
-using namespace velquon;
+namespace {
 
 constexpr int repetitions = 21;
 constexpr double shortest_time = 0.05;  // seconds of one repetition
@@ -49,14 +49,14 @@ void empty_passes(benchmark::State& state) {
 }
 
 void array_passes(benchmark::State& state) {
-  const auto points = bench::points_on_tracks(static_cast<int>(state.range()));
+  const auto points = points_on_tracks(static_cast<int>(state.range()));
   CubeArray cubes;
   cubes.build(points, screen_cube_side);
   draw_passes(state, [&] { cubes.draw(points.size()); });
 }
 
 void glut_passes(benchmark::State& state) {
-  const auto points = bench::points_on_tracks(static_cast<int>(state.range()));
+  const auto points = points_on_tracks(static_cast<int>(state.range()));
   draw_passes(state, [&] { draw_solid_cubes(points, screen_cube_side, false); });
 }
 
@@ -85,9 +85,7 @@ class Canvas {
   bool ready_ = false;
 };
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
   use_compatibility_contexts();
   const QGuiApplication application(argc, argv);
   glutInit(&argc, argv);
@@ -107,8 +105,6 @@ int main(int argc, char** argv) {
         ->MeasureProcessCPUTime()
         ->MinTime(shortest_time);
   }
-  using velquon::bench::Bound;
-  using velquon::bench::Medians;
   // How many times as fast in processor time of all threads, which on an idle machine is the time
   // on the clock.
   const auto gain = [](const Medians& medians, const std::string& points) {
@@ -125,18 +121,25 @@ int main(int argc, char** argv) {
     return (medians.of("glut/" + points, "processor time") - empty) /
            (medians.of("array/" + points, "processor time") - empty);
   };
-  return velquon::bench::run_benchmarks(
-      argc, argv, repetitions,
-      {{"drawing 350 points, times a cube a GLUT call", Bound::at_least, 8.0,
-        [=](const Medians& m) { return gain(m, "350"); }},
-       {"a pass without points, times 350 by a cube a GLUT call", Bound::none, 0.0,
-        [=](const Medians& m) { return most(m, "350"); }},
-       {"the 350 points alone, times a cube a GLUT call", Bound::none, 0.0,
-        [=](const Medians& m) { return gain_of_points(m, "350"); }},
-       {"drawing 5000 points, times a cube a GLUT call", Bound::at_least, 4.0,
-        [=](const Medians& m) { return gain(m, "5000"); }},
-       {"the 5000 points alone, times a cube a GLUT call", Bound::none, 0.0,
-        [=](const Medians& m) { return gain_of_points(m, "5000"); }},
-       {"drawing passes a second with 5000 points", Bound::at_least, 180.0,
-        [=](const Medians& m) { return m.of("array/5000", "passes/s"); }}});
+  return run_benchmarks(argc, argv, repetitions,
+                        {{"drawing 350 points, times a cube a GLUT call", Bound::at_least, 8.0,
+                          [=](const Medians& m) { return gain(m, "350"); }},
+                         {"a pass without points, times 350 by a cube a GLUT call", Bound::none,
+                          0.0, [=](const Medians& m) { return most(m, "350"); }},
+                         {"the 350 points alone, times a cube a GLUT call", Bound::none, 0.0,
+                          [=](const Medians& m) { return gain_of_points(m, "350"); }},
+                         {"drawing 5000 points, times a cube a GLUT call", Bound::at_least, 4.0,
+                          [=](const Medians& m) { return gain(m, "5000"); }},
+                         {"the 5000 points alone, times a cube a GLUT call", Bound::none, 0.0,
+                          [=](const Medians& m) { return gain_of_points(m, "5000"); }},
+                         {"drawing passes a second with 5000 points", Bound::at_least, 180.0,
+                          [=](const Medians& m) { return m.of("array/5000", "passes/s"); }}});
+}
+
+}  // namespace
+
+}  // namespace velquon::bench
+
+int main(int argc, char** argv) {
+  return velquon::bench::run(argc, argv);
 }

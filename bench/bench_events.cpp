@@ -14,9 +14,9 @@
 #include "events/event_types.h"
 #include "tools/csv_writer.h"
 
-namespace {
+namespace velquon::bench {
 
-using namespace velquon;
+namespace {
 
 constexpr int batch = 1000;
 constexpr int repetitions = 21;
@@ -90,9 +90,7 @@ std::string name_of(const std::string& what, std::size_t type, const std::string
   return what + "/" + std::string(event_types()[type].key) + "/" + values;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
   struct Setting {
     const char* name;
     ChamberValues values;
@@ -110,12 +108,10 @@ int main(int argc, char** argv) {
         [type](benchmark::State& state) { generation_and_text(state, type, {}); });
   }
 
-  using velquon::bench::Bound;
-  using velquon::bench::Medians;
   const auto rate = [](const Medians& medians, const std::string& what, std::size_t type) {
     return medians.of(name_of(what, type, "start-up"), "events/s");
   };
-  std::vector<velquon::bench::Requirement> requirements{
+  std::vector<Requirement> requirements{
       {"pion events a second, one core, start-up values", Bound::at_least, 100'000.0,
        [=](const Medians& medians) { return rate(medians, "make", positive_pion); }}};
   for (std::size_t type = 0; type < event_types().size(); ++type) {
@@ -130,5 +126,13 @@ int main(int argc, char** argv) {
                               return rate(medians, "make+csv", type) / rate(medians, "make", type);
                             }});
   }
-  return velquon::bench::run_benchmarks(argc, argv, repetitions, requirements);
+  return run_benchmarks(argc, argv, repetitions, requirements);
+}
+
+}  // namespace
+
+}  // namespace velquon::bench
+
+int main(int argc, char** argv) {
+  return velquon::bench::run(argc, argv);
 }

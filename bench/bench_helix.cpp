@@ -11,9 +11,9 @@
 #include "bench/requirement.h"
 #include "engine/charged_track.h"
 
-namespace {
+namespace velquon::bench {
 
-using namespace velquon;
+namespace {
 
 constexpr std::int16_t points = event_point_limit;
 constexpr double bound = 404.0;
@@ -61,7 +61,7 @@ void walk(benchmark::State& state) {
 void floor_of_the_walk(benchmark::State& state) {
   std::vector<PlotPoint> event(points + 1);
   for ([[maybe_unused]] auto _ : state) {
-    const std::size_t stored = bench::store_points(event, 1.0, -0.2, bound);
+    const std::size_t stored = store_points(event, 1.0, -0.2, bound);
     benchmark::DoNotOptimize(event.data());
     benchmark::ClobberMemory();
     if (stored != event.size()) {
@@ -74,19 +74,23 @@ void floor_of_the_walk(benchmark::State& state) {
       benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
   for (benchmark::internal::Benchmark* const measured :
        {benchmark::RegisterBenchmark("helix", walk),
         benchmark::RegisterBenchmark("floor", floor_of_the_walk)}) {
     measured->Unit(benchmark::kMicrosecond)->MinTime(shortest_time);
   }
-  using velquon::bench::Bound;
-  using velquon::bench::Medians;
-  return velquon::bench::run_benchmarks(
+  return run_benchmarks(
       argc, argv, repetitions,
       {{"point of a long helix, times the floor", Bound::at_most, 1.15, [](const Medians& medians) {
           return medians.of("helix", "ns/point") / medians.of("floor", "ns/point");
         }}});
+}
+
+}  // namespace
+
+}  // namespace velquon::bench
+
+int main(int argc, char** argv) {
+  return velquon::bench::run(argc, argv);
 }

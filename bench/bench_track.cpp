@@ -31,9 +31,9 @@
 #include "track/track_panel.h"
 #include "ui_menus.h"
 
-namespace {
+namespace velquon::bench {
 
-using namespace velquon;
+namespace {
 
 constexpr int repetitions = 15;
 constexpr int timed_steps = 150;
@@ -59,7 +59,7 @@ void make_steps(NewTrackView& view, int points) {
 void inject(Application& application) {
   const NewTrackView& view = *application.trackWindow().panel().track_view();
   application.menus().items().inject_item->trigger();
-  bench::run_event_loop_until(
+  run_event_loop_until(
       [&] { return view.trackTimer() != nullptr && view.trackTimer()->isActive(); });
 }
 
@@ -80,15 +80,15 @@ void step(benchmark::State& state, Application& application) {
   }
   make_steps(view, points - 1);
   view.show();
-  bench::run_event_loop(100);
+  run_event_loop(100);
   make_steps(view, points);
 
   std::vector<double> step_seconds;
   for ([[maybe_unused]] auto _ : state) {
     const int passes = view.passes();
-    const double start = bench::processor_seconds();
+    const double start = processor_seconds();
     view.TrackWithTimer(nullptr);
-    step_seconds.push_back(bench::processor_seconds() - start);
+    step_seconds.push_back(processor_seconds() - start);
     state.SetIterationTime(step_seconds.back());
     if (view.passes() != passes + 1) {
       state.SkipWithError("a step did not draw");
@@ -120,7 +120,7 @@ void fly(benchmark::State& state, Application& application) {
   for ([[maybe_unused]] auto _ : state) {
     const int before = view.simulation().show_points();
     const auto start = std::chrono::steady_clock::now();
-    bench::run_event_loop(flight);
+    run_event_loop(flight);
     const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
     state.SetIterationTime(time.count());
     state.counters["steps/s"] = (view.simulation().show_points() - before) / time.count();
@@ -131,9 +131,7 @@ void fly(benchmark::State& state, Application& application) {
   view.show();
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
   if (const std::string missing = missing_for_windows(); !missing.empty()) {
     std::fprintf(stderr, "bench_track: %s\n", missing.c_str());
     return 1;
@@ -146,11 +144,11 @@ int main(int argc, char** argv) {
   Application application(1, dialogs);
   application.showWindows();
   application.menus().items().activate_item->trigger();
-  bench::run_event_loop_until([&] {
+  run_event_loop_until([&] {
     const QWindow* const window = application.trackWindow().windowHandle();
     return window != nullptr && window->isExposed();
   });
-  bench::run_event_loop(200);
+  run_event_loop(200);
 
   const auto step_it = [&application](benchmark::State& state) { step(state, application); };
   benchmark::RegisterBenchmark("step", step_it)
@@ -164,10 +162,8 @@ int main(int argc, char** argv) {
       ->Unit(benchmark::kMillisecond)
       ->UseManualTime()
       ->Iterations(1);
-  using velquon::bench::Bound;
-  using velquon::bench::Medians;
   constexpr double nominal_steps = 200.0;  // a second
-  return velquon::bench::run_benchmarks(
+  return run_benchmarks(
       argc, argv, repetitions,
       {{"track step after 9000 points, times one after 100", Bound::at_most, 1.1,
         [](const Medians& m) {
@@ -175,4 +171,12 @@ int main(int argc, char** argv) {
         }},
        {"track steps at the fastest speed, share of 200 a second", Bound::none, 0.0,
         [](const Medians& m) { return m.of("fly", "steps/s") / nominal_steps; }}});
+}
+
+}  // namespace
+
+}  // namespace velquon::bench
+
+int main(int argc, char** argv) {
+  return velquon::bench::run(argc, argv);
 }

@@ -25,9 +25,9 @@
 #include "chamber/chamber_view.h"
 #include "ui_menus.h"
 
-namespace {
+namespace velquon::bench {
 
-using namespace velquon;
+namespace {
 
 constexpr int repetitions = 3;
 constexpr double nominal_steps = 200.0;  // a second, at the fastest rate
@@ -37,27 +37,27 @@ constexpr int counting_time = 3000;      // milliseconds
 void turn(benchmark::State& state, Application& application) {
   ChamberView& view = *application.chamberWindow().view();
   const Ui::Menus& items = application.menus().items();
-  view.setData(bench::points_on_tracks(static_cast<int>(state.range())));
+  view.setData(points_on_tracks(static_cast<int>(state.range())));
   view.setHasEvent(true);
   items.rotate_faster_item->trigger();
   items.rotate_item->trigger();
-  bench::run_event_loop(settling_time);
+  run_event_loop(settling_time);
 
   double seconds = 0.0;
   double processor = 0.0;
   double steps = 0.0;
   double frames = 0.0;
   for ([[maybe_unused]] auto _ : state) {
-    const double processor_start = bench::processor_seconds();
+    const double processor_start = processor_seconds();
     const std::int64_t first_step = view.rotation_steps();
     const int first_frame = view.passes();
     QElapsedTimer clock;
     clock.start();
-    bench::run_event_loop(counting_time);
+    run_event_loop(counting_time);
     seconds += static_cast<double>(clock.nsecsElapsed()) * 1e-9;
     steps += static_cast<double>(view.rotation_steps() - first_step);
     frames += view.passes() - first_frame;
-    processor += bench::processor_seconds() - processor_start;
+    processor += processor_seconds() - processor_start;
   }
   view.stopRotating();
   if (frames > steps) {
@@ -68,9 +68,7 @@ void turn(benchmark::State& state, Application& application) {
   state.counters["processors"] = processor / seconds;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
   if (const std::string missing = missing_for_windows(); !missing.empty()) {
     std::fprintf(stderr, "bench_turntable: %s\n", missing.c_str());
     return 1;
@@ -82,8 +80,7 @@ int main(int argc, char** argv) {
   DesktopDialogs dialogs;
   Application application(1, dialogs);
   application.showWindows();
-  velquon::bench::run_event_loop_until(
-      [&] { return application.chamberWindow().windowHandle()->isExposed(); });
+  run_event_loop_until([&] { return application.chamberWindow().windowHandle()->isExposed(); });
   const auto turn_it = [&application](benchmark::State& state) { turn(state, application); };
   benchmark::RegisterBenchmark("turn", turn_it)
       ->Arg(350)
@@ -91,12 +88,18 @@ int main(int argc, char** argv) {
       ->Unit(benchmark::kMillisecond)
       ->UseRealTime()
       ->Iterations(1);
-  using velquon::bench::Bound;
-  using velquon::bench::Medians;
-  return velquon::bench::run_benchmarks(
+  return run_benchmarks(
       argc, argv, repetitions,
       {{"turntable steps with 350 points, share of 200 a second", Bound::at_least, 0.95,
         [](const Medians& m) { return m.of("turn/350", "steps/s") / nominal_steps; }},
        {"turntable steps with 5000 points, share of 200 a second", Bound::at_least, 0.95,
         [](const Medians& m) { return m.of("turn/5000", "steps/s") / nominal_steps; }}});
+}
+
+}  // namespace
+
+}  // namespace velquon::bench
+
+int main(int argc, char** argv) {
+  return velquon::bench::run(argc, argv);
 }

@@ -93,7 +93,7 @@ std::string take_option(int& argc, char** argv, std::string_view name) {
   if (found == end) {
     return {};
   }
-  const std::string value = std::string(*found).substr(start.size());
+  std::string value = std::string(*found).substr(start.size());
   std::rotate(found, found + 1, end);
   --argc;
   return value;

@@ -1,7 +1,6 @@
 // What the program answers to its command line, as a shell sees it.
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <QDir>
 #include <QImage>
@@ -11,6 +10,7 @@
 #include "gui/support/pictures.h"
 #include "gui/support/waiting.h"
 #include "support/other_program.h"
+#include "tests/support/file_size_limit.h"
 
 namespace velquon::test {
 
@@ -54,7 +54,7 @@ TEST(CommandLine, GivesTheFileItsPathFromTheRoot) {
   EXPECT_EQ(parsed(words({"/tmp/event.cwd"})).options->file, QStringLiteral("/tmp/event.cwd"));
 }
 
-class HostileArguments : public testing::TestWithParam<QStringList> {};
+class HostileArguments : public ::testing::TestWithParam<QStringList> {};
 
 TEST_P(HostileArguments, EndTheProgramWithStatus2AndOneLine) {
   const Ending ending = start(GetParam());
@@ -67,14 +67,13 @@ TEST_P(HostileArguments, EndTheProgramWithStatus2AndOneLine) {
   EXPECT_FALSE(ending.errors.contains(QChar(0x1B)));
 }
 
-INSTANTIATE_TEST_SUITE_P(CommandLine, HostileArguments,
-                         testing::Values(words({"--seed"}), words({"--seed", "-1"}),
-                                         words({"--seed", "4294967296"}), words({"--seed", "1.5"}),
-                                         words({"--seed", ""}), words({"--bogus"}),
-                                         words({"--bo\ngus\x1b[31m"}), words({"a.cwd", "b.cwd"}),
-                                         words({"--pictures"}), words({"--pictures="}),
-                                         words({"--pictures", "folder", "a.cwd"}),
-                                         words({"--seed", "1\n\x1b[31m"})));
+INSTANTIATE_TEST_SUITE_P(
+    CommandLine, HostileArguments,
+    ::testing::Values(words({"--seed"}), words({"--seed", "-1"}), words({"--seed", "4294967296"}),
+                      words({"--seed", "1.5"}), words({"--seed", ""}), words({"--bogus"}),
+                      words({"--bo\ngus\x1b[31m"}), words({"a.cwd", "b.cwd"}),
+                      words({"--pictures"}), words({"--pictures="}),
+                      words({"--pictures", "folder", "a.cwd"}), words({"--seed", "1\n\x1b[31m"})));
 
 TEST(CommandLine, HelpAndVersionGoToStandardOutput) {
   for (const char* const word : {"--help", "-h", "--version", "-v"}) {
@@ -144,7 +143,7 @@ TEST(CommandLine, OnANarrowScreenBothWindowsAreWithinIt) {
 }
 
 /// Leaves pictures in a folder that goes with the test.
-class PicturesTest : public testing::Test {
+class PicturesTest : public ::testing::Test {
  protected:
   [[nodiscard]] QString folder() const { return folder_.filePath(QStringLiteral("pictures")); }
   [[nodiscard]] QStringList files() const {
@@ -181,12 +180,8 @@ TEST_F(PicturesTest, ShowEachViewOfAnEventOfEachKind) {
 }
 
 TEST_F(PicturesTest, ThatDoNotFitOnTheDiskAreNamedAndNotLeftByHalves) {
-  rlimit before{};
-  ::getrlimit(RLIMIT_FSIZE, &before);
-  const rlimit limited{3000, before.rlim_max};
-  ::setrlimit(RLIMIT_FSIZE, &limited);
+  const velquon::testing::FileSizeLimit limit(3000);
   const Ending ending = leavePictures();
-  ::setrlimit(RLIMIT_FSIZE, &before);
   EXPECT_EQ(ending.status, 1);
   EXPECT_TRUE(ending.errors.contains(QStringLiteral("velquon: cannot write ")))
       << ending.errors.toStdString();

@@ -112,7 +112,7 @@ TEST_F(DesktopDialogsTest, FilesAreOfferedByTheirEndingInItsCase) {
     makeFile(QLatin1String(name));
   }
   struct Offer {
-    const char* filter;
+    const char* filter = nullptr;
     QStringList files;
   };
   const auto names = [](std::initializer_list<const char*> list) {

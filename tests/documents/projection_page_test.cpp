@@ -82,6 +82,7 @@ TEST_F(ProjectionPageTest, HasAGrayFrameAndASquareForEachPointOnEitherPaper) {
   for (const Paper& paper : {a4, letter}) {
     SCOPED_TRACE(paper.size.width());
     std::vector<QPointF> middles;
+    middles.reserve(points.size());
     for (const PlotPoint& point : points) {
       middles.push_back(on_paper({}, point.coords[1], -point.coords[0], height, paper));
     }

@@ -1,39 +1,15 @@
 #include <QAction>
 #include <QDir>
-#include <csignal>
 
-#include <sys/resource.h>
 #include <unistd.h>
 
 #include "support/documents_fixture.h"
 #include "support/event_bytes.h"
+#include "tests/support/file_size_limit.h"
 
 namespace velquon::test {
 
 namespace {
-
-/// While it lives no file can grow beyond a size, as on a full disk.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t bytes) {
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limited{bytes, before_.rlim_max};
-    handler_ = std::signal(SIGXFSZ, SIG_IGN);
-    ::setrlimit(RLIMIT_FSIZE, &limited);
-  }
-  ~FileSizeLimit() {
-    ::setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-  FileSizeLimit(FileSizeLimit&&) = delete;
-  FileSizeLimit& operator=(FileSizeLimit&&) = delete;
-
- private:
-  rlimit before_{};
-  void (*handler_)(int) = SIG_DFL;
-};
 
 RecordingDialogs::Alert not_saved(const QString& path, const char* reason) {
   return {
@@ -57,14 +33,14 @@ class SaveFailureTest : public DocumentsFixture {
 };
 
 /// Sizes of events whose files are written at the first call or kept back until the last.
-class FullDiskTest : public SaveFailureTest, public testing::WithParamInterface<int> {};
+class FullDiskTest : public SaveFailureTest, public ::testing::WithParamInterface<int> {};
 
 TEST_P(FullDiskTest, LeavesTheOldFileAndNoOther) {
   const QString file = write(QStringLiteral("a.cwd"), event_file(spiral(2)));
   controller().setChamberData(spiral(GetParam()));
   const QByteArray before = read(file);
   {
-    const FileSizeLimit limit(1000);
+    const velquon::testing::FileSizeLimit limit(1000);
     expectFailure(file, "File too large");
   }
   EXPECT_EQ(read(file), before);
@@ -74,13 +50,13 @@ TEST_P(FullDiskTest, LeavesTheOldFileAndNoOther) {
 TEST_P(FullDiskTest, LeavesNothingOfANewFile) {
   controller().setChamberData(spiral(GetParam()));
   {
-    const FileSizeLimit limit(1000);
+    const velquon::testing::FileSizeLimit limit(1000);
     expectFailure(path(QStringLiteral("new.cwd")), "File too large");
   }
   EXPECT_TRUE(filesInFolder().isEmpty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Points, FullDiskTest, testing::Values(50, 350, 5000));
+INSTANTIATE_TEST_SUITE_P(Points, FullDiskTest, ::testing::Values(50, 350, 5000));
 
 TEST_F(SaveFailureTest, AFolderThatIsMissing) {
   makeEvent(0);

@@ -1,7 +1,6 @@
 #include "files/atomic_file.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -12,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/file_size_limit.h"
 #include "tests/support/temporary_folder.h"
 
 namespace velquon {
@@ -19,6 +19,7 @@ namespace {
 
 using testing::file_bytes;
 using testing::file_text;
+using testing::FileSizeLimit;
 using testing::TemporaryFolder;
 using Bytes = std::vector<std::byte>;
 using Names = std::vector<std::string>;
@@ -34,27 +35,6 @@ Bytes bytes_of(std::size_t size, unsigned first = 0) {
 void write_text(const std::filesystem::path& path, const std::string& text) {
   std::ofstream(path) << text;
 }
-
-/// While one lives, no file of this process can grow beyond a size, and trying to gives an error.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t size) : old_handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    ::getrlimit(RLIMIT_FSIZE, &old_limit_);
-    const rlimit limit{size, old_limit_.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FileSizeLimit() {
-    ::setrlimit(RLIMIT_FSIZE, &old_limit_);
-    std::signal(SIGXFSZ, old_handler_);
-  }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
- private:
-  using Handler = void (*)(int);
-  Handler old_handler_;
-  rlimit old_limit_{};
-};
 
 TEST(AtomicFile, WritesANewFileWhole) {
   for (const std::size_t size : {0U, 1U, 123U, 300000U}) {

@@ -148,6 +148,7 @@ TEST_F(ChamberPictureTest, NoColorOfAPointIsFarFromAnyPoint) {
   std::mt19937 random(1);
   std::uniform_real_distribution<double> coordinate(-395.0, 395.0);
   std::vector<PlotPoint> points;
+  points.reserve(60);
   for (int i = 0; i < 60; ++i) {
     points.push_back(point_at(coordinate(random), coordinate(random), coordinate(random),
                               static_cast<std::int16_t>(3 + i % 5)));

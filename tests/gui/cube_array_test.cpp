@@ -32,7 +32,7 @@ class CubeArrayTest : public ApplicationFixture {
     glClear(GL_COLOR_BUFFER_BIT);
     draw_chamber_frame(chamber().show_axes());
     draw_solid_cubes(chamber().data_ptr(), screen_cube_side, false);
-    const QImage picture = target.toImage().convertToFormat(QImage::Format_RGB32);
+    QImage picture = target.toImage().convertToFormat(QImage::Format_RGB32);
     target.release();
     chamber().doneCurrent();
     return picture;
@@ -43,6 +43,7 @@ class CubeArrayTest : public ApplicationFixture {
     std::uniform_real_distribution<double> coordinate(-400.0, 400.0);
     std::uniform_int_distribution<int> code(2, 7);
     std::vector<PlotPoint> points;
+    points.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
       points.push_back(point_at(coordinate(random), coordinate(random), coordinate(random),
                                 static_cast<std::int16_t>(code(random))));
@@ -79,6 +80,7 @@ TEST_F(CubeArrayTest, PicturesAgreeAtAnyOrientation) {
 
 TEST_F(CubeArrayTest, PicturesAgreeForPointsUponEachOther) {
   std::vector<PlotPoint> points;
+  points.reserve(350);
   for (int i = 0; i < 350; ++i) {
     points.push_back(point_at(i % 7, 30.0 + i % 5, i % 3, static_cast<std::int16_t>(3 + i % 5)));
   }
