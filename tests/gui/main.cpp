@@ -7,26 +7,7 @@
 
 #include "app/desktop.h"
 #include "app/x_display.h"
-
-#if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/lsan_interface.h>
-
-const char* __lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identifier)
-  return "leak:libfontconfig\n";
-}
-#endif
-
-namespace {
-
-/// Looks for leaks while the graphics driver is loaded: at the program's end it is no longer, and
-/// what it never frees would be taken for a leak.
-void look_for_leaks() {
-#if defined(__SANITIZE_ADDRESS__)
-  __lsan_do_leak_check();
-#endif
-}
-
-}  // namespace
+#include "tests/support/leaks.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
@@ -44,6 +25,6 @@ int main(int argc, char** argv) {
     std::fputs("the filter leaves no test to run\n", stderr);
     result = 1;
   }
-  look_for_leaks();
+  velquon::testing::look_for_leaks();
   return result;
 }

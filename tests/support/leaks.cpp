@@ -1,0 +1,19 @@
+#include "tests/support/leaks.h"
+
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/lsan_interface.h>
+
+const char* __lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identifier)
+  return "leak:libfontconfig\n";
+}
+#endif
+
+namespace velquon::testing {
+
+void look_for_leaks() {
+#if defined(__SANITIZE_ADDRESS__)
+  __lsan_do_leak_check();
+#endif
+}
+
+}  // namespace velquon::testing
