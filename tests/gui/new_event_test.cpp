@@ -61,7 +61,7 @@ class NewEventTest : public ApplicationFixture {
 
 TEST_F(NewEventTest, EventsOfEachTypeAreThoseOfTheEngine) {
   constexpr float side = 333.3F;
-  const float metres = static_cast<float>(static_cast<double>(side) * 0.01);
+  const auto metres = static_cast<float>(static_cast<double>(side) * 0.01);
   controller().settings().setFieldControl(1.7F);
   controller().settings().setSidesControl(side);
   controller().settings().setEnergyControl(60.0F);

@@ -127,6 +127,7 @@ TEST_F(ProjectionTest, PointsAreAtTheirPlacesInEachPlaneAndZoom) {
   for (const auto& [plane, point] : planes) {
     clickButton(plane);
     std::vector<PlotPoint> points;
+    points.reserve(places.size());
     for (const auto& [across, upward, depth] : places) {
       points.push_back(point(across, upward, depth));
     }
