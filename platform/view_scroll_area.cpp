@@ -60,8 +60,18 @@ void ViewScrollArea::placeView() {
       {static_cast<qreal>(horizontalScrollBar()->value()),
        static_cast<qreal>(std::max(hidden.height() - verticalScrollBar()->value(), 0))});
   view_->setGeometry(viewport()->rect());
+  showBars(!all_fits);
+}
+
+void ViewScrollArea::showBars(bool needed) {
   // Keys have something to do here only while a part is out of sight.
-  setFocusPolicy(all_fits ? Qt::NoFocus : Qt::StrongFocus);
+  setFocusPolicy(needed ? Qt::StrongFocus : Qt::NoFocus);
+  // Taken away at once: by itself a bar goes later, and the view would be drawn at two sizes.
+  const auto bars = needed ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
+  if (horizontalScrollBarPolicy() != bars) {
+    setHorizontalScrollBarPolicy(bars);
+    setVerticalScrollBarPolicy(bars);
+  }
 }
 
 }  // namespace velquon

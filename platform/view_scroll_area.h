@@ -31,6 +31,7 @@ class ViewScrollArea : public QAbstractScrollArea {
 
  private:
   void placeView();
+  void showBars(bool needed);
 
   GLView* view_ = nullptr;
   QSize document_;

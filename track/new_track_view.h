@@ -127,7 +127,7 @@ class NewTrackView : public GLView {
   QPointF tape_end_point_;
   std::unique_ptr<QTimer> trackTimer_;
   std::uint64_t next_step_at_ = 0;  ///< microseconds
-  std::jthread injection_;  ///< ends before anything that it uses
+  std::jthread injection_;          ///< ends before anything that it uses
 };
 
 }  // namespace velquon
