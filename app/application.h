@@ -3,6 +3,7 @@
 #include <QObject>
 #include <array>
 #include <cstdint>
+#include <future>
 #include <memory>
 #include <optional>
 
@@ -23,7 +24,7 @@ class Application : public QObject {
   Q_OBJECT
 
  public:
-  /// Needs the QApplication and GLUT.
+  /// Needs the QApplication.
   /// \param seed    seed of the random generator; without one the clock's
   /// \param dialogs asks and tells the user; must outlive this object
   Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs);
@@ -34,7 +35,8 @@ class Application : public QObject {
   Application& operator=(Application&&) = delete;
 
   /// Puts the chamber and projector windows on the screen, side by side.
-  void showWindows();
+  /// \param glut what the chamber's window waits for: its view draws with GLUT
+  void showWindows(const std::future<void>& glut = {});
 
   [[nodiscard]] Menus& menus() { return *menus_; }
   [[nodiscard]] ChamberWindow& chamberWindow() { return *chamber_window_; }

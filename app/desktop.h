@@ -8,8 +8,8 @@ namespace velquon {
 void prepare_desktop();
 
 /// Starts GLUT, which the views need before they draw, in a thread of its own: loading the OpenGL
-/// driver takes as long as making the windows, and both can be done at once. After the application
-/// object, which changes the environment.
+/// driver takes as long as making the windows, and both can be done at once. After
+/// `prepare_desktop`, which changes the environment that the driver reads.
 /// \return ready when GLUT is
 [[nodiscard]] std::future<void> start_glut();
 

@@ -38,16 +38,16 @@ int main(int argc, char** argv) {
     return end_with(QStringLiteral("velquon: %1\n").arg(QString::fromStdString(missing)), 1);
   }
   velquon::prepare_desktop();
-  const QApplication qt_application(argc, argv);
   const std::future<void> glut = velquon::start_glut();
+  const QApplication qt_application(argc, argv);
   velquon::finish_desktop();
   velquon::DesktopDialogs dialogs;
   velquon::Application application(parsed.options->seed, dialogs);
-  glut.wait();
   if (!parsed.options->pictures.isEmpty()) {
+    glut.wait();
     return velquon::save_pictures(application, parsed.options->pictures);
   }
-  application.showWindows();
+  application.showWindows(glut);
   const QString& file = parsed.options->file;
   if (!file.isEmpty() && !application.documents().application_openFile(file)) {
     std::fprintf(stderr, "velquon: cannot open %s\n", qPrintable(velquon::as_one_line(file)));

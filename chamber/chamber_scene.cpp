@@ -39,25 +39,34 @@ void turn_by(std::span<const Turn> turns) {
   }
 }
 
-void draw_axis(const std::array<float, 3>& axis, const Color& color) {
-  constexpr auto length = static_cast<float>(CHAMBER_SIDE / 2.0);
-  glBegin(GL_LINE_STRIP);
+using Corner = std::array<float, 3>;
+
+constexpr auto half_side = static_cast<float>(CHAMBER_SIDE / 2.0);
+
+/// As an array, which is how GLUT draws its cube: a software renderer makes a program for each kind
+/// of vertices it meets, and that takes its time when the view comes up.
+void draw_line_strip(std::span<const Corner> corners, const Color& color) {
   glColor3fv(color.data());
-  glVertex3f(0.0F, 0.0F, 0.0F);
-  glVertex3f(axis[0] * length, axis[1] * length, axis[2] * length);
-  glEnd();
+  glPushClientAttrib(GL_CLIENT_VERTEX_ARRAY_BIT);
+  glEnableClientState(GL_VERTEX_ARRAY);
+  glVertexPointer(3, GL_FLOAT, 0, corners.data());
+  glDrawArrays(GL_LINE_STRIP, 0, static_cast<GLsizei>(corners.size()));
+  glPopClientAttrib();
+}
+
+void draw_axis(const Corner& axis, const Color& color) {
+  const std::array<Corner, 2> ends{
+      {{0.0F, 0.0F, 0.0F}, {axis[0] * half_side, axis[1] * half_side, axis[2] * half_side}}};
+  draw_line_strip(ends, color);
 }
 
 void draw_middle_plane() {
-  constexpr auto half = static_cast<float>(CHAMBER_SIDE / 2.0);
-  constexpr std::array<std::array<float, 2>, 5> corners{
-      {{half, -half}, {half, half}, {-half, half}, {-half, -half}, {half, -half}}};
-  glBegin(GL_LINE_STRIP);
-  glColor3f(0.6F, 0.2F, 0.2F);
-  for (const auto& [x, y] : corners) {
-    glVertex3f(x, y, 0.0F);
-  }
-  glEnd();
+  constexpr std::array<Corner, 5> corners{{{half_side, -half_side, 0.0F},
+                                           {half_side, half_side, 0.0F},
+                                           {-half_side, half_side, 0.0F},
+                                           {-half_side, -half_side, 0.0F},
+                                           {half_side, -half_side, 0.0F}}};
+  draw_line_strip(corners, {0.6F, 0.2F, 0.2F});
 }
 
 }  // namespace
