@@ -55,9 +55,9 @@ void Application::showWindows(const std::future<void>& glut) {
   chamber_window_->move(chamber_corner);
   // Rather over the other window than beyond the edge of a narrow screen.
   const int beside = chamber_corner.x() + chamber_window_->width() + gap;
-  const int rightmost =
-      projector_window_->screen()->availableGeometry().right() - projector_window_->width();
-  projector_window_->move(std::max(std::min(beside, rightmost), 0), chamber_corner.y());
+  const QRect room = projector_window_->screen()->availableGeometry();
+  const int rightmost = room.right() - projector_window_->width();
+  projector_window_->move(std::max(std::min(beside, rightmost), room.left()), chamber_corner.y());
   // The keys go to the chamber's window at once, not first to the one that comes up before it.
   projector_window_->setAttribute(Qt::WA_ShowWithoutActivating);
   projector_window_->show();

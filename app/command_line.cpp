@@ -14,7 +14,9 @@ ParsedCommandLine refusal(const QString& reason) {
 
 /// The path from the root, so that Qt does not take a name with a colon for one of a resource.
 QString absolute_path(const QString& path) {
-  return path.startsWith(QLatin1Char('/')) ? path : QDir::currentPath() + QLatin1Char('/') + path;
+  return path.isEmpty() || path.startsWith(QLatin1Char('/'))
+             ? path
+             : QDir::currentPath() + QLatin1Char('/') + path;
 }
 
 }  // namespace
@@ -65,7 +67,7 @@ ParsedCommandLine parse_command_line(const QStringList& arguments) {
     }
   }
   if (parser.isSet(pictures)) {
-    options.pictures = parser.value(pictures);
+    options.pictures = absolute_path(parser.value(pictures));
     if (options.pictures.isEmpty()) {
       return refusal(QStringLiteral("--pictures: no folder is named"));
     }

@@ -11,7 +11,7 @@ namespace velquon {
 struct CommandLine {
   std::optional<std::uint32_t> seed;
   QString file;      ///< absolute path of the event file to open, or empty
-  QString pictures;  ///< folder to leave pictures in, or empty
+  QString pictures;  ///< absolute path of the folder to leave pictures in, or empty
 };
 
 /// Outcome of reading a command line: what it says, or what to print and the status to end with.

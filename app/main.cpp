@@ -35,7 +35,9 @@ int main(int argc, char** argv) {
     return end_with(parsed.message, parsed.status);
   }
   if (const std::string missing = velquon::missing_for_windows(); !missing.empty()) {
-    return end_with(QStringLiteral("velquon: %1\n").arg(QString::fromStdString(missing)), 1);
+    return end_with(
+        QStringLiteral("velquon: %1\n").arg(velquon::as_one_line(QString::fromStdString(missing))),
+        1);
   }
   velquon::prepare_desktop();
   const std::future<void> glut = velquon::start_glut();

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QWindow>
 #include <cstdio>
+#include <optional>
 
 #include "app/application.h"
 #include "app/chamber_window.h"
@@ -41,15 +42,21 @@ bool wait_until_exposed(const QWidget& window) {
   return window.windowHandle()->isExposed();
 }
 
-QByteArray png_of(const QImage& picture) {
+/// The picture as a PNG file; nothing when there is no picture.
+std::optional<QByteArray> png_of(const QImage& picture) {
   QBuffer bytes;
   bytes.open(QIODevice::WriteOnly);
-  picture.save(&bytes, "PNG");
+  if (!picture.save(&bytes, "PNG")) {
+    return std::nullopt;
+  }
   return bytes.data();
 }
 
 bool save_picture(GLView& view, const QString& path) {
-  if (const auto reason = write_whole_file(path, png_of(view.grabFramebuffer()))) {
+  const auto png = png_of(view.grabFramebuffer());
+  const auto reason =
+      png ? write_whole_file(path, *png) : std::optional(QStringLiteral("the view has no picture"));
+  if (reason) {
     std::fprintf(stderr, "velquon: cannot write %s: %s\n", qPrintable(as_one_line(path)),
                  qPrintable(*reason));
     return false;

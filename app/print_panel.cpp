@@ -37,6 +37,7 @@ PrintPanel::PrintPanel(PrintView& view, QString name, QPrinter& printer, UserDia
                        QWidget* parent)
     : QDialog(parent), view_(view), name_(std::move(name)), printer_(printer), dialogs_(dialogs) {
   setWindowTitle(tr("Print"));
+  printer_.setDocName(view_.title());
   set_margins(printer_);
   const bool has_printer = !QPrinterInfo::availablePrinterNames().isEmpty();
 

@@ -2,9 +2,9 @@
 // points over the picture, so what it costs must not grow with the track. And how many steps a
 // second the program makes at the fastest screen speed, nominally 200.
 //
-// The program's own window is up. For the cost of a step its timer is stopped and the steps are made one by one; each
-// is timed for itself, in processor time of the whole process, renderer included. On the way to a
-// long track the view is hidden, where a step draws nothing.
+// The program's own window is up. For the cost of a step its timer is stopped and the steps are made
+// one by one; each is timed for itself, in processor time of the whole process, renderer included.
+// On the way to a long track the view is hidden, where a step draws nothing.
 
 #include <benchmark/benchmark.h>
 

@@ -14,7 +14,8 @@ inline constexpr double conversion_threshold = 2.0;
 /// \param scale    drawing units per cm
 /// \return true when it decayed inside the chamber, false when it left first
 ///
-/// A particle whose survival is not a number, one without momentum for instance, decays where it is.
+/// A particle whose survival is not a number, one without momentum for instance, decays where it
+/// is.
 [[nodiscard]] bool neutral_path(ParticleState& particle, double bound, double scale);
 
 /// The same for a photon and its conversion to a pair; false too when its energy is below the

@@ -7,8 +7,8 @@
 
 namespace velquon {
 
-/// Merges two tracks by alternation, so that both grow side by side in a replay. The list with fewer
-/// points leads (`first` on equal counts); what is left of the longer one follows.
+/// Merges two tracks by alternation, so that both grow side by side in a replay. The list with
+/// fewer points leads (`first` on equal counts); what is left of the longer one follows.
 /// \param out   receives the merged list; at least the points written
 /// \param count receives the number of points written
 /// \param limit the most points that may be written

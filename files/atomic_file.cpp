@@ -68,6 +68,9 @@ Target target_of(const std::filesystem::path& path) {
   std::error_code missing;
   const auto behind_links = std::filesystem::canonical(path, missing);
   struct stat status {};
+  if (missing && std::filesystem::is_symlink(path)) {
+    return {path, 0, missing};
+  }
   if (missing || ::stat(behind_links.c_str(), &status) != 0) {
     return {path, usual_mode(), {}};
   }
@@ -78,7 +81,7 @@ Target target_of(const std::filesystem::path& path) {
   if ((status.st_mode & 0222U) == 0 || ::access(behind_links.c_str(), W_OK) != 0) {
     return {behind_links, 0, std::make_error_code(std::errc::permission_denied)};
   }
-  return {behind_links, status.st_mode & 07777U, {}};
+  return {behind_links, status.st_mode & 0777U, {}};
 }
 
 std::error_code fill_and_rename(int file, const std::string& temporary, const Target& target,

@@ -5,7 +5,7 @@
 #include <QMouseEvent>
 #include <QScreen>
 #include <algorithm>
-#include <utility>
+#include <cmath>
 
 #include "platform/delayed_message.h"
 
@@ -13,6 +13,9 @@ namespace velquon {
 
 GLView::GLView(QWidget* parent) : QOpenGLWidget(parent) {
   setUpdateBehavior(QOpenGLWidget::PartialUpdate);
+  present_soon_.setSingleShot(true);
+  present_soon_.setTimerType(Qt::PreciseTimer);
+  connect(&present_soon_, &QTimer::timeout, this, &GLView::present);
 }
 
 void GLView::display() {
@@ -47,15 +50,9 @@ void GLView::drawAndPresentSoon() {
   }
   makeCurrent();
   runDrawingPass();
-  if (present_pending_) {
-    return;
+  if (!present_soon_.isActive()) {
+    present_soon_.start(static_cast<int>(std::ceil(secondsToNextFrame() * 1000.0)));
   }
-  present_pending_ = true;
-  perform_after(secondsToNextFrame(), this, [this] {
-    if (std::exchange(present_pending_, false) && isVisible()) {
-      present();
-    }
-  });
 }
 
 QRectF GLView::visibleRect() const {
@@ -107,7 +104,7 @@ double GLView::secondsToNextFrame() const {
 void GLView::present() {
   // Qt holds a repaint to the screen's refresh rate; sending the request that it would post gets
   // the picture out now.
-  present_pending_ = false;
+  present_soon_.stop();
   since_presented_.start();
   update();
   QEvent request(QEvent::UpdateRequest);

@@ -4,6 +4,7 @@
 #include <QOpenGLWidget>
 #include <QPointF>
 #include <QRectF>
+#include <QTimer>
 
 class QMouseEvent;
 
@@ -66,7 +67,7 @@ class GLView : public QOpenGLWidget {
   int passes_ = 0;
   bool stale_ = true;
   bool display_pending_ = false;
-  bool present_pending_ = false;
+  QTimer present_soon_;  ///< runs while a drawn picture waits to be brought to the screen
 };
 
 }  // namespace velquon

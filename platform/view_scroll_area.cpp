@@ -50,6 +50,7 @@ void ViewScrollArea::placeView() {
   const QSize without_bars = maximumViewportSize();
   const QSize short_of = document_ - without_bars;
   const bool all_fits = short_of.width() <= rounding && short_of.height() <= rounding;
+  showBars(!all_fits);
   const QSize seen = all_fits ? without_bars : viewport()->size();
   const QSize hidden = all_fits ? QSize(0, 0) : (document_ - seen).expandedTo(QSize(0, 0));
   horizontalScrollBar()->setRange(0, hidden.width());
@@ -60,12 +61,14 @@ void ViewScrollArea::placeView() {
       {static_cast<qreal>(horizontalScrollBar()->value()),
        static_cast<qreal>(std::max(hidden.height() - verticalScrollBar()->value(), 0))});
   view_->setGeometry(viewport()->rect());
-  showBars(!all_fits);
 }
 
 void ViewScrollArea::showBars(bool needed) {
   // Keys have something to do here only while a part is out of sight.
   setFocusPolicy(needed ? Qt::StrongFocus : Qt::NoFocus);
+  if (!needed) {
+    clearFocus();
+  }
   // Taken away at once: by itself a bar goes later, and the view would be drawn at two sizes.
   const auto bars = needed ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
   if (horizontalScrollBarPolicy() != bars) {

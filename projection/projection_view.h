@@ -107,7 +107,7 @@ class ProjectionView : public GLView, public Printable {
   bool tape_visible_ = false;
   QPainter* page_ = nullptr;  ///< the page while printing
   double scaler_ = 0.0;
-  double shown_height_ = projection_height;  ///< when the tape was laid
+  double shown_height_ = projection_height;  ///< that the tape and the grab belong to
 };
 
 }  // namespace velquon

@@ -63,8 +63,8 @@ char* write_short_way(char* out, std::uint64_t bits, double magnitude) {
   return used == 0 ? out : out + 1 + used;
 }
 
-/// For a magnitude from 0.1 to below 1, whose 17 digits are all behind the point; none of them rounds
-/// up to 1 either.
+/// For a magnitude from 0.1 to below 1, whose 17 digits are all behind the point; none of them
+/// rounds up to 1 either.
 char* write_below_one(char* out, std::uint64_t bits) {
   constexpr std::uint64_t ten_to_17 = 100'000'000'000'000'000U;
   constexpr std::uint64_t ten_to_16 = ten_to_17 / 10;

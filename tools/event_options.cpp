@@ -24,10 +24,13 @@ struct RawOptions {
   std::string output = ".";
 };
 
+constexpr const char* end_of_options = "--";
+
 /// More events than that in one run are a slip of the hand.
 constexpr std::uint64_t most_events = 1'000'000'000;
 
-/// The whole text as a number, if it is one and fits. One that is too small for its type is 0.
+/// The whole text as a number, if it is one. A whole number must fit; a double that is too small is
+/// 0, one that is too large infinite.
 template <typename Number>
 std::optional<Number> number_in(std::string_view text) {
   if (text.starts_with('+') && !text.starts_with("+-")) {
@@ -35,7 +38,7 @@ std::optional<Number> number_in(std::string_view text) {
   }
   Number number{};
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if constexpr (std::is_floating_point_v<Number>) {
+  if constexpr (std::is_same_v<Number, double>) {
     if (error == std::errc::result_out_of_range && end == text.data() + text.size()) {
       return std::strtod(std::string(text).c_str(), nullptr);
     }
@@ -99,9 +102,10 @@ EventOptions checked_options(const RawOptions& raw) {
 /// What does not belong on the command line, in its order; a mistyped option comes ahead of what is
 /// missing because of it.
 void refuse_unknown_arguments(const CLI::App& app) {
-  const auto unknown = app.remaining();
-  if (!unknown.empty()) {
-    throw CLI::ValidationError("'" + unknown.front() + "'", "is not known to velquon-events");
+  for (const std::string& argument : app.remaining()) {
+    if (argument != end_of_options) {
+      throw CLI::ValidationError("'" + argument + "'", "is not known to velquon-events");
+    }
   }
 }
 

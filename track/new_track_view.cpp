@@ -23,8 +23,9 @@ constexpr double snapping_distance = 0.005;
 
 constexpr QPoint hot_spot{7, 7};
 
-// A run that is later than that, after the program stood still for a while, does not catch up.
-constexpr std::uint64_t most_lateness = 250'000;  // microseconds
+// A run that is later than that, after the program stood still for a while, does not catch up: the
+// steps made up for at once do not keep mouse and keys waiting for long.
+constexpr std::uint64_t most_lateness = 100'000;  // microseconds
 
 std::uint64_t microseconds_of(const QTimer& timer) {
   return static_cast<std::uint64_t>(timer.interval()) * 1000;

@@ -17,14 +17,17 @@ constexpr const char* had_keys = "had_keys";
 void make_stand_for(QAbstractButton* button, QAction* item, QWidget* keys_meanwhile) {
   const auto follow = [button, item, keys_meanwhile] {
     const bool enabled = item->isEnabled();
-    if (!enabled && button->hasFocus()) {
+    const auto has_keys = [](const QWidget* control) {
+      return control->window()->focusWidget() == control;
+    };
+    if (!enabled && has_keys(button)) {
       keys_meanwhile->setFocus();
       button->setProperty(had_keys, true);
     }
     button->setEnabled(enabled);
     if (enabled && button->property(had_keys).toBool()) {
       button->setProperty(had_keys, false);
-      if (keys_meanwhile->hasFocus()) {
+      if (has_keys(keys_meanwhile)) {
         button->setFocus();
       }
     }

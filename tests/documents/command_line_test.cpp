@@ -91,6 +91,15 @@ TEST(CommandLine, WithoutADisplayTheProgramSaysSo) {
                                           "(DISPLAY is not set)\n"));
 }
 
+TEST(CommandLine, AnEmptyFileNameIsNone) {
+  EXPECT_EQ(parsed({QString()}).options->file, QString());
+}
+
+TEST(CommandLine, ADisplayOfAnyNameIsNamedOnOneLine) {
+  EXPECT_EQ(start({}, words({"DISPLAY=a\nb\x1b[31m"})).errors,
+            QStringLiteral("velquon: the X display 'a?b?[31m' does not answer\n"));
+}
+
 TEST(CommandLine, ADisplayThatDoesNotAnswerIsNamed) {
   const Ending ending = start({}, words({"DISPLAY=:9999"}));
   EXPECT_EQ(ending.status, 1);

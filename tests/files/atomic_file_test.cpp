@@ -98,6 +98,17 @@ TEST(AtomicFile, ALinkLeadsToTheFileThatIsReplaced) {
   EXPECT_EQ(elsewhere.names(), Names{"target.cwd"});
 }
 
+TEST(AtomicFile, ALinkThatLeadsNowhereIsRefused) {
+  const TemporaryFolder folder;
+  std::filesystem::create_symlink("missing.cwd", folder.path() / "event.cwd");
+  std::filesystem::create_symlink("loop.cwd", folder.path() / "loop.cwd");
+  EXPECT_EQ(write_file_atomically(folder.path() / "event.cwd", bytes_of(5)),
+            std::errc::no_such_file_or_directory);
+  EXPECT_EQ(write_file_atomically(folder.path() / "loop.cwd", bytes_of(5)),
+            std::errc::too_many_symbolic_link_levels);
+  EXPECT_EQ(folder.names(), (Names{"event.cwd", "loop.cwd"}));
+}
+
 TEST(AtomicFile, WhatIsNoPlainFileIsRefused) {
   const TemporaryFolder folder;
   const auto path = folder.path() / "event.cwd";

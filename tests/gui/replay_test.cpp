@@ -28,6 +28,7 @@ class ReplayTest : public ApplicationFixture {
   /// A row of red points that do not cover each other.
   void showRow(int count) {
     std::vector<PlotPoint> points;
+    points.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
       points.push_back(point_at(0.0, -380.0 + 760.0 * i / count, 200.0 - 300.0 * (i % 2), 3));
     }

@@ -153,6 +153,12 @@ TEST(EventOptions, AMistypedOptionIsNamedAheadOfWhatIsMissingBecauseOfIt) {
   EXPECT_EQ(parsed({}).message, "velquon-events: --type is required\n");
 }
 
+TEST(EventOptions, TheMarkBehindTheOptionsIsNoArgument) {
+  EXPECT_TRUE(parsed({"--type", "pi-", "--"}).options.has_value());
+  EXPECT_EQ(parsed({"--type", "pi-", "--", "extra"}).message,
+            "velquon-events: 'extra': is not known to velquon-events\n");
+}
+
 TEST(EventOptions, AMessageShowsNoControlCharacters) {
   EXPECT_EQ(parsed({"--type", "pi-", "--field", "1\n\x1b[31m2"}).message,
             "velquon-events: --field: '1??[31m2' is not a finite field in kG\n");
