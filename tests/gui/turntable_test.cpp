@@ -307,6 +307,7 @@ TEST_F(TurntableTest, TurnsAtItsRates) {
 TEST_F(TurntableTest, ManyPointsDoNotSlowTheFastRateDown) {
   for (const int count : {350, 5000}) {
     std::vector<PlotPoint> points;
+    points.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
       points.push_back(point_at(i % 701 - 350, i % 613 - 306, i % 499 - 249,
                                 static_cast<std::int16_t>(3 + i % 5)));
