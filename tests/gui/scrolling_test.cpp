@@ -92,6 +92,14 @@ TEST_F(ScrollingTest, ALargerProjectionIsMeasuredFromItsOwnTop) {
   EXPECT_EQ(color_at(picture_of(projection()), {89.65, 260.65}), white);
 }
 
+TEST_F(ScrollingTest, AUnitLostToABrokenScaleBringsNoBars) {
+  grow(chamberWindow(), chamber(), {-1, -1});
+  EXPECT_EQ(chamber().size(), QSize(681, 499));
+  EXPECT_FALSE(area("chamber_area").horizontalScrollBar()->isVisible());
+  EXPECT_FALSE(area("chamber_area").verticalScrollBar()->isVisible());
+  EXPECT_EQ(chamber().visibleRect().topLeft(), QPointF(0.0, 0.0));
+}
+
 TEST_F(ScrollingTest, TheChamberMovesByTwiceTheScrolledDistanceAndDoesNotDrift) {
   hideAxesAndValues();
   const std::array points{point_at(0.0, -100.0, 30.0, 3)};

@@ -30,6 +30,27 @@ TEST_F(TrackView, BeginsWithoutARunOrATimer) {
   EXPECT_EQ(rig.view->tapeLength(), 0.0);
 }
 
+/// Steps that the timer's first firing makes after the program stood still for a while.
+int steps_after_standstill(TrackRig& rig, int milliseconds) {
+  rig.activate();
+  rig.v_item->trigger();
+  rig.faster_item->trigger();
+  rig.panel->inject_button()->click();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return rig.view->simulation().show_points() > 3; }));
+  QTest::qSleep(milliseconds);
+  const int before = rig.view->simulation().show_points();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return rig.view->simulation().show_points() > before; }));
+  return rig.view->simulation().show_points() - before;
+}
+
+TEST_F(TrackView, StepsThatFellDueMeanwhileAreMadeUpFor) {
+  EXPECT_GE(steps_after_standstill(rig, 60), 10) << "twelve periods of 5 ms";
+}
+
+TEST_F(TrackView, ALongStandstillIsNotMadeUpFor) {
+  EXPECT_LE(steps_after_standstill(rig, 500), 25) << "a hundred periods of 5 ms";
+}
+
 TEST_F(TrackView, ARunOfItsTimerCrossesTheAreaAndEnds) {
   rig.activate();
   rig.three_v_item->trigger();
