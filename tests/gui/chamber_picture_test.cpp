@@ -5,6 +5,8 @@
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/matrices.h"
 #include "tests/gui/support/pictures.h"
+#include "tests/gui/support/screen_view.h"
+#include "tests/gui/support/waiting.h"
 
 namespace velquon::test {
 
@@ -167,6 +169,27 @@ TEST_F(ChamberPictureTest, NoColorOfAPointIsFarFromAnyPoint) {
     }
   }
   EXPECT_GT(near_points, 60);
+}
+
+TEST_F(ChamberPictureTest, APictureIsOnTheScreenWhenItsDrawingReturns) {
+  ASSERT_TRUE(wait_until([&] { return screen_picture(chamber()) == picture_of(chamber()); }));
+  const QImage before = screen_picture(chamber());
+  chamber().setData(std::array{point_at(0.0, 50.0, 50.0, 3), point_at(0.0, -150.0, 50.0, 4)});
+  chamber().display();
+  EXPECT_TRUE(screen_comes_to_show(chamber(), picture_of(chamber())));
+  EXPECT_NE(screen_picture(chamber()), before);
+}
+
+TEST_F(ChamberPictureTest, ANewEventIsOnTheScreenWhenItHasBeenMade) {
+  ASSERT_TRUE(wait_until([&] { return screen_picture(chamber()) == picture_of(chamber()); }));
+  for (const char* const type : {"piminus_item", "muplus_item"}) {
+    SCOPED_TRACE(type);
+    choose(type);
+    const QImage before = screen_picture(chamber());
+    choose("new_event_item");
+    EXPECT_TRUE(screen_comes_to_show(chamber(), picture_of(chamber())));
+    EXPECT_NE(screen_picture(chamber()), before);
+  }
 }
 
 TEST_F(ChamberPictureTest, LaterPointsAreDrawnOverEarlierOnes) {

@@ -1,14 +1,13 @@
 // The replay of an event point by point, seen from inside and on the screen.
 
 #include <QElapsedTimer>
-#include <QProcess>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
 
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/pictures.h"
-#include "tests/gui/support/screen_pixels.h"
+#include "tests/gui/support/screen_view.h"
 #include "tests/gui/support/waiting.h"
 
 namespace velquon::test {
@@ -62,42 +61,9 @@ class ReplayTest : public ApplicationFixture {
   std::function<void()> at_end_ = [] {};
 };
 
-/// Looks at the red pixels of a view on the screen from a process of its own.
-class ScreenWatch {
- public:
-  explicit ScreenWatch(const QWidget& view) {
-    const QPoint corner = view.mapToGlobal(QPoint(0, 0));
-    process_.start(
-        QStringLiteral(SCREEN_WATCH),
-        {QString::number(corner.x()), QString::number(corner.y()), QString::number(view.width()),
-         QString::number(view.height()), QStringLiteral("FF0000")});
-    EXPECT_TRUE(process_.waitForReadyRead());
-  }
-
-  /// Each count that was seen, in order.
-  std::vector<int> finish() {
-    process_.closeWriteChannel();
-    EXPECT_TRUE(process_.waitForFinished());
-    std::vector<int> counts;
-    for (const QByteArray& line : process_.readAllStandardOutput().split('\n')) {
-      if (!line.isEmpty()) {
-        counts.push_back(line.toInt());
-      }
-    }
-    return counts;
-  }
-
- private:
-  QProcess process_;
-};
-
 /// Red pixels of a view on the screen.
 int red_on_screen(const QWidget& view) {
-  constexpr unsigned long red_color = 0xFF0000;
-  const QPoint corner = view.mapToGlobal(QPoint(0, 0));
-  return count_screen_pixels({corner.x(), corner.y(), static_cast<unsigned>(view.width()),
-                              static_cast<unsigned>(view.height())},
-                             red_color);
+  return count_on_screen(view, red);
 }
 
 }  // namespace
@@ -196,7 +162,10 @@ TEST_F(ReplayTest, PointsAppearOneByOneOnTheScreen) {
   ScreenWatch watch(chamber());
   choose("replay_item");
   runReplay(chamber().passes());
-  std::vector<int> counts = watch.finish();
+  std::vector<int> counts;
+  for (const ScreenLook& look : watch.finish()) {
+    counts.push_back(look.count);
+  }
 
   // The whole event before the replay, then a count that only grows.
   ASSERT_GE(counts.size(), 2U);

@@ -11,6 +11,7 @@
 #include "tests/gui/support/input.h"
 #include "tests/gui/support/matrices.h"
 #include "tests/gui/support/pictures.h"
+#include "tests/gui/support/screen_view.h"
 #include "tests/gui/support/waiting.h"
 
 namespace velquon::test {
@@ -286,6 +287,19 @@ TEST_F(TurntableTest, StoppingRedrawsWithWhatWasTurned) {
   const int passes = chamber().passes();
   chamber().stopRotating();
   EXPECT_GT(chamber().passes(), passes);
+}
+
+TEST_F(TurntableTest, ManyOfItsPicturesAreSeenOnTheScreen) {
+  chamberWindow().raise();
+  ASSERT_TRUE(screen_comes_to_show(chamber(), picture_of(chamber())));
+  ScreenWatch watch(chamber());
+  choose("rotate_item");
+  ASSERT_TRUE(waitForSteps(300));
+  const int seen = distinct_pictures(watch.finish());
+  chamber().stopRotating();
+  // The first picture and the last are there however it turns.
+  EXPECT_GE(seen, 5);
+  EXPECT_TRUE(screen_comes_to_show(chamber(), picture_of(chamber())));
 }
 
 TEST_F(TurntableTest, TurnsAtItsRates) {

@@ -3,37 +3,61 @@
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
+#include <algorithm>
+
 namespace velquon::test {
 
 namespace {
 
-int count_pixels(XImage& image, unsigned long color) {
+std::vector<std::uint32_t> pixels_of(XImage& image) {
   constexpr unsigned long rgb = 0xFFFFFF;
-  int count = 0;
+  std::vector<std::uint32_t> pixels;
+  pixels.reserve(static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height));
   for (int y = 0; y < image.height; ++y) {
     for (int x = 0; x < image.width; ++x) {
-      count += (XGetPixel(&image, x, y) & rgb) == color ? 1 : 0;
+      pixels.push_back(static_cast<std::uint32_t>(XGetPixel(&image, x, y) & rgb));
     }
   }
-  return count;
+  return pixels;
+}
+
+/// FNV-1a over the pixels.
+std::uint64_t digest_of(const std::vector<std::uint32_t>& pixels) {
+  std::uint64_t digest = 0xCBF29CE484222325;
+  for (const std::uint32_t pixel : pixels) {
+    digest = (digest ^ pixel) * 0x100000001B3;
+  }
+  return digest;
 }
 
 }  // namespace
 
-int count_screen_pixels(const ScreenArea& area, unsigned long color) {
+std::vector<std::uint32_t> read_screen(const ScreenArea& area) {
   Display* const display = XOpenDisplay(nullptr);
   if (display == nullptr) {
-    return -1;
+    return {};
   }
-  int count = -1;
+  std::vector<std::uint32_t> pixels;
   XImage* const image = XGetImage(display, XDefaultRootWindow(display), area.x, area.y, area.width,
                                   area.height, XAllPlanes(), ZPixmap);
   if (image != nullptr) {
-    count = count_pixels(*image, color);
+    pixels = pixels_of(*image);
     XDestroyImage(image);
   }
   XCloseDisplay(display);
-  return count;
+  return pixels;
+}
+
+ScreenLook look_at_screen(const ScreenArea& area, std::uint32_t color) {
+  const auto pixels = read_screen(area);
+  if (pixels.empty()) {
+    return {};
+  }
+  return {static_cast<int>(std::ranges::count(pixels, color)), digest_of(pixels)};
+}
+
+int count_screen_pixels(const ScreenArea& area, std::uint32_t color) {
+  return look_at_screen(area, color).count;
 }
 
 }  // namespace velquon::test

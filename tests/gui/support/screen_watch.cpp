@@ -1,17 +1,21 @@
 // Looks at a rectangle of the screen again and again and prints, whenever it changes, how many of
-// its pixels have a colour. Ends when its standard input does.
+// its pixels have a colour, and a digest of the picture. Ends when its standard input does.
 //   screen_watch X Y WIDTH HEIGHT RRGGBB
 
 #include <poll.h>
 #include <unistd.h>
 
+#include <cinttypes>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <span>
 
 #include "tests/gui/support/screen_pixels.h"
 
 namespace {
+
+using velquon::test::ScreenLook;
 
 bool input_ended() {
   pollfd input{STDIN_FILENO, POLLIN, 0};
@@ -19,17 +23,16 @@ bool input_ended() {
   return poll(&input, 1, 1) > 0 && read(STDIN_FILENO, &byte, 1) <= 0;
 }
 
-void watch(const velquon::test::ScreenArea& area, unsigned long color) {
-  constexpr int nothing_yet = -2;
-  int shown = nothing_yet;
+void watch(const velquon::test::ScreenArea& area, std::uint32_t color) {
+  std::optional<ScreenLook> shown;
   bool is_last = false;
   while (!is_last) {
     // The last look comes after the end was asked for.
     is_last = input_ended();
-    const int count = velquon::test::count_screen_pixels(area, color);
-    if (count != shown) {
-      shown = count;
-      std::printf("%d\n", count);
+    const ScreenLook look = velquon::test::look_at_screen(area, color);
+    if (look != shown) {
+      shown = look;
+      std::printf("%d %" PRIu64 "\n", look.count, look.digest);
       std::fflush(stdout);
     }
   }
@@ -49,6 +52,6 @@ int main(int argc, char** argv) {
     return static_cast<int>(std::strtol(arguments[i], nullptr, decimal));
   };
   watch({number(1), number(2), static_cast<unsigned>(number(3)), static_cast<unsigned>(number(4))},
-        std::strtoul(arguments[5], nullptr, hexadecimal));
+        static_cast<std::uint32_t>(std::strtoul(arguments[5], nullptr, hexadecimal)));
   return 0;
 }
