@@ -35,4 +35,10 @@ add_library(qt_options INTERFACE)
 target_compile_definitions(qt_options INTERFACE
   QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
   QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DISABLE_DEPRECATED_BEFORE=0x060400)
-target_link_libraries(qt_options INTERFACE project_options)
+target_link_libraries(qt_options INTERFACE
+  project_options Qt6::Widgets Qt6::OpenGLWidgets Qt6::PrintSupport)
+
+# Tests spend their time in the libraries that they test, not in their own code.
+add_library(test_options INTERFACE)
+target_compile_options(test_options INTERFACE $<$<CONFIG:Release,RelWithDebInfo>:-O1>)
+target_link_libraries(test_options INTERFACE project_options)
