@@ -6,14 +6,7 @@
 
 #include "events/event_types.h"
 #include "tests/support/event_making.h"
-
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define MEMORY_IS_WATCHED_ELSEWHERE
-#endif
-#elif defined(__SANITIZE_ADDRESS__)
-#define MEMORY_IS_WATCHED_ELSEWHERE
-#endif
+#include "tests/support/sanitizers.h"
 
 namespace velquon {
 namespace {
@@ -36,7 +29,7 @@ void make_lambdas(int events) {
 }
 
 TEST(Memory, AHundredThousandLambdasInOneProcessDoNotMakeItGrow) {
-#ifdef MEMORY_IS_WATCHED_ELSEWHERE
+#if VELQUON_ADDRESS_SANITIZER
   GTEST_SKIP() << "the address sanitizer keeps freed memory and looks for leaks itself";
 #endif
   std::srand(131);

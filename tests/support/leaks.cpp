@@ -1,6 +1,8 @@
 #include "tests/support/leaks.h"
 
-#if defined(__SANITIZE_ADDRESS__)
+#include "tests/support/sanitizers.h"
+
+#if VELQUON_ADDRESS_SANITIZER
 #include <sanitizer/lsan_interface.h>
 
 const char* __lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identifier)
@@ -12,7 +14,7 @@ const char* __lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identif
 namespace velquon::testing {
 
 void look_for_leaks() {
-#if defined(__SANITIZE_ADDRESS__)
+#if VELQUON_ADDRESS_SANITIZER
   __lsan_do_leak_check();
 #endif
 }
