@@ -1,20 +1,19 @@
 #pragma once
 
 #include <cstdint>
-#include <cstdio>
 #include <span>
 #include <system_error>
 #include <vector>
 
 #include "engine/event_record.h"
+#include "tools/byte_output.h"
 
 namespace velquon {
 
 /// Writes events as lines `event,point,x,y,z,code` under a header of these names, buffered.
 class CsvWriter {
  public:
-  /// \param file where the lines go; not closed
-  explicit CsvWriter(std::FILE* file);
+  explicit CsvWriter(ByteOutput output);
 
   /// Adds the lines of one event.
   /// \param event number of the event, from 1; points are numbered from 0
@@ -27,7 +26,7 @@ class CsvWriter {
  private:
   std::error_code flush();
 
-  std::FILE* file_;
+  ByteOutput output_;
   std::vector<char> buffer_;
   std::size_t used_ = 0;
 };

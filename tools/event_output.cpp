@@ -28,7 +28,7 @@ void make_next_event(const EventOptions& options, TrackBuffer& event) {
 }
 
 int write_csv(const EventOptions& options, std::FILE* out, std::FILE* messages) {
-  CsvWriter writer(out);
+  CsvWriter writer(output_to(out));
   TrackBuffer event;
   for (std::uint64_t number = 1; number <= options.events; ++number) {
     make_next_event(options, event);

@@ -26,7 +26,7 @@ std::string written(const std::vector<std::vector<PlotPoint>>& events) {
   const auto path = folder.path() / "events.csv";
   {
     const File file(std::fopen(path.c_str(), "w"));
-    CsvWriter writer(file.get());
+    CsvWriter writer(output_to(file.get()));
     for (std::size_t i = 0; i < events.size(); ++i) {
       EXPECT_FALSE(writer.write(i + 1, events[i]));
     }
@@ -67,7 +67,7 @@ TEST(CsvWriter, HasRoomForTheLongestLine) {
   const auto path = folder.path() / "events.csv";
   {
     const File file(std::fopen(path.c_str(), "w"));
-    CsvWriter writer(file.get());
+    CsvWriter writer(output_to(file.get()));
     EXPECT_FALSE(writer.write(std::numeric_limits<std::uint64_t>::max(), std::vector{point}));
     EXPECT_FALSE(writer.finish());
   }
@@ -78,14 +78,14 @@ TEST(CsvWriter, HasRoomForTheLongestLine) {
 
 TEST(CsvWriter, ReportsAFullDeviceWhenItFinishes) {
   const File full(std::fopen("/dev/full", "w"));
-  CsvWriter writer(full.get());
+  CsvWriter writer(output_to(full.get()));
   EXPECT_FALSE(writer.write(1, std::vector<PlotPoint>(1)));
   EXPECT_EQ(writer.finish(), std::errc::no_space_on_device);
 }
 
 TEST(CsvWriter, ReportsAFullDeviceWhileItWrites) {
   const File full(std::fopen("/dev/full", "w"));
-  CsvWriter writer(full.get());
+  CsvWriter writer(output_to(full.get()));
   std::error_code error;
   for (int event = 1; event <= 100 && !error; ++event) {
     error = writer.write(static_cast<std::uint64_t>(event), std::vector<PlotPoint>(350));

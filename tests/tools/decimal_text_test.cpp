@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -37,20 +36,12 @@ std::string printf_text(double value) {
   return {room.data(), static_cast<std::size_t>(size)};
 }
 
-std::string to_chars_text(double value) {
-  std::array<char, 64> room{};
-  const auto result =
-      std::to_chars(room.data(), room.data() + room.size(), value, std::chars_format::general, 17);
-  return {room.data(), result.ptr};
-}
-
-/// Compares a number and its negative with both references.
+/// Compares a number and its negative with the C library.
 ::testing::AssertionResult same_text(double magnitude) {
   for (const double value : {magnitude, -magnitude}) {
     const std::string text = decimal_text(value);
-    if (text != printf_text(value) || text != to_chars_text(value)) {
-      return ::testing::AssertionFailure()
-             << text << " for " << printf_text(value) << " and " << to_chars_text(value);
+    if (text != printf_text(value)) {
+      return ::testing::AssertionFailure() << text << " for " << printf_text(value);
     }
   }
   return ::testing::AssertionSuccess();
@@ -142,7 +133,7 @@ TEST(WriteDecimal, IsExactBelowOne) {
   }
 }
 
-TEST(WriteDecimal, IsExactForEveryMagnitudeOfItsShortWay) {
+TEST(WriteDecimal, IsExactForMagnitudesAroundThoseOfTheChamber) {
   std::mt19937_64 engine(153);
   std::uniform_real_distribution<double> exponent(-4.0, 4.0);
   for (int i = 0; i < 200000; ++i) {
