@@ -3,19 +3,22 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTest>
+#include <cerrno>
 #include <random>
 
 #include "gui/support/waiting.h"
 #include "support/event_bytes.h"
 #include "support/other_program.h"
 #include "support/pdf_page.h"
+#include "tests/support/call_faults.h"
 
 namespace velquon::test {
 
 namespace {
 
 /// What is better done by a program of its own: it may be killed, or end on the spot.
-class OtherProcessTest : public testing::Test {
+class OtherProcessTest : public ::testing::Test {
  protected:
   [[nodiscard]] QString path(const QString& name) const { return folder_.filePath(name); }
 
@@ -29,6 +32,20 @@ class OtherProcessTest : public testing::Test {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     return file.readAll();
+  }
+
+  /// Names of all that the folder holds.
+  [[nodiscard]] QStringList names() const {
+    return QDir(folder_.path())
+        .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+  }
+
+  static QStringList as_qt(const std::vector<std::string>& texts) {
+    QStringList list;
+    for (const std::string& text : texts) {
+      list << QString::fromStdString(text);
+    }
+    return list;
   }
 
  private:
@@ -89,7 +106,24 @@ TEST_F(OtherProcessTest, KilledWhileItSavesLeavesAWholeFile) {
     program.kill();
     const QByteArray left = read(file);
     EXPECT_TRUE(left == large || left == small) << left.size() << " bytes";
+    // A rename that was under way when the program was killed comes to its end.
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+      return names() == QStringList{QStringLiteral("event.cwd")};
+    })) << names().join(u' ').toStdString();
   }
+}
+
+TEST_F(OtherProcessTest, TellsWhyAPictureIsNotWritten) {
+  const Ending ending =
+      run_program(VELQUON_PROGRAM, {QStringLiteral("--pictures"), path(QStringLiteral("."))},
+                  as_qt(velquon::testing::variables_of({{.call = "fsync", .error = EIO}},
+                                                       CALL_FAULTS_LIBRARY)));
+  EXPECT_EQ(ending.status, 1);
+  const QString picture = path(QStringLiteral("./negative-pion-chamber.png"));
+  EXPECT_TRUE(ending.errors.endsWith(
+      QStringLiteral("velquon: cannot write %1: Input/output error\n").arg(picture)))
+      << ending.errors.toStdString();
+  EXPECT_EQ(names(), QStringList{});
 }
 
 /// The drawing without the lines of text, whose numbers depend on the letters of the date.

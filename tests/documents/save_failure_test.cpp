@@ -1,10 +1,15 @@
 #include <QAction>
 #include <QDir>
 
+#include <sys/stat.h>
 #include <unistd.h>
+
+#include <cerrno>
 
 #include "support/documents_fixture.h"
 #include "support/event_bytes.h"
+#include "tests/support/call_faults.h"
+#include "tests/support/case_name.h"
 #include "tests/support/file_size_limit.h"
 
 namespace velquon::test {
@@ -28,7 +33,8 @@ class SaveFailureTest : public DocumentsFixture {
   }
 
   QStringList filesInFolder() {
-    return QDir(folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    return QDir(folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
+                                    QDir::NoDotAndDotDot);
   }
 };
 
@@ -72,7 +78,7 @@ TEST_F(SaveFailureTest, AFileInPlaceOfAFolder) {
 TEST_F(SaveFailureTest, AFolderInPlaceOfTheFile) {
   makeEvent(0);
   ASSERT_TRUE(QDir(folder()).mkdir(QStringLiteral("a.cwd")));
-  expectFailure(path(QStringLiteral("a.cwd")), "Filename refers to a directory");
+  expectFailure(path(QStringLiteral("a.cwd")), "Is a directory");
   EXPECT_EQ(filesInFolder(), QStringList{QStringLiteral("a.cwd")});
 }
 
@@ -87,6 +93,46 @@ TEST_F(SaveFailureTest, AFolderThatMayNotBeWritten) {
   expectFailure(file, "Permission denied");
   EXPECT_TRUE(QFile::setPermissions(folder(), rights));
   EXPECT_EQ(read(file), "old");
+}
+
+/// A call of the system that fails, and the reason as it is told.
+struct FailingCall {
+  std::string name;
+  std::vector<velquon::testing::CallFault> faults;
+  const char* reason;
+};
+class FailingDiskTest : public SaveFailureTest,
+                        public ::testing::WithParamInterface<FailingCall> {};
+
+TEST_P(FailingDiskTest, LeavesTheOldFileAndNoOther) {
+  const QString file = write(QStringLiteral("a.cwd"), event_file(spiral(2)));
+  const QByteArray before = read(file);
+  controller().setChamberData(spiral(50));
+  {
+    const velquon::testing::CallFaultsInForce faults(GetParam().faults);
+    expectFailure(file, GetParam().reason);
+  }
+  EXPECT_EQ(read(file), before);
+  EXPECT_EQ(filesInFolder(), QStringList{QStringLiteral("a.cwd")});
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Calls, FailingDiskTest,
+    ::testing::Values(
+        FailingCall{"SyncEio", {{.call = "fsync", .error = EIO}}, "Input/output error"},
+        FailingCall{
+            "SyncFullDisk", {{.call = "fsync", .error = ENOSPC}}, "No space left on device"},
+        FailingCall{"SyncQuota", {{.call = "fsync", .error = EDQUOT}}, "Disk quota exceeded"},
+        FailingCall{"WriteEio", {{.call = "write", .error = EIO}}, "Input/output error"},
+        FailingCall{"Rename", {{.call = "renameat", .error = EIO}}, "Input/output error"}),
+    velquon::testing::case_name<FailingCall>);
+
+TEST_F(SaveFailureTest, APipeInPlaceOfTheFile) {
+  makeEvent(0);
+  const QString pipe = path(QStringLiteral("a.cwd"));
+  ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+  expectFailure(pipe, "Is a named pipe, not a file");
+  EXPECT_EQ(filesInFolder(), QStringList{QStringLiteral("a.cwd")});
 }
 
 TEST_F(SaveFailureTest, CanBeMendedBySavingElsewhere) {

@@ -1,17 +1,19 @@
 #include "files/atomic_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <sys/un.h>
 
 #include <algorithm>
-#include <csignal>
+#include <cerrno>
 #include <fstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/support/file_size_limit.h"
+#include "tests/support/plain_rights.h"
 #include "tests/support/temporary_folder.h"
 
 namespace velquon {
@@ -109,33 +111,36 @@ TEST(AtomicFile, ALinkThatLeadsNowhereIsRefused) {
   EXPECT_EQ(folder.names(), (Names{"event.cwd", "loop.cwd"}));
 }
 
-TEST(AtomicFile, WhatIsNoPlainFileIsRefused) {
-  const TemporaryFolder folder;
-  const auto path = folder.path() / "event.cwd";
-  ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
-  EXPECT_EQ(write_file_atomically(path, bytes_of(5)), std::errc::not_supported);
-  EXPECT_TRUE(std::filesystem::is_fifo(path));
+/// Makes a socket with a name of its own.
+void make_socket(const std::filesystem::path& path) {
+  sockaddr_un address{};
+  address.sun_family = AF_UNIX;
+  path.string().copy(address.sun_path, sizeof address.sun_path - 1);
+  const FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM, 0));
+  ASSERT_EQ(::bind(socket.number(), reinterpret_cast<const sockaddr*>(&address), sizeof address),
+            0);
 }
 
-TEST(AtomicFile, ASignalThatEndsTheProgramLeavesNoTemporaryFile) {
+TEST(AtomicFile, WhatIsNoRegularFileIsRefusedWithItsKind) {
   const TemporaryFolder folder;
-  const auto path = folder.path() / "event.cwd";
-  const Bytes bytes = bytes_of(100000);
-  for (int attempt = 0; attempt < 20; ++attempt) {
-    const pid_t writer = ::fork();
-    if (writer == 0) {
-      while (!write_file_atomically(path, bytes)) {
-      }
-      ::_exit(1);
-    }
-    ::usleep(3000 + 700 * static_cast<useconds_t>(attempt));
-    ::kill(writer, SIGTERM);
-    int status = 0;
-    ::waitpid(writer, &status, 0);
-    EXPECT_TRUE(WIFSIGNALED(status));
-    EXPECT_LE(folder.names().size(), 1U) << "no name but the event's";
+  ASSERT_EQ(::mkfifo((folder.path() / "pipe").c_str(), 0600), 0);
+  make_socket(folder.path() / "socket");
+  std::filesystem::create_directory(folder.path() / "folder");
+  std::filesystem::create_symlink("/dev/null", folder.path() / "device");
+  std::filesystem::create_symlink("pipe", folder.path() / "link");
+  const std::vector<std::pair<std::string, std::string>> kinds{
+      {"pipe", "Is a named pipe, not a file"},
+      {"link", "Is a named pipe, not a file"},
+      {"socket", "Is a socket, not a file"},
+      {"device", "Is a device, not a file"},
+      {"folder", "Is a directory"}};
+  for (const auto& [name, reason] : kinds) {
+    const auto before = std::filesystem::status(folder.path() / name).type();
+    EXPECT_EQ(write_file_atomically(folder.path() / name, bytes_of(5)).message(), reason);
+    EXPECT_EQ(std::filesystem::status(folder.path() / name).type(), before);
   }
-  EXPECT_EQ(file_bytes(path), bytes);
+  EXPECT_EQ(write_file_atomically(folder.path() / "pipe", bytes_of(5)), std::errc::not_supported);
+  EXPECT_EQ(folder.names(), (Names{"device", "folder", "link", "pipe", "socket"}));
 }
 
 TEST(AtomicFile, IntoAMissingFolderIsAnErrorAndMakesNoFolder) {
@@ -175,16 +180,70 @@ TEST(AtomicFile, WithJustEnoughRoomTheFileIsWritten) {
 }
 
 TEST(AtomicFile, IntoAFolderThatCannotBeWrittenIsAnError) {
-  if (::geteuid() == 0) {
-    GTEST_SKIP() << "the superuser may write into every folder";
-  }
   const TemporaryFolder folder;
   std::filesystem::permissions(
       folder.path(), std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
-  const auto error = write_file_atomically(folder.path() / "event.cwd", bytes_of(5));
+  const int error = testing::with_plain_rights(
+      [&] { return write_file_atomically(folder.path() / "event.cwd", bytes_of(5)).value(); });
   std::filesystem::permissions(folder.path(), std::filesystem::perms::owner_all);
-  EXPECT_EQ(error, std::errc::permission_denied);
+  EXPECT_EQ(error, EACCES);
   EXPECT_EQ(folder.names(), Names{});
+}
+
+TEST(AtomicFile, IntoAFolderThatCannotBeReadIsWritten) {
+  const TemporaryFolder folder;
+  std::filesystem::permissions(
+      folder.path(), std::filesystem::perms::owner_write | std::filesystem::perms::owner_exec);
+  const int error = testing::with_plain_rights(
+      [&] { return write_file_atomically(folder.path() / "event.cwd", bytes_of(5)).value(); });
+  std::filesystem::permissions(folder.path(), std::filesystem::perms::owner_all);
+  EXPECT_EQ(error, 0);
+  EXPECT_EQ(file_bytes(folder.path() / "event.cwd"), bytes_of(5));
+}
+
+TEST(AtomicFile, IsWrittenPieceByPieceAndItsBeginningLast) {
+  const TemporaryFolder folder;
+  const auto path = folder.path() / "events.npy";
+  AtomicFile file;
+  ASSERT_FALSE(file.open(path));
+  Bytes expected;
+  for (unsigned piece = 0; piece < 50; ++piece) {
+    const Bytes bytes = bytes_of(3000 + piece, piece);
+    EXPECT_FALSE(file.write(bytes));
+    expected.insert(expected.end(), bytes.begin(), bytes.end());
+    EXPECT_EQ(folder.names(), Names{}) << "nothing is there before it is complete";
+  }
+  const Bytes header = bytes_of(64, 99);
+  EXPECT_FALSE(file.overwrite(8, header));
+  std::ranges::copy(header, expected.begin() + 8);
+  EXPECT_FALSE(file.commit());
+  EXPECT_EQ(file_bytes(path), expected);
+  EXPECT_EQ(folder.names(), Names{"events.npy"});
+}
+
+TEST(AtomicFile, WithoutCommitNothingIsWritten) {
+  const TemporaryFolder folder;
+  const auto path = folder.path() / "event.cwd";
+  write_text(path, "the old event");
+  {
+    AtomicFile file;
+    ASSERT_FALSE(file.open(path));
+    EXPECT_FALSE(file.write(bytes_of(500)));
+  }
+  EXPECT_EQ(file_text(path), "the old event");
+  EXPECT_EQ(folder.names(), Names{"event.cwd"});
+}
+
+TEST(AtomicFile, AFileThatAppearsMeanwhileIsReplaced) {
+  const TemporaryFolder folder;
+  const auto path = folder.path() / "event.cwd";
+  AtomicFile file;
+  ASSERT_FALSE(file.open(path));
+  EXPECT_FALSE(file.write(bytes_of(500)));
+  write_text(path, "somebody else's");
+  EXPECT_FALSE(file.commit());
+  EXPECT_EQ(file_bytes(path), bytes_of(500));
+  EXPECT_EQ(folder.names(), Names{"event.cwd"});
 }
 
 TEST(AtomicFile, FilesBesideItAreLeftAlone) {

@@ -3,6 +3,8 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -10,7 +12,10 @@
 #include <vector>
 
 #include "files/event_file.h"
+#include "tests/support/call_faults.h"
+#include "tests/support/case_name.h"
 #include "tests/support/event_making.h"
+#include "tests/support/plain_rights.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/tools/tool_run.h"
 #include "tools/microsecond_seed.h"
@@ -20,6 +25,7 @@
 namespace velquon {
 namespace {
 
+using testing::CallFault;
 using testing::is_one_message;
 using testing::run_tool;
 using testing::TemporaryFolder;
@@ -165,9 +171,11 @@ TEST(EventFiles, AreReplacedByALaterRun) {
 }
 
 /// Expects a run into a folder to fail with this one line.
-void expect_failure(const std::filesystem::path& folder, const std::string& reason) {
+void expect_failure(const std::filesystem::path& folder, const std::string& reason,
+                    const Words& variables = {}) {
   const auto run =
-      run_tool({"--type", "mu+", "--seed", "4", "--format", "cwd", "--output", folder.string()});
+      run_tool({"--type", "mu+", "--seed", "4", "--format", "cwd", "--output", folder.string()}, {},
+               variables);
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.messages, "velquon-events: cannot write " + (folder / "event-000001.cwd").string() +
                               ": " + reason + "\n");
@@ -192,15 +200,65 @@ TEST(EventFiles, AFolderThatTakesNoFilesIsNamedWithTheReason) {
 }
 
 TEST(EventFiles, AFolderThatCannotBeWrittenIsNamedWithTheReason) {
-  if (::geteuid() == 0) {
-    GTEST_SKIP() << "the superuser may write into every folder";
-  }
   const TemporaryFolder folder;
   std::filesystem::permissions(
       folder.path(), std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
-  expect_failure(folder.path(), "Permission denied");
+  EXPECT_EQ(testing::with_plain_rights([&] {
+              expect_failure(folder.path(), "Permission denied");
+              return HasFailure() ? 1 : 0;
+            }),
+            0);
   std::filesystem::permissions(folder.path(), std::filesystem::perms::owner_all);
   EXPECT_EQ(folder.names(), Names{});
+}
+
+struct FailingCall {
+  std::string name;
+  std::vector<CallFault> faults;
+  std::string reason;
+};
+class FailedEventFile : public ::testing::TestWithParam<FailingCall> {};
+
+TEST_P(FailedEventFile, IsNamedWithTheReasonAndTheOldFileStays) {
+  const TemporaryFolder folder;
+  std::ofstream(folder.path() / "event-000001.cwd") << "the old event";
+  expect_failure(folder.path(), GetParam().reason,
+                 testing::variables_of(GetParam().faults, CALL_FAULTS_LIBRARY));
+  EXPECT_EQ(folder.names(), Names{"event-000001.cwd"});
+  EXPECT_EQ(testing::file_text(folder.path() / "event-000001.cwd"), "the old event");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Calls, FailedEventFile,
+    ::testing::Values(
+        FailingCall{"SyncEio", {{.call = "fsync", .error = EIO}}, "Input/output error"},
+        FailingCall{
+            "SyncFullDisk", {{.call = "fsync", .error = ENOSPC}}, "No space left on device"},
+        FailingCall{"SyncQuota", {{.call = "fsync", .error = EDQUOT}}, "Disk quota exceeded"},
+        FailingCall{
+            "WriteFullDisk", {{.call = "write", .error = ENOSPC}}, "No space left on device"},
+        FailingCall{"Rename", {{.call = "renameat", .error = EIO}}, "Input/output error"},
+        FailingCall{"Link", {{.call = "linkat", .error = EIO}}, "Input/output error"},
+        FailingCall{"NamedSync",
+                    {{.call = "tmpfile", .error = EOPNOTSUPP}, {.call = "fsync", .error = EIO}},
+                    "Input/output error"}),
+    testing::case_name<FailingCall>);
+
+TEST(EventFiles, OfRunsThatAreKilledAreWholeAndWithoutOthers) {
+  const TemporaryFolder folder;
+  for (int attempt = 0; attempt < 10; ++attempt) {
+    testing::kill_tool({"--type", "pi-", "--seed", "4", "--events", "999999", "--format", "cwd",
+                        "--output", folder.path()},
+                       std::chrono::milliseconds(20 + 10 * attempt));
+    for (const std::string& name : folder.names()) {
+      ASSERT_TRUE(name.starts_with("event-") && name.ends_with(".cwd")) << name;
+      const auto bytes = testing::file_bytes(folder.path() / name);
+      const auto result = read_event_file(bytes);
+      ASSERT_TRUE(std::holds_alternative<StoredEvent>(result)) << name;
+      ASSERT_EQ(bytes.size(), 48 * std::get<StoredEvent>(result).points.size() + 75);
+    }
+  }
+  EXPECT_FALSE(folder.names().empty()) << "they were killed while they wrote";
 }
 
 TEST(EventFiles, AFileSizeLimitIsNamedWithTheReasonAndLeavesNoHalfFile) {

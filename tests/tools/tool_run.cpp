@@ -2,11 +2,15 @@
 
 #include <fcntl.h>
 #include <spawn.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <csignal>
+#include <iterator>
 #include <stdexcept>
+#include <thread>
 
 #include "tests/support/temporary_folder.h"
 
@@ -22,19 +26,23 @@ int exit_status(pid_t process) {
   return WEXITSTATUS(status);
 }
 
-}  // namespace
+/// The words as `execve` takes them.
+std::vector<char*> pointers_to(std::vector<std::string>& words) {
+  std::vector<char*> pointers;
+  std::ranges::transform(words, std::back_inserter(pointers),
+                         [](std::string& word) { return word.data(); });
+  pointers.push_back(nullptr);
+  return pointers;
+}
 
-ToolRun run_tool(const std::vector<std::string>& arguments, const std::filesystem::path& out_file) {
-  const TemporaryFolder folder;
-  const auto out = out_file.empty() ? folder.path() / "out" : out_file;
-  const auto messages = folder.path() / "messages";
-
+pid_t start_tool(const std::vector<std::string>& arguments, const std::filesystem::path& out,
+                 const std::filesystem::path& messages, const std::vector<std::string>& variables) {
   std::vector<std::string> words{EVENT_TOOL};
   words.insert(words.end(), arguments.begin(), arguments.end());
-  std::vector<char*> argv;
-  std::ranges::transform(words, std::back_inserter(argv),
-                         [](std::string& word) { return word.data(); });
-  argv.push_back(nullptr);
+  std::vector<std::string> environment = variables;
+  for (char** variable = ::environ; *variable != nullptr; ++variable) {
+    environment.emplace_back(*variable);
+  }
 
   posix_spawn_file_actions_t actions;
   ::posix_spawn_file_actions_init(&actions);
@@ -42,13 +50,34 @@ ToolRun run_tool(const std::vector<std::string>& arguments, const std::filesyste
   ::posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, out.c_str(), flags, 0600);
   ::posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, messages.c_str(), flags, 0600);
   pid_t process = 0;
-  const int error = ::posix_spawn(&process, EVENT_TOOL, &actions, nullptr, argv.data(), ::environ);
+  const int error = ::posix_spawn(&process, EVENT_TOOL, &actions, nullptr,
+                                  pointers_to(words).data(), pointers_to(environment).data());
   ::posix_spawn_file_actions_destroy(&actions);
   if (error != 0) {
     throw std::runtime_error("cannot run " EVENT_TOOL);
   }
-  const int status = exit_status(process);
+  return process;
+}
+
+}  // namespace
+
+ToolRun run_tool(const std::vector<std::string>& arguments, const std::filesystem::path& out_file,
+                 const std::vector<std::string>& variables) {
+  const TemporaryFolder folder;
+  const auto out = out_file.empty() ? folder.path() / "out" : out_file;
+  const auto messages = folder.path() / "messages";
+  const int status = exit_status(start_tool(arguments, out, messages, variables));
   return {status, out_file.empty() ? file_text(out) : std::string(), file_text(messages)};
+}
+
+void kill_tool(const std::vector<std::string>& arguments, std::chrono::milliseconds after) {
+  // What it started becomes a child of this process.
+  ::prctl(PR_SET_CHILD_SUBREAPER, 1);
+  const pid_t process = start_tool(arguments, "/dev/null", "/dev/null", {});
+  std::this_thread::sleep_for(after);
+  ::kill(process, SIGKILL);
+  while (::wait(nullptr) > 0) {
+  }
 }
 
 bool is_one_message(const std::string& text) {

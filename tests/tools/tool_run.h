@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -15,8 +16,13 @@ struct ToolRun {
 
 /// Runs the tool that is built with the tests. Each argument is passed as it is.
 /// \param out_file where its standard output goes instead of into `out`
+/// \param variables of its environment besides this program's, "NAME=value"
 [[nodiscard]] ToolRun run_tool(const std::vector<std::string>& arguments,
-                               const std::filesystem::path& out_file = {});
+                               const std::filesystem::path& out_file = {},
+                               const std::vector<std::string>& variables = {});
+
+/// Runs the tool and kills it after a time, unless it has ended by then; waits for what it started.
+void kill_tool(const std::vector<std::string>& arguments, std::chrono::milliseconds after);
 
 /// True when the text is one line, with its end, that begins with the tool's name.
 [[nodiscard]] bool is_one_message(const std::string& text);
