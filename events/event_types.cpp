@@ -5,6 +5,7 @@
 #include "events/lambda_decay.h"
 #include "events/lepton_decays.h"
 #include "events/neutral_pion_decay.h"
+#include "events/recorder.h"
 
 namespace velquon {
 
@@ -25,20 +26,33 @@ std::span<const EventType> event_types() {
   return types;
 }
 
-HandOver run_chain(DecayChain chain, const ChamberValues& values, TrackBuffer& event) {
+HandOver run_chain(DecayChain chain, const ChamberValues& values, TrackBuffer& event,
+                   ParticleRecord* record) {
   event.count = 0;
+  if (record != nullptr) {
+    record->clear();
+  }
   if (!(values.kinetic_Mev > 0.0F) || !std::isfinite(values.kinetic_Mev)) {
     return HandOver::yes;
   }
-  return chain(values, event);
+  const HandOver result = chain(values, event, record);
+  if (record != nullptr && result == HandOver::no) {
+    record->clear();
+  }
+  Recorder(record, static_cast<double>(values.sides_cm)).finish(event.points());
+  return result;
 }
 
-HandOver make_event(const EventType& type, const ChamberValues& values, TrackBuffer& event) {
+HandOver make_event(const EventType& type, const ChamberValues& values, TrackBuffer& event,
+                    ParticleRecord* record) {
+  if (record != nullptr) {
+    record->negative = type.flips_field;
+  }
   ChamberValues chain_values = values;
   if (type.flips_field) {
     chain_values.B_field = -chain_values.B_field;
   }
-  return run_chain(type.chain, chain_values, event);
+  return run_chain(type.chain, chain_values, event, record);
 }
 
 }  // namespace velquon

@@ -42,22 +42,26 @@ void decay_lambda(const ParticleState& parent, const DecayMode& mode, ParticleSt
 }
 
 void track_negative_pion_chain(ParticleState& the_pion, const TrackSettings& settings,
-                               TrackBuffer& buffer) {
-  if (track_particle(the_pion, {2, 4, 2, 4}, settings, buffer) == TrackEnd::stopped) {
+                               TrackBuffer& buffer, const Recorder& recorder, int pion_row) {
+  if (track_particle(the_pion, {2, 4, 2, 4}, settings, buffer, recorder, pion_row) ==
+      TrackEnd::stopped) {
     return;
   }
   ParticleState the_muon = daughter_at_end(muon, buffer);
   pi_to_mu(the_pion, the_muon);
-  if (track_particle(the_muon, {4, 5, 4, 5}, settings, buffer) == TrackEnd::stopped) {
+  const int muon_row = recorder.add_decay(pion_decay, pion_row, the_pion, the_muon);
+  if (track_particle(the_muon, {4, 5, 4, 5}, settings, buffer, recorder, muon_row) ==
+      TrackEnd::stopped) {
     return;
   }
   ParticleState the_electron = daughter_at_end(electron, buffer);
   mu_to_e(the_muon, the_electron);
-  track_particle(the_electron, {5, 5, 5, 5}, settings, buffer);
+  const int electron_row = recorder.add_decay(muon_decay, muon_row, the_muon, the_electron);
+  track_particle(the_electron, {5, 5, 5, 5}, settings, buffer, recorder, electron_row);
 }
 
 void run_charged_mode(const ParticleState& the_lambda, const ChamberValues& values,
-                      TrackBuffer& event) {
+                      TrackBuffer& event, const Recorder& recorder, int lambda_row) {
   ParticleState the_proton = proton;
   ParticleState the_pion = pion;
   the_proton.position = the_lambda.position;
@@ -65,11 +69,11 @@ void run_charged_mode(const ParticleState& the_lambda, const ChamberValues& valu
   lambda_to_charged(the_lambda, the_proton, the_pion);
   piminus_p_paths(the_pion, the_proton, event.limit(), event.free_slots(), event.count,
                   half_chamber_side, static_cast<double>(values.B_field), drawing_scale(values),
-                  track_step);
+                  track_step, recorder, lambda_row);
 }
 
 void run_neutral_mode(const ParticleState& the_lambda, const ChamberValues& values,
-                      TrackBuffer& event) {
+                      TrackBuffer& event, const Recorder& recorder, int lambda_row) {
   const double scale = drawing_scale(values);
   ParticleState the_neutron = neutron;
   ParticleState the_pizero = pizero;
@@ -80,22 +84,24 @@ void run_neutral_mode(const ParticleState& the_lambda, const ChamberValues& valu
   the_neutron.position = the_lambda.position;
   the_pizero.position = the_lambda.position;
   lambda_to_neutrals(the_lambda, the_neutron, the_pizero);
+  recorder.add(pdg::neutron, lambda_row, the_neutron, Fate::undetected);
+  const int pizero_row = recorder.add(pdg::pizero, lambda_row, the_pizero, Fate::escaped);
   if (!pizero_decays) {
     return;
   }
+  recorder.vertex(pizero_row, Fate::decayed, the_pizero.position);
   pair1.photon.position = the_pizero.position;
   pair2.photon.position = the_pizero.position;
   pizero_to_2gamma(the_pizero, pair1.photon, pair2.photon);
   // Unlike in a neutral-pion event, the second photon is not tried when the first escapes.
-  if (!gamma_path(pair1.photon, half_chamber_side, scale)) {
+  if (!convert_photon(pair1, scale, recorder, pizero_row)) {
+    recorder.add(pdg::photon, pizero_row, pair2.photon, Fate::escaped);
     return;
   }
-  gamma_to_pair(pair1.photon, pair1.electron, pair1.positron);
-  if (gamma_path(pair2.photon, half_chamber_side, scale)) {
-    gamma_to_pair(pair2.photon, pair2.electron, pair2.positron);
-    lay_two_pairs(pair1, pair2, values, event);
+  if (convert_photon(pair2, scale, recorder, pizero_row)) {
+    lay_two_pairs(pair1, pair2, values, event, recorder);
   } else {
-    lay_pair(pair1, values, event);
+    lay_pair(pair1, values, event, recorder);
   }
 }
 
@@ -123,24 +129,34 @@ void lambda_to_neutrals(const ParticleState& parent, ParticleState& the_neutron,
 
 void piminus_p_paths(ParticleState& the_pion, ParticleState& the_proton, std::int16_t limit,
                      std::span<PlotPoint> out, std::int16_t& count, double half_side, double field,
-                     double scale, double step) {
+                     double scale, double step, const Recorder& recorder, int parent) {
   const TrackSettings settings{field, track_limit(half_side), scale, step};
   TrackBuffer pion_tracks(limit);
   TrackBuffer proton_track(limit);
-  track_negative_pion_chain(the_pion, settings.for_negative(), pion_tracks);
-  track_particle(the_proton, {3, 3, 3, 6}, settings, proton_track);
+  PointOwners pion_owners;
+  PointOwners proton_owner;
+  const int proton_row = recorder.add(pdg::proton, parent, the_proton, Fate::left);
+  const int pion_row = recorder.add(-pdg::pion, parent, the_pion, Fate::left);
+  track_negative_pion_chain(the_pion, settings.for_negative(), pion_tracks,
+                            recorder.for_negative().into(pion_owners), pion_row);
+  track_particle(the_proton, {3, 3, 3, 6}, settings, proton_track, recorder.into(proton_owner),
+                 proton_row);
   combine_paths(pion_tracks.points(), proton_track.points(), out, count, limit);
+  recorder.merge(pion_owners, proton_owner, limit);
 }
 
-HandOver lambda_chain(const ChamberValues& values, TrackBuffer& event) {
+HandOver lambda_chain(const ChamberValues& values, TrackBuffer& event, ParticleRecord* record) {
+  const Recorder recorder(record, static_cast<double>(values.sides_cm));
   ParticleState the_lambda = primary_particle(lambda, static_cast<double>(values.kinetic_Mev));
+  const int row = recorder.add_primary(pdg::lambda, the_lambda, Fate::escaped);
   if (!neutral_path(the_lambda, half_chamber_side, drawing_scale(values))) {
     return HandOver::yes;
   }
+  recorder.vertex(row, Fate::decayed, the_lambda.position);
   if (rand_one() > lambda_charged_branching) {
-    run_neutral_mode(the_lambda, values, event);
+    run_neutral_mode(the_lambda, values, event, recorder, row);
   } else {
-    run_charged_mode(the_lambda, values, event);
+    run_charged_mode(the_lambda, values, event, recorder, row);
   }
   return HandOver::yes;
 }

@@ -7,6 +7,7 @@
 #include "engine/event_record.h"
 #include "engine/particles.h"
 #include "events/hand_over.h"
+#include "events/recorder.h"
 
 namespace velquon {
 
@@ -38,12 +39,17 @@ void lambda_to_neutrals(const ParticleState& parent, ParticleState& the_neutron,
 /// \param field     kG
 /// \param scale     drawing units per cm
 /// \param step      drawing units
+/// \param recorder  is told what became of both and whose points the merged list holds
+/// \param parent    row of the Lambda in the record
 void piminus_p_paths(ParticleState& the_pion, ParticleState& the_proton, std::int16_t limit,
                      std::span<PlotPoint> out, std::int16_t& count, double half_side, double field,
-                     double scale, double step);
+                     double scale, double step, const Recorder& recorder = {}, int parent = -1);
 
 /// A Lambda that flies unseen and decays in one of its two modes. An event without a visible track
 /// has no points.
-HandOver lambda_chain(const ChamberValues& values, TrackBuffer& event);
+/// \param event  receives the points
+/// \param record receives what happened, unless it is null
+HandOver lambda_chain(const ChamberValues& values, TrackBuffer& event,
+                      ParticleRecord* record = nullptr);
 
 }  // namespace velquon

@@ -57,33 +57,45 @@ void mu_to_e(const ParticleState& parent, ParticleState& daughter) {
   daughter.energy = std::sqrt(dot_product(daughter.momentum, daughter.momentum) + m * m);
 }
 
-HandOver pion_chain(const ChamberValues& values, TrackBuffer& event) {
+HandOver pion_chain(const ChamberValues& values, TrackBuffer& event, ParticleRecord* record) {
   const TrackSettings settings = settings_of(values);
+  const Recorder recorder(record, static_cast<double>(values.sides_cm));
   ParticleState the_pion = primary_particle(pion, static_cast<double>(values.kinetic_Mev));
-  if (track_particle(the_pion, {3, 4, 3, 4}, settings, event) == TrackEnd::stopped) {
+  const int pion_row = recorder.add_primary(pdg::pion, the_pion, Fate::left);
+  if (track_particle(the_pion, {3, 4, 3, 4}, settings, event, recorder, pion_row) ==
+      TrackEnd::stopped) {
     return HandOver::yes;
   }
   ParticleState the_muon = daughter_at_end(muon, event);
   pi_to_mu(the_pion, the_muon);
-  if (track_particle(the_muon, {4, 5, 4, 5}, settings, event) == TrackEnd::stopped) {
+  const int muon_row = recorder.add_decay(pion_decay, pion_row, the_pion, the_muon);
+  if (track_particle(the_muon, {4, 5, 4, 5}, settings, event, recorder, muon_row) ==
+      TrackEnd::stopped) {
     return HandOver::yes;
   }
   ParticleState the_electron = daughter_at_end(electron, event);
   mu_to_e(the_muon, the_electron);
-  const TrackEnd end = track_particle(the_electron, {5, 6, 5, 6}, settings, event);
+  const int electron_row = recorder.add_decay(muon_decay, muon_row, the_muon, the_electron);
+  const TrackEnd end =
+      track_particle(the_electron, {5, 6, 5, 6}, settings, event, recorder, electron_row);
   return end == TrackEnd::stopped ? HandOver::yes : HandOver::no;
 }
 
-HandOver muon_chain(const ChamberValues& values, TrackBuffer& event) {
+HandOver muon_chain(const ChamberValues& values, TrackBuffer& event, ParticleRecord* record) {
   const TrackSettings settings = settings_of(values);
+  const Recorder recorder(record, static_cast<double>(values.sides_cm));
   ParticleState the_muon = primary_particle(muon, static_cast<double>(values.kinetic_Mev));
-  if (track_particle(the_muon, {3, 4, 3, 4}, settings, event) == TrackEnd::stopped) {
+  const int muon_row = recorder.add_primary(-pdg::muon, the_muon, Fate::left);
+  if (track_particle(the_muon, {3, 4, 3, 4}, settings, event, recorder, muon_row) ==
+      TrackEnd::stopped) {
     return HandOver::yes;
   }
   ParticleState the_electron = daughter_at_end(electron, event);
   mu_to_e(the_muon, the_electron);
+  const int electron_row = recorder.add_decay(muon_decay, muon_row, the_muon, the_electron);
   // The end codes differ between helix and line on purpose.
-  const TrackEnd end = track_particle(the_electron, {4, 6, 4, 5}, settings, event);
+  const TrackEnd end =
+      track_particle(the_electron, {4, 6, 4, 5}, settings, event, recorder, electron_row);
   return end == TrackEnd::stopped ? HandOver::yes : HandOver::no;
 }
 

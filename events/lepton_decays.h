@@ -4,6 +4,7 @@
 #include "engine/event_record.h"
 #include "engine/particles.h"
 #include "events/hand_over.h"
+#include "events/particle_record.h"
 
 namespace velquon {
 
@@ -21,10 +22,13 @@ void mu_to_e(const ParticleState& parent, ParticleState& daughter);
 
 /// pi+ to mu+ to e+, from a pion that enters with the values' energy. A negative field makes the
 /// tracks curve as those of the negative chain.
-/// \param event receives the points
-HandOver pion_chain(const ChamberValues& values, TrackBuffer& event);
+/// \param event  receives the points
+/// \param record receives what happened, unless it is null
+HandOver pion_chain(const ChamberValues& values, TrackBuffer& event,
+                    ParticleRecord* record = nullptr);
 
 /// mu+ to e+, likewise.
-HandOver muon_chain(const ChamberValues& values, TrackBuffer& event);
+HandOver muon_chain(const ChamberValues& values, TrackBuffer& event,
+                    ParticleRecord* record = nullptr);
 
 }  // namespace velquon

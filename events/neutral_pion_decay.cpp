@@ -18,11 +18,11 @@ constexpr TrackCodes positron_codes{4, 3, 3, 6};
 
 /// A pair's lepton carries no energy yet, and the straight walk takes its polar angle from it.
 void track_lepton(ParticleState& lepton, const TrackCodes& codes, const TrackSettings& settings,
-                  TrackBuffer& buffer) {
+                  TrackBuffer& buffer, const Recorder& recorder, int row) {
   if (settings.straight()) {
     lepton.energy = total_energy(lepton.mass, magnitude(lepton.momentum));
   }
-  track_particle(lepton, codes, settings, buffer);
+  track_particle(lepton, codes, settings, buffer, recorder, row);
 }
 
 }  // namespace
@@ -60,41 +60,69 @@ void gamma_to_pair(const ParticleState& parent, ParticleState& the_electron,
 }
 
 void pair_paths(PhotonPair& pair, std::int16_t limit, std::span<PlotPoint> out, std::int16_t& count,
-                double half_side, double field, double scale, double step) {
+                double half_side, double field, double scale, double step,
+                const Recorder& recorder) {
   const TrackSettings settings{field, track_limit(half_side), scale, step};
   TrackBuffer electron_track(limit);
   TrackBuffer positron_track(limit);
-  track_lepton(pair.electron, electron_codes, settings.for_negative(), electron_track);
-  track_lepton(pair.positron, positron_codes, settings, positron_track);
+  PointOwners electron_owner;
+  PointOwners positron_owner;
+  track_lepton(pair.electron, electron_codes, settings.for_negative(), electron_track,
+               recorder.into(electron_owner), pair.electron_row);
+  track_lepton(pair.positron, positron_codes, settings, positron_track,
+               recorder.into(positron_owner), pair.positron_row);
   combine_paths(electron_track.points(), positron_track.points(), out, count, limit);
+  recorder.merge(electron_owner, positron_owner, limit);
 }
 
 void two_pairs(PhotonPair& pair1, PhotonPair& pair2, std::int16_t limit, std::span<PlotPoint> out,
-               std::int16_t& count, double half_side, double field, double scale, double step) {
+               std::int16_t& count, double half_side, double field, double scale, double step,
+               const Recorder& recorder) {
   TrackBuffer tracks1(limit);
   TrackBuffer tracks2(limit);
-  pair_paths(pair1, limit, tracks1.free_slots(), tracks1.count, half_side, field, scale, step);
-  pair_paths(pair2, limit, tracks2.free_slots(), tracks2.count, half_side, field, scale, step);
+  PointOwners owners1;
+  PointOwners owners2;
+  pair_paths(pair1, limit, tracks1.free_slots(), tracks1.count, half_side, field, scale, step,
+             recorder.into(owners1));
+  pair_paths(pair2, limit, tracks2.free_slots(), tracks2.count, half_side, field, scale, step,
+             recorder.into(owners2));
   combine_paths(tracks1.points(), tracks2.points(), out, count, limit);
+  recorder.merge(owners1, owners2, limit);
 }
 
-void lay_pair(PhotonPair& pair, const ChamberValues& values, TrackBuffer& event) {
+bool convert_photon(PhotonPair& pair, double scale, const Recorder& recorder, int parent) {
+  const int row = recorder.add(pdg::photon, parent, pair.photon, Fate::escaped);
+  if (!gamma_path(pair.photon, half_chamber_side, scale)) {
+    return false;
+  }
+  recorder.vertex(row, Fate::converted, pair.photon.position);
+  gamma_to_pair(pair.photon, pair.electron, pair.positron);
+  pair.electron_row = recorder.add_without_energy(pdg::electron, row, pair.electron);
+  pair.positron_row = recorder.add_without_energy(-pdg::electron, row, pair.positron);
+  return true;
+}
+
+void lay_pair(PhotonPair& pair, const ChamberValues& values, TrackBuffer& event,
+              const Recorder& recorder) {
   pair_paths(pair, event.limit(), event.free_slots(), event.count, half_chamber_side,
-             static_cast<double>(values.B_field), drawing_scale(values), track_step);
+             static_cast<double>(values.B_field), drawing_scale(values), track_step, recorder);
 }
 
 void lay_two_pairs(PhotonPair& pair1, PhotonPair& pair2, const ChamberValues& values,
-                   TrackBuffer& event) {
+                   TrackBuffer& event, const Recorder& recorder) {
   two_pairs(pair1, pair2, event.limit(), event.free_slots(), event.count, half_chamber_side,
-            static_cast<double>(values.B_field), drawing_scale(values), track_step);
+            static_cast<double>(values.B_field), drawing_scale(values), track_step, recorder);
 }
 
-HandOver pizero_chain(const ChamberValues& values, TrackBuffer& event) {
+HandOver pizero_chain(const ChamberValues& values, TrackBuffer& event, ParticleRecord* record) {
   const double scale = drawing_scale(values);
+  const Recorder recorder(record, static_cast<double>(values.sides_cm));
   ParticleState the_pizero = primary_particle(pizero, static_cast<double>(values.kinetic_Mev));
+  const int row = recorder.add_primary(pdg::pizero, the_pizero, Fate::escaped);
   if (!neutral_path(the_pizero, half_chamber_side, scale)) {
     return HandOver::yes;
   }
+  recorder.vertex(row, Fate::decayed, the_pizero.position);
   PhotonPair pair1;
   PhotonPair pair2;
   pair1.photon.position = the_pizero.position;
@@ -102,19 +130,12 @@ HandOver pizero_chain(const ChamberValues& values, TrackBuffer& event) {
   pizero_to_2gamma(the_pizero, pair1.photon, pair2.photon);
 
   // The first pair's draws come before the second photon's walk.
-  const auto converts = [scale](PhotonPair& pair) {
-    const bool inside = gamma_path(pair.photon, half_chamber_side, scale);
-    if (inside) {
-      gamma_to_pair(pair.photon, pair.electron, pair.positron);
-    }
-    return inside;
-  };
-  const bool first = converts(pair1);
-  const bool second = converts(pair2);
+  const bool first = convert_photon(pair1, scale, recorder, row);
+  const bool second = convert_photon(pair2, scale, recorder, row);
   if (first && second) {
-    lay_two_pairs(pair1, pair2, values, event);
+    lay_two_pairs(pair1, pair2, values, event, recorder);
   } else if (first || second) {
-    lay_pair(first ? pair1 : pair2, values, event);
+    lay_pair(first ? pair1 : pair2, values, event, recorder);
   }
   return HandOver::yes;
 }

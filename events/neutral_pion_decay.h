@@ -7,6 +7,7 @@
 #include "engine/event_record.h"
 #include "engine/particles.h"
 #include "events/hand_over.h"
+#include "events/recorder.h"
 
 namespace velquon {
 
@@ -15,6 +16,8 @@ struct PhotonPair {
   ParticleState photon = velquon::photon;
   ParticleState electron = velquon::electron;
   ParticleState positron = velquon::positron;
+  int electron_row = -1;  ///< of the leptons in the record, once the photon has converted
+  int positron_row = -1;
 };
 
 /// Decays a neutral pion to two photons, back to back and isotropic in its rest frame. Fills their
@@ -36,21 +39,35 @@ void gamma_to_pair(const ParticleState& parent, ParticleState& the_electron,
 /// \param field     kG
 /// \param scale     drawing units per cm
 /// \param step      drawing units
+/// \param recorder  is told whose points the merged list holds
 void pair_paths(PhotonPair& pair, std::int16_t limit, std::span<PlotPoint> out, std::int16_t& count,
-                double half_side, double field, double scale, double step);
+                double half_side, double field, double scale, double step,
+                const Recorder& recorder = {});
 
 /// Tracks two pairs and merges them; parameters as for `pair_paths`.
 void two_pairs(PhotonPair& pair1, PhotonPair& pair2, std::int16_t limit, std::span<PlotPoint> out,
-               std::int16_t& count, double half_side, double field, double scale, double step);
+               std::int16_t& count, double half_side, double field, double scale, double step,
+               const Recorder& recorder = {});
+
+/// Walks a photon and lets it convert if it does so in the chamber.
+/// \param parent row of the photon's parent in the record
+/// \param scale  drawing units per cm
+/// \return true when it converted; its leptons then have their positions and momenta
+[[nodiscard]] bool convert_photon(PhotonPair& pair, double scale, const Recorder& recorder,
+                                  int parent);
 
 /// Lays the pairs of an event's photons into it; `pair_paths` or `two_pairs` with the event's
 /// values.
-void lay_pair(PhotonPair& pair, const ChamberValues& values, TrackBuffer& event);
+void lay_pair(PhotonPair& pair, const ChamberValues& values, TrackBuffer& event,
+              const Recorder& recorder);
 void lay_two_pairs(PhotonPair& pair1, PhotonPair& pair2, const ChamberValues& values,
-                   TrackBuffer& event);
+                   TrackBuffer& event, const Recorder& recorder);
 
 /// pi0 to two photons, each of which may convert in the chamber. An event in which none does has no
 /// points.
-HandOver pizero_chain(const ChamberValues& values, TrackBuffer& event);
+/// \param event  receives the points
+/// \param record receives what happened, unless it is null
+HandOver pizero_chain(const ChamberValues& values, TrackBuffer& event,
+                      ParticleRecord* record = nullptr);
 
 }  // namespace velquon

@@ -10,8 +10,10 @@ void rotate_p(Vector3& momentum, double angle) {
               py * std::cos(angle) - px * std::sin(angle), pz};
 }
 
-TrackEnd track_particle(ParticleState& particle, const TrackCodes& codes,
-                        const TrackSettings& settings, TrackBuffer& buffer) {
+namespace {
+
+TrackEnd lay_track(ParticleState& particle, const TrackCodes& codes, const TrackSettings& settings,
+                   TrackBuffer& buffer) {
   if (settings.straight()) {
     return straight_path_calculation(particle, buffer.limit(), buffer.count, codes.straight,
                                      codes.straight_end, buffer.free_slots(), settings.bound,
@@ -26,6 +28,18 @@ TrackEnd track_particle(ParticleState& particle, const TrackCodes& codes,
   if (end == TrackEnd::decayed) {
     rotate_p(particle.momentum, -path.phi);
   }
+  return end;
+}
+
+}  // namespace
+
+TrackEnd track_particle(ParticleState& particle, const TrackCodes& codes,
+                        const TrackSettings& settings, TrackBuffer& buffer,
+                        const Recorder& recorder, int row) {
+  const auto first = static_cast<std::size_t>(buffer.count);
+  const TrackEnd end = lay_track(particle, codes, settings, buffer);
+  recorder.track(row, settings.straight() ? codes.straight : codes.curved,
+                 buffer.points().subspan(first), end, buffer.count == buffer.limit());
   return end;
 }
 

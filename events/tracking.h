@@ -6,6 +6,7 @@
 #include "engine/charged_track.h"
 #include "engine/event_record.h"
 #include "engine/particles.h"
+#include "events/recorder.h"
 
 namespace velquon {
 
@@ -50,8 +51,11 @@ void rotate_p(Vector3& momentum, double angle);
 
 /// Lays the track of a positive particle behind the points of `buffer`. When it decays on a helix
 /// its momentum is turned to the direction at the decay point.
+/// \param recorder is told what became of the particle
+/// \param row      of the particle in the record
 TrackEnd track_particle(ParticleState& particle, const TrackCodes& codes,
-                        const TrackSettings& settings, TrackBuffer& buffer);
+                        const TrackSettings& settings, TrackBuffer& buffer,
+                        const Recorder& recorder = {}, int row = -1);
 
 /// A daughter of the particle whose decay point is the last one of `buffer`, at rest there.
 [[nodiscard]] ParticleState daughter_at_end(const ParticleState& particle_template,

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <vector>
 
+#include "events/event_types.h"
 #include "events/lepton_decays.h"
 #include "tests/support/event_making.h"
 #include "tests/support/scripted_rand.h"
@@ -127,19 +128,19 @@ TEST(MuonChain, AnElectronThatLeavesHandsTheEventOver) {
 }
 
 TEST(LeptonChains, APrimaryThatLeavesEndsTheChain) {
-  for (HandOver (*chain)(const ChamberValues&, TrackBuffer&) : {pion_chain, muon_chain}) {
+  for (const DecayChain chain : {pion_chain, muon_chain}) {
     TrackBuffer event;
     const ScriptedRand script({}, lowest_draw);
-    EXPECT_EQ(chain(straight, event), HandOver::yes);
+    EXPECT_EQ(chain(straight, event, nullptr), HandOver::yes);
     EXPECT_EQ(testing::codes_of(event.points()), Codes(40, 3));
   }
 }
 
 TEST(LeptonChains, AtTheLimitAnEventHasExactly350PointsAndNoEndPoint) {
-  for (HandOver (*chain)(const ChamberValues&, TrackBuffer&) : {pion_chain, muon_chain}) {
+  for (const DecayChain chain : {pion_chain, muon_chain}) {
     TrackBuffer event;
     const ScriptedRand script({}, lowest_draw);
-    EXPECT_EQ(chain(spiral, event), HandOver::yes);
+    EXPECT_EQ(chain(spiral, event, nullptr), HandOver::yes);
     EXPECT_EQ(testing::codes_of(event.points()), Codes(350, 3));
     EXPECT_EQ(script.draws(), 350U);
   }

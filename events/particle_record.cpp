@@ -1,0 +1,17 @@
+#include "events/particle_record.h"
+
+namespace velquon {
+
+std::string_view name_of(Fate fate) {
+  constexpr std::array<std::string_view, 6> names{"decayed", "converted", "left",
+                                                  "full",    "escaped",   "undetected"};
+  return names[static_cast<std::size_t>(fate)];
+}
+
+void ParticleRecord::clear() {
+  size_ = 0;
+  owners_.clear();
+  merged_ = false;
+}
+
+}  // namespace velquon
