@@ -1,84 +1,123 @@
 #include "tools/event_output.h"
 
-#include <array>
-#include <cstdlib>
+#include <fstream>
+#include <sstream>
 #include <string>
 #include <system_error>
 
-#include "files/atomic_file.h"
-#include "files/event_file.h"
-#include "tools/csv_writer.h"
 #include "tools/microsecond_seed.h"
+#include "tools/progress.h"
+#include "tools/seed_runs.h"
+#include "tools/summary.h"
 
 namespace velquon {
 
 namespace {
 
-int report(std::FILE* messages, const std::string& name, const std::error_code& error) {
-  std::fprintf(messages, "velquon-events: cannot write %s: %s\n", as_one_line(name).c_str(),
-               error.message().c_str());
-  return 1;
+std::uint32_t seed_of(const EventOptions& options) {
+  return options.seed ? *options.seed : microsecond_seed();
 }
 
-/// Makes one event; one that its chain does not hand over has no points.
-void make_next_event(const EventOptions& options, TrackBuffer& event) {
-  if (make_event(*options.type, options.values, event) == HandOver::no) {
-    event.count = 0;
-  }
-}
-
-int write_csv(const EventOptions& options, std::FILE* out, std::FILE* messages) {
-  CsvWriter writer(output_to(out));
-  TrackBuffer event;
-  for (std::uint64_t number = 1; number <= options.events; ++number) {
-    make_next_event(options, event);
-    if (const std::error_code error = writer.write(number, event.points())) {
-      return report(messages, "standard output", error);
+/// A clock is not read after every event.
+EventCounter counter_of(Progress& progress, std::uint64_t events) {
+  return [&progress, events](std::uint64_t done) {
+    if (done % 64 == 0 || done == events) {
+      progress.show(done);
     }
-  }
-  if (const std::error_code error = writer.finish()) {
-    return report(messages, "standard output", error);
-  }
-  return 0;
+  };
 }
 
-std::filesystem::path event_file_path(const std::filesystem::path& folder, std::uint64_t number) {
-  std::string digits = std::to_string(number);
-  digits.insert(0, digits.size() < 6 ? 6 - digits.size() : 0, '0');
-  return folder / ("event-" + digits + ".cwd");
+int write_one_target(const EventOptions& options, std::FILE* out, std::FILE* messages) {
+  OutputTarget target;
+  if (options.output) {
+    std::error_code none;
+    const bool folder = std::filesystem::is_directory(*options.output, none);
+    const auto path =
+        folder ? *options.output / traits_of(options.format).file_name : *options.output;
+    if (const std::error_code error = target.open(path)) {
+      return report(messages, {path.string(), error});
+    }
+  } else {
+    target.use(out);
+  }
+  Progress progress = progress_on(messages, options.progress, options.events);
+  const auto failure =
+      run_into_target(options, seed_of(options), target, counter_of(progress, options.events));
+  progress.end();
+  return failure ? report(messages, *failure) : 0;
 }
 
 int write_event_files(const EventOptions& options, std::FILE* messages) {
-  std::error_code folder_error;
-  if (!std::filesystem::is_directory(options.output, folder_error)) {
-    return report(messages, event_file_path(options.output, 1).string(),
-                  folder_error ? folder_error : std::make_error_code(std::errc::not_a_directory));
-  }
-  TrackBuffer event;
-  std::uint64_t empty = 0;
-  for (std::uint64_t number = 1; number <= options.events; ++number) {
-    make_next_event(options, event);
-    if (event.count == 0) {
-      ++empty;
-      continue;
-    }
-    const auto path = event_file_path(options.output, number);
-    if (const auto error =
-            write_file_atomically(path, encode_event(event.points(), options.values))) {
-      return report(messages, path.string(), error);
-    }
+  Progress progress = progress_on(messages, options.progress, options.events);
+  const auto result = run_into_event_files(options, seed_of(options), options.output.value_or("."),
+                                           counter_of(progress, options.events));
+  progress.end();
+  if (result.failure) {
+    return report(messages, *result.failure);
   }
   std::fprintf(messages, "velquon-events: %llu of %llu events had no points and got no file\n",
-               static_cast<unsigned long long>(empty),
+               static_cast<unsigned long long>(result.without_points),
                static_cast<unsigned long long>(options.events));
   return 0;
 }
 
+int refuse_summary(std::FILE* messages, const std::filesystem::path& path,
+                   const std::string& reason) {
+  std::fprintf(messages, "velquon-events: cannot add %s: %s\n", as_one_line(path.string()).c_str(),
+               as_one_line(reason).c_str());
+  return 1;
+}
+
+/// The text of a file; an empty one when it cannot be read, with errno set.
+std::string text_of(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::ostringstream text;
+  text << file.rdbuf();
+  return file ? text.str() : std::string();
+}
+
+int add_summaries(const EventOptions& options, std::FILE* out, std::FILE* messages) {
+  std::optional<Summary> total;
+  for (const auto& path : options.summaries) {
+    errno = 0;
+    const std::string text = text_of(path);
+    if (text.empty()) {
+      const std::error_code error(errno, std::generic_category());
+      return refuse_summary(messages, path, error ? error.message() : "it is empty");
+    }
+    const auto read = summary_from_json(text);
+    if (const auto* reason = std::get_if<std::string>(&read)) {
+      return refuse_summary(messages, path, *reason);
+    }
+    const auto& summary = std::get<Summary>(read);
+    if (!total) {
+      total = summary;
+    } else if (const std::string reason = total->add(summary); !reason.empty()) {
+      return refuse_summary(messages, path, reason);
+    }
+  }
+  const std::string text = to_json(total.value());
+  const std::error_code error = output_to(out)(std::as_bytes(std::span(text)));
+  return error ? report(messages, {"standard output", error}) : 0;
+}
+
 }  // namespace
 
+int report(std::FILE* messages, const WriteFailure& failure) {
+  std::fprintf(messages, "velquon-events: cannot write %s: %s\n", as_one_line(failure.name).c_str(),
+               failure.error.message().c_str());
+  return 1;
+}
+
 int write_events(const EventOptions& options, std::FILE* out, std::FILE* messages) {
-  std::srand(options.seed ? *options.seed : microsecond_seed());
-  return options.csv ? write_csv(options, out, messages) : write_event_files(options, messages);
+  if (!options.summaries.empty()) {
+    return add_summaries(options, out, messages);
+  }
+  if (options.seeds) {
+    return run_seeds(options, messages);
+  }
+  return options.format == EventFormat::cwd ? write_event_files(options, messages)
+                                            : write_one_target(options, out, messages);
 }
 
 }  // namespace velquon

@@ -15,5 +15,7 @@ int main(int argc, char** argv) {
   }
   // A file that grows beyond the user's limit is to be an error like any other, and leave no half.
   std::signal(SIGXFSZ, SIG_IGN);
+  // So is a reader that has closed its end of a pipe.
+  std::signal(SIGPIPE, SIG_IGN);
   return velquon::write_events(*parsed.options, stdout, stderr);
 }

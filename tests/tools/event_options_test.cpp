@@ -41,8 +41,8 @@ TEST(EventOptions, DefaultsAreTheStartUpValues) {
   EXPECT_EQ(options.values.kinetic_Mev, 0.4F);
   EXPECT_FALSE(options.seed.has_value());
   EXPECT_EQ(options.events, 1U);
-  EXPECT_TRUE(options.csv);
-  EXPECT_EQ(options.output, ".");
+  EXPECT_EQ(options.format, EventFormat::csv);
+  EXPECT_FALSE(options.output.has_value());
 }
 
 TEST(EventOptions, EveryTypeHasItsName) {
@@ -61,7 +61,7 @@ TEST(EventOptions, AllCanBeGiven) {
   EXPECT_EQ(options.values.kinetic_Mev, 5.5F);
   EXPECT_EQ(options.seed, 34U);
   EXPECT_EQ(options.events, 12U);
-  EXPECT_FALSE(options.csv);
+  EXPECT_EQ(options.format, EventFormat::cwd);
   EXPECT_EQ(options.output, "some/where");
 }
 
@@ -83,6 +83,38 @@ TEST(EventOptions, NumbersHaveTheirUsualForms) {
   EXPECT_EQ(options_of({"--type", "pi-", "--seed", "4294967295"}).seed, 4294967295U);
   EXPECT_EQ(options_of({"--type", "pi-", "--events", "0"}).events, 0U);
   EXPECT_EQ(options_of({"--type", "pi-", "--events", "1000000000"}).events, 1000000000U);
+}
+
+TEST(EventOptions, EveryFormatHasItsName) {
+  for (const FormatTraits& format : event_formats()) {
+    const std::string key(format.key);
+    const EventOptions options =
+        options_of(key == "csv" ? Words{"--type", "pi-", "--format", key}
+                                : Words{"--type", "pi-", "--format", key, "--output", "somewhere"});
+    EXPECT_EQ(options.format, format.format);
+  }
+}
+
+TEST(EventOptions, ManySeedsCanBeGiven) {
+  const EventOptions options = options_of({"--type", "pi-", "--seeds", "0-4294967295", "--jobs",
+                                           "16", "--resume", "--progress", "--output", "runs"});
+  ASSERT_TRUE(options.seeds.has_value());
+  EXPECT_EQ(options.seeds->first, 0U);
+  EXPECT_EQ(options.seeds->last, 4294967295U);
+  EXPECT_EQ(options.seeds->size(), 4294967296U);
+  EXPECT_EQ(options.jobs, 16U);
+  EXPECT_TRUE(options.resume);
+  EXPECT_TRUE(options.progress);
+  const EventOptions usual = options_of({"--type", "pi-", "--seeds", "3-3"});
+  EXPECT_EQ(usual.seeds->size(), 1U);
+  EXPECT_EQ(usual.jobs, 1U);
+  EXPECT_FALSE(usual.resume);
+  EXPECT_FALSE(usual.progress);
+}
+
+TEST(EventOptions, SummariesToAddNeedNoType) {
+  const EventOptions options = options_of({"--add-summaries", "a.json", "b.json"});
+  EXPECT_EQ(options.summaries, (std::vector<std::filesystem::path>{"a.json", "b.json"}));
 }
 
 class HostileCommandLine : public ::testing::TestWithParam<Words> {};
@@ -131,6 +163,22 @@ INSTANTIATE_TEST_SUITE_P(
                       with_type({"--events", "99999999999999999999"})));
 
 INSTANTIATE_TEST_SUITE_P(
+    ManySeeds, HostileCommandLine,
+    ::testing::Values(with_type({"--seeds"}), with_type({"--seeds", ""}),
+                      with_type({"--seeds", "5"}), with_type({"--seeds", "5-"}),
+                      with_type({"--seeds", "-5"}), with_type({"--seeds", "6-5"}),
+                      with_type({"--seeds", "1-4294967296"}), with_type({"--seeds", "1-2-3"}),
+                      with_type({"--seeds", "1 - 2"}), with_type({"--seeds", "a-b"}),
+                      with_type({"--seeds", "1-2", "--seed", "1"}), with_type({"--jobs", "2"}),
+                      with_type({"--seeds", "1-2", "--jobs", "0"}),
+                      with_type({"--seeds", "1-2", "--jobs", "-1"}),
+                      with_type({"--seeds", "1-2", "--jobs", "1025"}),
+                      with_type({"--seeds", "1-2", "--jobs", "two"}), with_type({"--resume"}),
+                      with_type({"--seeds", "1-2", "--resume=maybe"}),
+                      with_type({"--format", "npy"}), with_type({"--add-summaries", "a.json"}),
+                      Words{"--add-summaries"}, Words{"--add-summaries", "a.json", "--seed", "1"}));
+
+INSTANTIATE_TEST_SUITE_P(
     Others, HostileCommandLine,
     ::testing::Values(with_type({"--format", "xml"}), with_type({"--format", "CSV"}),
                       with_type({"--output", "/tmp"}), with_type({"--format", "cwd", "--output"}),
@@ -168,8 +216,9 @@ TEST(EventOptions, HelpAndVersionAreNoErrors) {
   const auto help = parsed({"--help"});
   EXPECT_FALSE(help.options.has_value());
   EXPECT_EQ(help.status, 0);
-  for (const char* option : {"--type", "--field", "--side", "--energy", "--seed", "--events",
-                             "--format", "--output", "--version"}) {
+  for (const char* option :
+       {"--type", "--field", "--side", "--energy", "--seed", "--events", "--format", "--output",
+        "--version", "--seeds", "--jobs", "--resume", "--progress", "--add-summaries"}) {
     EXPECT_NE(help.message.find(option), std::string::npos) << option;
   }
   const auto version = parsed({"--version"});

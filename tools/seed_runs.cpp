@@ -1,0 +1,234 @@
+#include "tools/seed_runs.h"
+
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <map>
+#include <string>
+
+#include "tools/event_output.h"
+#include "tools/event_run.h"
+#include "tools/partial_folder.h"
+#include "tools/progress.h"
+#include "tools/shared_count.h"
+
+namespace velquon {
+
+namespace {
+
+constexpr std::uint64_t counting_step = 64;
+
+/// Holds the signals that the run waits for, and gives workers the mask that was before.
+class WaitedSignals {
+ public:
+  WaitedSignals() {
+    ::sigemptyset(&waited_);
+    for (const int signal : {SIGCHLD, SIGINT, SIGTERM, SIGHUP}) {
+      ::sigaddset(&waited_, signal);
+    }
+    ::sigprocmask(SIG_BLOCK, &waited_, &before_);
+  }
+  ~WaitedSignals() { restore(); }
+  WaitedSignals(const WaitedSignals&) = delete;
+  WaitedSignals& operator=(const WaitedSignals&) = delete;
+  WaitedSignals(WaitedSignals&&) = delete;
+  WaitedSignals& operator=(WaitedSignals&&) = delete;
+
+  void restore() const { ::sigprocmask(SIG_SETMASK, &before_, nullptr); }
+
+  /// \return the signal that came, 0 when none did for a fifth of a second
+  [[nodiscard]] int next() const {
+    const timespec patience{0, 200'000'000};
+    const int signal = ::sigtimedwait(&waited_, nullptr, &patience);
+    return signal < 0 ? 0 : signal;
+  }
+
+ private:
+  sigset_t waited_{};
+  sigset_t before_{};
+};
+
+/// The run of all seeds, as the process sees it that starts the workers.
+class SeedRuns {
+ public:
+  SeedRuns(const EventOptions& options, std::FILE* messages)
+      : options_(options),
+        messages_(messages),
+        progress_(progress_on(messages, options.progress, options.seeds->size() * options.events)) {
+  }
+
+  int run() {
+    std::uint64_t next = options_.seeds->first;
+    while (true) {
+      for (; stopped_by_ == 0 && !unwritable_ && next <= options_.seeds->last &&
+             workers_.size() < options_.jobs;
+           ++next) {
+        start(static_cast<std::uint32_t>(next));
+      }
+      if (workers_.empty()) {
+        break;
+      }
+      wait();
+    }
+    progress_.end();
+    return outcome();
+  }
+
+ private:
+  void start(std::uint32_t seed);
+  [[nodiscard]] int work(std::uint32_t seed);
+  void wait();
+  void stop(int signal);
+  void collect();
+  void tell_end_of(std::uint32_t seed, int status);
+  [[nodiscard]] int outcome() const;
+
+  const EventOptions& options_;
+  std::FILE* messages_;
+  Progress progress_;
+  WaitedSignals signals_;
+  SharedCount done_;
+  std::map<pid_t, std::uint32_t> workers_;  ///< by process, the seed
+  std::uint64_t complete_ = 0;
+  std::uint64_t failed_ = 0;
+  int stopped_by_ = 0;
+  /// A file could not be written, and the next ones are not tried.
+  bool unwritable_ = false;
+};
+
+void SeedRuns::start(std::uint32_t seed) {
+  std::error_code none;
+  if (options_.resume && std::filesystem::exists(seed_path(options_, seed), none)) {
+    done_.add(options_.events);
+    ++complete_;
+    return;
+  }
+  const pid_t parent = ::getpid();
+  const pid_t worker = ::fork();
+  if (worker == 0) {
+    ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+    signals_.restore();
+    // Its parent may have gone before it asked to go with it.
+    const int status = ::getppid() == parent ? work(seed) : 1;
+    std::fflush(nullptr);
+    ::_exit(status);
+  }
+  if (worker < 0) {
+    std::fprintf(messages_, "velquon-events: cannot start a worker for seed %u: %s\n", seed,
+                 std::strerror(errno));
+    ++failed_;
+    return;
+  }
+  workers_.emplace(worker, seed);
+}
+
+int SeedRuns::work(std::uint32_t seed) {
+  const auto path = seed_path(options_, seed);
+  const EventCounter counter = [this](std::uint64_t number) {
+    if (number % counting_step == 0) {
+      done_.add(counting_step);
+    } else if (number == options_.events) {
+      done_.add(number % counting_step);
+    }
+  };
+  if (options_.format != EventFormat::cwd) {
+    OutputTarget target;
+    if (const std::error_code error = target.open(path)) {
+      return report(messages_, {path.string(), error});
+    }
+    const auto failure = run_into_target(options_, seed, target, counter);
+    return failure ? report(messages_, *failure) : 0;
+  }
+  FolderInTheMaking folder(path);
+  if (const std::error_code error = folder.begin()) {
+    return report(messages_, {path.string(), error});
+  }
+  const auto result = run_into_event_files(options_, seed, folder.path(), counter);
+  if (result.failure) {
+    const auto name = path / std::filesystem::path(result.failure->name).filename();
+    return report(messages_, {name.string(), result.failure->error});
+  }
+  const std::error_code error = folder.commit();
+  return error ? report(messages_, {path.string(), error}) : 0;
+}
+
+void SeedRuns::wait() {
+  const int signal = signals_.next();
+  if (signal != 0 && signal != SIGCHLD && stopped_by_ == 0) {
+    stop(signal);
+  }
+  collect();
+  progress_.show(done_.value());
+}
+
+void SeedRuns::stop(int signal) {
+  stopped_by_ = signal;
+  for (const auto& [worker, seed] : workers_) {
+    ::kill(worker, SIGTERM);
+  }
+}
+
+void SeedRuns::collect() {
+  // One signal may stand for several workers.
+  int status = 0;
+  for (pid_t worker = 0; (worker = ::waitpid(-1, &status, WNOHANG)) > 0;) {
+    const auto found = workers_.find(worker);
+    if (found != workers_.end()) {
+      tell_end_of(found->second, status);
+      workers_.erase(found);
+    }
+  }
+}
+
+void SeedRuns::tell_end_of(std::uint32_t seed, int status) {
+  if (WIFEXITED(status) && WEXITSTATUS(status) == 0) {
+    ++complete_;
+    return;
+  }
+  ++failed_;
+  if (!WIFSIGNALED(status)) {
+    unwritable_ = true;  // it has said itself what went wrong
+    return;
+  }
+  if (options_.format == EventFormat::cwd) {
+    std::error_code ignored;
+    std::filesystem::remove_all(partial_folder(seed_path(options_, seed)), ignored);
+  }
+  if (stopped_by_ == 0) {
+    std::fprintf(messages_, "velquon-events: the worker of seed %u was ended by signal %d (%s)\n",
+                 seed, WTERMSIG(status), ::strsignal(WTERMSIG(status)));
+  }
+}
+
+int SeedRuns::outcome() const {
+  if (stopped_by_ != 0) {
+    std::fprintf(messages_,
+                 "velquon-events: ended by signal %d (%s), %llu of %llu seeds are complete\n",
+                 stopped_by_, ::strsignal(stopped_by_), static_cast<unsigned long long>(complete_),
+                 static_cast<unsigned long long>(options_.seeds->size()));
+    return 128 + stopped_by_;
+  }
+  return failed_ == 0 ? 0 : 1;
+}
+
+}  // namespace
+
+std::filesystem::path seed_path(const EventOptions& options, std::uint32_t seed) {
+  return options.output.value_or(".") /
+         ("seed-" + std::to_string(seed) + std::string(traits_of(options.format).extension));
+}
+
+int run_seeds(const EventOptions& options, std::FILE* messages) {
+  std::error_code error;
+  if (!std::filesystem::is_directory(options.output.value_or("."), error)) {
+    const auto why = error ? error : std::make_error_code(std::errc::not_a_directory);
+    return report(messages, {seed_path(options, options.seeds->first).string(), why});
+  }
+  return SeedRuns(options, messages).run();
+}
+
+}  // namespace velquon
