@@ -249,13 +249,14 @@ check_manual_examples() {
   local folder=$work/examples counts
   fresh_folder "$folder"
   page_text velquon-events |
-    sed -n '/^\.EX/,/^\.EE/{/^\.E/d; s/^\$ //; s/\\-/-/g; s/\\(aq/'"'"'/g; s/\\e$/\\/; p}' \
+    sed -n '/^\.SH EXAMPLES/,$!d; /^\.EX/,/^\.EE/{/^\.E/d; s/^\$ //; s/\\-/-/g; s/\\(aq/'"'"'/g; s/\\e$/\\/; p}' \
     >"$folder/examples.sh"
   counts=$(cd "$folder" && PATH=$tree/usr/bin:$PATH bash -euo pipefail examples.sh) ||
     fail "an example ends with an error"
   same "the table's header" event,point,x,y,z,code "$(head -n 1 "$folder/event.csv")"
   [ "$(wc -l <"$folder/event.csv")" -gt 2 ] || fail "the table has no points"
   compgen -G "$folder/lambdas/event-000*.cwd" >/dev/null || fail "no event files were made"
+  grep -q '^  "events": 1000,$' "$folder/pions.json" || fail "the summaries do not add up"
   grep -qE '^1 [0-9]+$' <<<"$counts" || fail "no points were counted"
 }
 
