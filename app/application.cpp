@@ -46,7 +46,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
 
 Application::~Application() = default;
 
-void Application::showWindows(const std::future<void>& glut) {
+void Application::showWindows() {
   constexpr QPoint chamber_corner(20, 20);
   constexpr int gap = 16;
   // adjustSize would leave a third of the screen free and cut the pictures on a low one.
@@ -62,9 +62,6 @@ void Application::showWindows(const std::future<void>& glut) {
   projector_window_->setAttribute(Qt::WA_ShowWithoutActivating);
   projector_window_->show();
   projector_window_->setAttribute(Qt::WA_ShowWithoutActivating, false);
-  if (glut.valid()) {
-    glut.wait();
-  }
   chamber_window_->makeKeyAndOrderFront();
 }
 

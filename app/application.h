@@ -3,7 +3,6 @@
 #include <QObject>
 #include <array>
 #include <cstdint>
-#include <future>
 #include <memory>
 #include <optional>
 
@@ -35,8 +34,7 @@ class Application : public QObject {
   Application& operator=(Application&&) = delete;
 
   /// Puts the chamber and projector windows on the screen, side by side.
-  /// \param glut what the chamber's window waits for: its view draws with GLUT
-  void showWindows(const std::future<void>& glut = {});
+  void showWindows();
 
   [[nodiscard]] Menus& menus() { return *menus_; }
   [[nodiscard]] ChamberWindow& chamberWindow() { return *chamber_window_; }

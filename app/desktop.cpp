@@ -18,14 +18,12 @@ void prepare_desktop() {
   use_compatibility_contexts();
 }
 
-std::future<void> start_glut() {
-  return std::async(std::launch::async, [] {
-    // The options that GLUT knows are not for the user.
-    char name[] = "velquon";
-    std::array<char*, 2> arguments{name, nullptr};
-    int count = 1;
-    glutInit(&count, arguments.data());
-  });
+void start_glut() {
+  // The options that GLUT knows are not for the user.
+  char name[] = "velquon";
+  std::array<char*, 2> arguments{name, nullptr};
+  int count = 1;
+  glutInit(&count, arguments.data());
 }
 
 void finish_desktop() {

@@ -40,16 +40,15 @@ int main(int argc, char** argv) {
         1);
   }
   velquon::prepare_desktop();
-  const std::future<void> glut = velquon::start_glut();
   const QApplication qt_application(argc, argv);
+  velquon::start_glut();
   velquon::finish_desktop();
   velquon::DesktopDialogs dialogs;
   velquon::Application application(parsed.options->seed, dialogs);
   if (!parsed.options->pictures.isEmpty()) {
-    glut.wait();
     return velquon::save_pictures(application, parsed.options->pictures);
   }
-  application.showWindows(glut);
+  application.showWindows();
   const QString& file = parsed.options->file;
   if (!file.isEmpty() && !application.documents().application_openFile(file)) {
     std::fprintf(stderr, "velquon: cannot open %s\n", qPrintable(velquon::as_one_line(file)));

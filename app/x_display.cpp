@@ -18,8 +18,6 @@ bool has_opengl(Display* display) {
 }  // namespace
 
 std::string missing_for_windows() {
-  // The first call of the X library; GLUT has its display in another thread than the windows have.
-  XInitThreads();
   const char* const name = std::getenv("DISPLAY");
   if (name == nullptr || *name == '\0') {
     return "there is no X display to show windows on (DISPLAY is not set)";

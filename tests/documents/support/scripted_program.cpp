@@ -80,7 +80,7 @@ int run(const QStringList& arguments) {
 int main(int argc, char** argv) {
   velquon::prepare_desktop();
   const QApplication qt_application(argc, argv);
-  velquon::start_glut().wait();
+  velquon::start_glut();
   velquon::finish_desktop();
   return velquon::test::run(QApplication::arguments());
 }
