@@ -16,6 +16,11 @@ GLView::GLView(QWidget* parent) : QOpenGLWidget(parent) {
   present_soon_.setSingleShot(true);
   present_soon_.setTimerType(Qt::PreciseTimer);
   connect(&present_soon_, &QTimer::timeout, this, &GLView::present);
+  // On a screen with another ratio of pixels the view gets an empty framebuffer and no `resizeGL`.
+  connect(this, &QOpenGLWidget::resized, this, [this] {
+    stale_ = true;
+    update();
+  });
 }
 
 void GLView::display() {
@@ -51,7 +56,8 @@ void GLView::drawAndPresentSoon() {
   makeCurrent();
   runDrawingPass();
   if (!present_soon_.isActive()) {
-    present_soon_.start(static_cast<int>(std::ceil(secondsToNextFrame() * 1000.0)));
+    // The pass may have taken longer than a frame.
+    present_soon_.start(static_cast<int>(std::ceil(std::max(secondsToNextFrame(), 0.0) * 1000.0)));
   }
 }
 
