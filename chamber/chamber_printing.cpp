@@ -3,6 +3,7 @@
 #include <GL/gl.h>
 
 #include <QPainter>
+#include <cstdio>
 
 #include "chamber/chamber_scene.h"
 #include "chamber/chamber_view.h"
@@ -13,6 +14,7 @@ namespace velquon {
 namespace {
 
 constexpr QPointF page_offset{-80.0, 120.0};
+constexpr QPointF apology_place{120.0, 400.0};
 
 }  // namespace
 
@@ -34,14 +36,20 @@ void ChamberView::drawForPrinting() {
     popProjectionMatrix();
   }
   glViewport(0, 0, chamber_width, chamber_height);
-  const FeedbackPicture picture = draw_into_feedback(point_number_, [this] {
+  const auto picture = draw_into_feedback(point_number_, [this] {
     drawChamber();
     draw_solid_cubes(shownPoints(), paper_cube_side, true);
   });
-  for (const auto& [start, end] : picture.lines) {
+  if (!picture) {
+    std::fputs("velquon: the OpenGL driver does not hand the chamber's picture over for printing\n",
+               stderr);
+    print_text(*page_, apology_place, tr("The graphics driver did not hand the picture over."));
+    return;
+  }
+  for (const auto& [start, end] : picture->lines) {
     page_->drawLine(start + page_offset, end + page_offset);
   }
-  for (const QRectF& cube : picture.cubes) {
+  for (const QRectF& cube : picture->cubes) {
     page_->fillRect(cube.translated(page_offset), page_->pen().color());
   }
 }

@@ -1,27 +1,21 @@
-// The turntable and the replay of the chamber view.
+// The turntable of the chamber view.
 
 #include <GL/gl.h>
 
 #include <QAction>
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "chamber/chamber_view.h"
-#include "platform/clock.h"
-#include "platform/delayed_message.h"
 
 namespace velquon {
 
 namespace {
 
 constexpr float step_degrees = 0.5F;
-constexpr std::int32_t replay_pause = 10'000;  // microseconds
-
-// A turntable that is later than that, after the program stood still for a while, does not catch
-// up.
-constexpr std::uint64_t most_lateness = 250'000;  // microseconds
-
 constexpr double microseconds_per_second = 1.0e6;
+constexpr double microseconds_per_millisecond = 1.0e3;
 
 }  // namespace
 
@@ -45,38 +39,28 @@ void ChamberView::doRotation(QAction* sender) {
     return;
   }
   is_rotating_ = true;
-  next_step_at_ = Microseconds();
-  scheduleRotation(0.0);
-}
-
-void ChamberView::scheduleRotation(double seconds) {
-  perform_after(seconds, this, [this] { rotate(); });
+  pace_.start(clock_());
+  // The one timer keeps a stop and a start at once from leaving two chains of steps.
+  step_timer_.start(0);
 }
 
 void ChamberView::rotate() {
   if (!is_rotating_ || !makeContextCurrent()) {
     return;
   }
-  // A step is due a delay after the one before it was, however late that came: what a frame costs
-  // does not slow the turntable down. The steps that fell due while a frame was drawn are made at
-  // once, as a message for each would have to wait behind the next frame.
-  const std::uint64_t now = Microseconds();
-  if (now > next_step_at_ + most_lateness) {
-    next_step_at_ = now;
-  }
-  const auto delay = static_cast<std::uint64_t>(rot_delay_ * microseconds_per_second);
-  const std::uint64_t late = now > next_step_at_ ? now - next_step_at_ : 0;
-  const std::uint64_t steps_due = 1 + late / delay;
-  next_step_at_ += steps_due * delay;
-  scheduleRotation(next_step_at_ > now
-                       ? static_cast<double>(next_step_at_ - now) / microseconds_per_second
-                       : 0.0);
+  // What a frame costs does not slow the turntable down. The steps that fell due while a frame was
+  // drawn are made at once, as a message for each would have to wait behind the next frame.
+  const std::uint64_t now = clock_();
+  const auto delay = static_cast<std::uint64_t>(std::llround(rot_delay_ * microseconds_per_second));
+  const std::uint64_t steps = pace_.takeStepsDue(now, delay);
+  step_timer_.start(static_cast<int>(
+      std::lround(static_cast<double>(pace_.untilNext(now)) / microseconds_per_millisecond)));
 
   constexpr std::array<std::array<float, 3>, 3> axes{
       {{1.0F, 0.0F, 0.0F}, {0.0F, 1.0F, 0.0F}, {0.0F, 0.0F, 1.0F}}};
   const auto& [x, y, z] = axes.at(static_cast<std::size_t>(rotation_axis_ - 1));
   glMatrixMode(GL_MODELVIEW);
-  for (std::uint64_t step = 0; step < steps_due; ++step) {
+  for (std::uint64_t step = 0; step < steps; ++step) {
     glRotatef(rot_angle_, x, y, z);
     ++rotation_steps_;
   }
@@ -96,28 +80,6 @@ void ChamberView::resetOrientation() {
   stopRotating();
   setUpView();
   display();
-}
-
-void ChamberView::replay() {
-  stopRotating();
-  perform_after(rot_delay_, this, [this] { really_replay(); });
-}
-
-void ChamberView::really_replay() {
-  const std::int16_t all_points = point_number_;
-  stopRotating();
-  for (std::int16_t shown = 1; shown <= all_points; ++shown) {
-    point_number_ = shown;
-    pauseForMicrosecs(replay_pause);
-    display();
-  }
-  point_number_ = all_points;
-}
-
-void ChamberView::pauseForMicrosecs(std::int32_t microseconds) {
-  const std::uint64_t start = Microseconds();
-  while (Microseconds() - start <= static_cast<std::uint64_t>(microseconds)) {
-  }
 }
 
 }  // namespace velquon

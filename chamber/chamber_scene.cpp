@@ -111,7 +111,7 @@ void draw_solid_cubes(std::span<const PlotPoint> points, float side, bool mark_c
   }
 }
 
-void draw_overlay_text(const std::string& text) {
+void place_overlay_text() {
   glColor3f(1.0F, 1.0F, 1.0F);
   glMatrixMode(GL_MODELVIEW);
   glPushMatrix();
@@ -120,9 +120,6 @@ void draw_overlay_text(const std::string& text) {
   turn_by(std::span(resting_turns).first<overlay_turns>());
   glRasterPos3f(600.0F, -400.0F, 780.0F);
   glPopMatrix();
-  for (const char character : text) {
-    glutBitmapCharacter(GLUT_BITMAP_HELVETICA_12, character);
-  }
 }
 
 }  // namespace velquon

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <span>
-#include <string>
 
 #include "engine/event_record.h"
 
@@ -28,8 +27,9 @@ void draw_chamber_frame(bool with_axes);
 /// \param mark_cubes puts a pass-through mark ahead of each cube, for reading the feedback
 void draw_solid_cubes(std::span<const PlotPoint> points, float side, bool mark_cubes);
 
-/// A text at the place of the values overlay, seen from a viewpoint of its own that does not turn.
-void draw_overlay_text(const std::string& text);
+/// Sets the raster position and its colour for the values overlay, seen from a viewpoint of its own
+/// that does not turn.
+void place_overlay_text();
 
 /// Value of the pass-through mark ahead of a cube.
 inline constexpr float cube_mark = 1.0F;

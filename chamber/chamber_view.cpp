@@ -9,13 +9,19 @@
 
 #include "chamber/chamber_scene.h"
 #include "platform/clock.h"
+#include "platform/input_watch.h"
 #include "platform/page.h"
 
 namespace velquon {
 
 ChamberView::ChamberView(std::optional<std::uint32_t> seed, QWidget* parent) : GLView(parent) {
   std::srand(seed.value_or(static_cast<std::uint32_t>(Microseconds())));
+  step_timer_.setSingleShot(true);
+  step_timer_.setTimerType(Qt::PreciseTimer);
+  connect(&step_timer_, &QTimer::timeout, this, &ChamberView::rotate);
 }
+
+ChamberView::~ChamberView() = default;
 
 void ChamberView::setData(std::span<const PlotPoint> points) {
   event_data_.assign(points.begin(), points.end());
@@ -54,6 +60,7 @@ void ChamberView::drawRect() {
   }
   adjustForOffset();
   glClear(GL_COLOR_BUFFER_BIT);
+  glLineWidth(static_cast<float>(ratio));
   drawChamber();
   drawEvent();
   if (!is_rotating_ && show_values_) {
@@ -61,6 +68,13 @@ void ChamberView::drawRect() {
   }
   popProjectionMatrix();
   glFlush();
+}
+
+void ChamberView::initializeGL() {
+  GLView::initializeGL();
+  // A context of its own begins with neither a viewpoint nor a pushed matrix.
+  ready_to_show_ = false;
+  needs_pop_ = false;
 }
 
 void ChamberView::reshape() {
@@ -114,7 +128,8 @@ void ChamberView::drawValues() {
   if (page_ != nullptr) {
     print_text(*page_, {120.0, 645.0}, QString::fromStdString(values_text()));
   } else {
-    draw_overlay_text(values_text());
+    place_overlay_text();
+    overlay_text_.draw(values_text(), devicePixelRatioF());
   }
 }
 

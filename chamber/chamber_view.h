@@ -1,21 +1,29 @@
 #pragma once
 
+#include <QTimer>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "chamber/cube_array.h"
+#include "chamber/overlay_text.h"
 #include "engine/chamber_values.h"
 #include "engine/event_record.h"
+#include "platform/clock.h"
 #include "platform/gl_view.h"
+#include "platform/late_input.h"
 #include "platform/page.h"
+#include "platform/step_pace.h"
 
 class QAction;
 class QPainter;
 
 namespace velquon {
+
+class InputWatch;
 
 /// The items of the rotation menus, with which a sender is compared.
 struct RotationItems {
@@ -36,6 +44,14 @@ class ChamberView : public GLView, public Printable {
   /// Seeds the process-wide random generator, once for the program's run.
   /// \param seed the seed; without one the low 32 bits of the microsecond clock
   explicit ChamberView(std::optional<std::uint32_t> seed, QWidget* parent = nullptr);
+  ~ChamberView() override;
+  ChamberView(const ChamberView&) = delete;
+  ChamberView& operator=(const ChamberView&) = delete;
+  ChamberView(ChamberView&&) = delete;
+  ChamberView& operator=(ChamberView&&) = delete;
+
+  /// Another clock for the turntable's steps and the replay's pauses.
+  void setClock(const Clock& clock) { clock_ = clock; }
 
   void setRotationItems(const RotationItems& items) { rotation_items_ = items; }
 
@@ -86,9 +102,13 @@ class ChamberView : public GLView, public Printable {
   [[nodiscard]] float rot_angle() const { return rot_angle_; }
   /// Steps turned since the program's start.
   [[nodiscard]] std::int64_t rotation_steps() const { return rotation_steps_; }
+  /// The steps of the turntable that are due; schedules itself anew. Nothing while it stands.
+  void rotate();
   /// Stops the turntable and goes back to the resting viewpoint.
   void resetOrientation();
-  /// Stops the turntable; the replay begins after the turntable's delay.
+  /// Stops the turntable; the replay begins after the turntable's delay, or when a window that is
+  /// on its way to the screen has come up. Nothing more while a replay is due or for a key or a
+  /// click from the time of a replay.
   void replay();
 
   void setPrinting(QPainter* page) override { page_ = page; }
@@ -103,6 +123,7 @@ class ChamberView : public GLView, public Printable {
   void windowWanted();
 
  protected:
+  void initializeGL() override;
   void drawRect() override;
   void reshape() override;
   void mousePressEvent(QMouseEvent* event) override;
@@ -114,10 +135,9 @@ class ChamberView : public GLView, public Printable {
   void drawChamber();
   void drawEvent();
   void drawForPrinting();
-  void rotate();
-  void scheduleRotation(double seconds);
+  void replayOnceSeen(int looks_left);
   void really_replay();
-  static void pauseForMicrosecs(std::int32_t microseconds);
+  void pauseForMicrosecs(std::int32_t microseconds) const;
   [[nodiscard]] std::span<const PlotPoint> shownPoints() const;
 
   RotationItems rotation_items_;
@@ -135,13 +155,19 @@ class ChamberView : public GLView, public Printable {
 
   std::vector<PlotPoint> event_data_;
   CubeArray cubes_;
+  OverlayText overlay_text_;
   std::int16_t point_number_ = 0;
   ChamberValues current_;
 
   float rot_angle_ = 0.5F;
   double rot_delay_ = 0.01;
-  std::uint64_t next_step_at_ = 0;  ///< on the microsecond clock
+  Clock clock_ = Microseconds;
+  StepPace pace_;
+  QTimer step_timer_;  ///< runs until the next step of the turntable
   std::int64_t rotation_steps_ = 0;
+
+  std::unique_ptr<InputWatch> input_watch_;  ///< there while a replay is due or runs
+  LateInput late_input_;
 };
 
 }  // namespace velquon

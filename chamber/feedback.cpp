@@ -122,9 +122,9 @@ class FeedbackReader {
 
 }  // namespace
 
-FeedbackPicture draw_into_feedback(int points, const std::function<void()>& draw) {
+std::optional<FeedbackPicture> draw_into_feedback(int points, const std::function<void()>& draw) {
   std::vector<float> buffer(static_cast<std::size_t>(feedback_buffer_size(points)));
-  for (;;) {
+  for (int doublings = 0; doublings <= most_feedback_doublings; ++doublings) {
     glFeedbackBuffer(static_cast<GLsizei>(buffer.size()), GL_3D, buffer.data());
     glRenderMode(GL_FEEDBACK);
     draw();
@@ -135,6 +135,7 @@ FeedbackPicture draw_into_feedback(int points, const std::function<void()>& draw
     }
     buffer.assign(buffer.size() * 2, 0.0F);
   }
+  return std::nullopt;
 }
 
 FeedbackPicture read_feedback(const std::vector<float>& values) {

@@ -3,6 +3,7 @@
 #include <QPointF>
 #include <QRectF>
 #include <functional>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -20,12 +21,17 @@ struct FeedbackPicture {
   std::vector<QRectF> cubes;  ///< bounding rectangle of each cube's visible faces
 };
 
+/// How many times a feedback buffer is doubled at most: to 64 times what the cubes need as faces of
+/// four corners, of which drivers make a few polygons more.
+inline constexpr int most_feedback_doublings = 6;
+
 /// Draws in feedback mode and reads what comes back. The context must be current.
-/// \param points points of the event, from which the buffer's first size follows; it grows as long
-/// as
-///               the drawing does not fit
+/// \param points points of the event, from which the buffer's first size follows; while the drawing
+///               does not fit it is doubled and the scene drawn again
 /// \param draw   draws the scene, with a pass-through mark ahead of each cube
-[[nodiscard]] FeedbackPicture draw_into_feedback(int points, const std::function<void()>& draw);
+/// \return nothing when the driver finds no buffer large enough
+[[nodiscard]] std::optional<FeedbackPicture> draw_into_feedback(int points,
+                                                                const std::function<void()>& draw);
 
 /// Reads the values of a feedback buffer in 3-D vertices.
 /// \param values as many as the buffer holds, no more

@@ -1,6 +1,11 @@
 // What the chamber view draws, pixel by pixel against places worked out from its viewpoint.
 
+#include <QTest>
+#include <cstdlib>
+#include <optional>
 #include <random>
+
+#include "platform/clock.h"
 
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/matrices.h"
@@ -20,6 +25,17 @@ class ChamberPictureTest : public ApplicationFixture {
  protected:
   const Camera camera_ = resting_camera();
 
+  /// A place on the line from the middle of the chamber to the eye.
+  [[nodiscard]] Place onTheWayToTheEye(double part) const {
+    const Matrix& view = camera_.model_view;
+    Place place{};
+    for (std::size_t axis = 0; axis < place.size(); ++axis) {
+      for (std::size_t row = 0; row < place.size(); ++row) {
+        place.at(axis) -= part * view[row][axis] * view[row][3];
+      }
+    }
+    return place;
+  }
   [[nodiscard]] QPointF pixel(const PlotPoint& point) const {
     return camera_.pixel({point.coords[0], point.coords[1], point.coords[2]});
   }
@@ -189,6 +205,69 @@ TEST_F(ChamberPictureTest, ANewEventIsOnTheScreenWhenItHasBeenMade) {
     choose("new_event_item");
     EXPECT_TRUE(screen_comes_to_show(chamber(), picture_of(chamber())));
     EXPECT_NE(screen_picture(chamber()), before);
+  }
+}
+
+TEST_F(ChamberPictureTest, ACubeHasASideOfFourAndAHalfDrawingUnits) {
+  hideAxesAndValues();
+  // Between the eye and the chamber, where a cube is seen large.
+  const Place place = onTheWayToTheEye(0.96);
+  showEvent(std::array{point_at(place[0], place[1], place[2], 3)});
+  constexpr double half_cube = 2.25;
+  QRectF expected;
+  for (const double x : {-half_cube, half_cube}) {
+    for (const double y : {-half_cube, half_cube}) {
+      for (const double z : {-half_cube, half_cube}) {
+        const QPointF corner = camera_.pixel({place[0] + x, place[1] + y, place[2] + z});
+        expected |= QRectF(corner, QSizeF(1.0e-6, 1.0e-6));
+      }
+    }
+  }
+  ASSERT_GT(expected.width(), 30.0);
+  const QRect seen = extent_of(pixels_of(picture_of(chamber()), red));
+  EXPECT_NEAR(seen.left(), expected.left(), 1.0);
+  EXPECT_NEAR(seen.right() + 1, expected.right(), 1.0);
+  EXPECT_NEAR(seen.top(), expected.top(), 1.0);
+  EXPECT_NEAR(seen.bottom() + 1, expected.bottom(), 1.0);
+}
+
+TEST_F(ChamberPictureTest, ANewContextShowsTheEventFromTheRestingViewpoint) {
+  showEvent(std::array{point_at(300.0, -100.0, 200.0, 3), point_at(-250.0, 150.0, 100.0, 4)});
+  chamber().set_show_values(false);
+  const QImage resting = picture_of(chamber());
+  choose("rotate_item");
+  for (int step = 0; step < 40; ++step) {
+    chamber().rotate();
+  }
+  chamber().stopRotating();
+  ASSERT_NE(picture_of(chamber()), resting);
+  // A view that moves into another window gets a context of its own.
+  QWidget other_window;
+  QWidget* const area = chamber().parentWidget()->parentWidget();
+  QWidget* const home = area->parentWidget();
+  other_window.resize(area->size());
+  area->setParent(&other_window);
+  area->move(0, 0);
+  area->show();
+  other_window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&other_window));
+  handle_waiting_events();
+  EXPECT_EQ(differing_pixels(picture_of(chamber()), resting), 0);
+  area->setParent(home);
+}
+
+TEST_F(ChamberPictureTest, WithoutASeedTheClockSeedsTheGenerator) {
+  for (int view = 0; view < 3; ++view) {
+    const std::uint64_t before = Microseconds();
+    const ChamberView unseeded(std::nullopt);
+    const std::uint64_t after = Microseconds();
+    const std::array drawn{std::rand(), std::rand(), std::rand()};
+    bool is_of_the_clock = false;
+    for (std::uint64_t time = before; time <= after && !is_of_the_clock; ++time) {
+      std::srand(static_cast<std::uint32_t>(time));
+      is_of_the_clock = drawn == std::array{std::rand(), std::rand(), std::rand()};
+    }
+    EXPECT_TRUE(is_of_the_clock);
   }
 }
 

@@ -1,11 +1,12 @@
 // The turntable: how it starts, turns and stops.
 
+#include <GL/gl.h>
+
 #include <QElapsedTimer>
 #include <QTest>
-#include <QThread>
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <cstdlib>
 
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
@@ -19,12 +20,6 @@ namespace velquon::test {
 namespace {
 
 constexpr double degrees_per_step = 0.5;
-
-/// More programs want to run than there are processors, by far.
-bool is_machine_overloaded() {
-  double load = 0.0;
-  return getloadavg(&load, 1) == 1 && load > 1.5 * QThread::idealThreadCount();
-}
 
 class TurntableTest : public ApplicationFixture {
  protected:
@@ -85,42 +80,33 @@ class TurntableTest : public ApplicationFixture {
     }
     EXPECT_GE(seen, 2U);
   }
+  [[nodiscard]] std::array<double, 16> viewpoint() {
+    std::array<double, 16> matrix{};
+    chamber().makeCurrent();
+    glGetDoublev(GL_MODELVIEW_MATRIX, matrix.data());
+    return matrix;
+  }
   void expectNoMoreSteps() {
     EXPECT_FALSE(chamber().is_rotating());
     const auto steps = chamber().rotation_steps();
     run_loop_for(80);
     EXPECT_EQ(chamber().rotation_steps(), steps);
   }
-  static constexpr double tolerance = 0.05;
-
-  /// Expects steps a second over two seconds, in the best of some attempts: a machine that is busy
-  /// with other things has no time for the steps.
-  void expectRate(double nominal) {
-    double nearest = 0.0;
-    for (int attempt = 0; attempt < 3; ++attempt) {
-      const double rate = measuredRate();
-      if (std::fabs(rate - nominal) < std::fabs(nearest - nominal)) {
-        nearest = rate;
-      }
-      if (std::fabs(nearest - nominal) < tolerance * nominal) {
-        return;
-      }
-    }
-    if (nearest < nominal && is_machine_overloaded()) {
-      GTEST_SKIP() << "the machine is too busy to turn at a rate";
-    }
-    EXPECT_NEAR(nearest, nominal, tolerance * nominal);
+  /// From now on the turntable goes by a clock that stands still unless it is moved.
+  void stopTheClock() {
+    chamber().setClock([this] { return time_; });
   }
-
-  [[nodiscard]] double measuredRate() {
-    EXPECT_TRUE(waitForSteps(1));
+  /// Moves the clock on and lets the turntable's timer fire then.
+  /// \return the steps that were made
+  [[nodiscard]] std::int64_t stepsAfter(std::uint64_t microseconds) {
     const auto before = chamber().rotation_steps();
-    QElapsedTimer clock;
-    clock.start();
-    run_loop_for(2000);
-    const auto steps = static_cast<double>(chamber().rotation_steps() - before);
-    return steps * 1.0e9 / static_cast<double>(clock.nsecsElapsed());
+    time_ += microseconds;
+    chamber().rotate();
+    return chamber().rotation_steps() - before;
   }
+
+ private:
+  std::uint64_t time_ = 5'000'000'000;
 };
 
 }  // namespace
@@ -182,18 +168,41 @@ TEST_F(TurntableTest, AnAxisChosenWhileTurningGoesOnFromThere) {
 }
 
 TEST_F(TurntableTest, ReversingTurnsBackWithoutASecondChain) {
+  stopTheClock();
   choose("rotate_item");
-  ASSERT_TRUE(waitForSteps(60));
-  const auto forward = static_cast<double>(chamber().rotation_steps());
+  const std::int64_t forward = stepsAfter(0);
+  EXPECT_EQ(forward, 1);
   choose("reverse_rotate_item");
   EXPECT_EQ(chamber().rot_angle(), -0.5F);
   // Chosen again and again it starts nothing more.
   choose("reverse_rotate_item");
   choose("reverse_rotate_item");
-  EXPECT_LT(measuredRate(), 110.0);
+  std::int64_t back = 0;
+  for (int i = 0; i < 60; ++i) {
+    back += stepsAfter(10'000);
+  }
+  EXPECT_EQ(back, 60);
   chamber().stopRotating();
-  const auto back = static_cast<double>(chamber().rotation_steps()) - forward;
-  expectMarksSeenBy(resting_camera().turned((forward - back) * degrees_per_step, along_x));
+  expectMarksSeenBy(
+      resting_camera().turned(static_cast<double>(forward - back) * degrees_per_step, along_x));
+}
+
+TEST_F(TurntableTest, StoppedAndStartedAtOnceItHasOneChainOfSteps) {
+  stopTheClock();
+  const auto before = chamber().rotation_steps();
+  QElapsedTimer since;
+  since.start();
+  for (int i = 0; i < 20; ++i) {
+    choose("rotate_item");
+    chamber().stopRotating();
+  }
+  choose("rotate_item");
+  run_loop_for(30);
+  // Its clock stands still, so a chain makes one step at once and each later one still later.
+  const auto steps = chamber().rotation_steps() - before;
+  EXPECT_GE(steps, 1);
+  EXPECT_LE(steps, 1 + since.elapsed() / 9);
+  EXPECT_LT(steps, 20);
 }
 
 TEST_F(TurntableTest, AClickInTheChamberStopsIt) {
@@ -302,37 +311,78 @@ TEST_F(TurntableTest, ManyOfItsPicturesAreSeenOnTheScreen) {
   EXPECT_TRUE(screen_comes_to_show(chamber(), picture_of(chamber())));
 }
 
-TEST_F(TurntableTest, TurnsAtItsRates) {
+TEST_F(TurntableTest, TurnsAtItsRatesByTheClock) {
   struct Case {
     const char* item;
-    double steps_per_second;
+    std::uint64_t delay;  // microseconds
   };
-  constexpr std::array cases{Case{"rotate_faster_item", 200.0}, Case{"default_rotate_item", 100.0},
-                             Case{"rotate_slower_item", 50.0}};
+  constexpr std::array cases{Case{"rotate_faster_item", 5'000}, Case{"default_rotate_item", 10'000},
+                             Case{"rotate_slower_item", 20'000}};
+  stopTheClock();
   choose("rotate_item");
-  for (const auto& [name, steps_per_second] : cases) {
+  EXPECT_EQ(stepsAfter(0), 1);
+  // The step that is due was set when the rate was another.
+  std::uint64_t until_next = 10'000;
+  for (const auto& [name, delay] : cases) {
     SCOPED_TRACE(name);
     choose(name);
     EXPECT_TRUE(chamber().is_rotating());
-    expectRate(steps_per_second);
+    EXPECT_EQ(stepsAfter(until_next), 1);
+    until_next = delay;
+    for (int i = 0; i < 50; ++i) {
+      EXPECT_EQ(stepsAfter(delay), 1);
+    }
   }
 }
 
-TEST_F(TurntableTest, ManyPointsDoNotSlowTheFastRateDown) {
-  for (const int count : {350, 5000}) {
-    std::vector<PlotPoint> points;
-    points.reserve(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-      points.push_back(point_at(i % 701 - 350, i % 613 - 306, i % 499 - 249,
-                                static_cast<std::int16_t>(3 + i % 5)));
-    }
-    showEvent(points);
-    choose("rotate_faster_item");
-    choose("rotate_item");
-    SCOPED_TRACE(count);
-    expectRate(200.0);
-    chamber().stopRotating();
-  }
+TEST_F(TurntableTest, StepsThatFellDueWhileAFrameWasDrawnAreMadeUpFor) {
+  stopTheClock();
+  choose("rotate_faster_item");
+  choose("rotate_item");
+  EXPECT_EQ(stepsAfter(0), 1);
+  // Drawing may take as long as it wants: 200 steps a second remain.
+  EXPECT_EQ(stepsAfter(43'000), 8);
+  EXPECT_EQ(stepsAfter(2'000), 1);
+  EXPECT_EQ(stepsAfter(100'000), 20);
+}
+
+TEST_F(TurntableTest, AStandstillOfMoreThanAQuarterSecondIsNotMadeUpFor) {
+  stopTheClock();
+  choose("rotate_item");
+  EXPECT_EQ(stepsAfter(0), 1);
+  EXPECT_EQ(stepsAfter(10'000 + 250'000), 26);
+  EXPECT_EQ(stepsAfter(10'000 + 251'000), 1);
+  EXPECT_EQ(stepsAfter(3'600'000'000), 1);
+  EXPECT_EQ(stepsAfter(10'000), 1);
+}
+
+TEST_F(TurntableTest, AStepOfAStoppedTurntableDoesNothing) {
+  stopTheClock();
+  const QImage resting = picture_of(chamber());
+  choose("rotate_item");
+  chamber().stopRotating();
+  EXPECT_EQ(stepsAfter(100'000), 0);
+  EXPECT_EQ(differing_pixels(picture_of(chamber()), resting), 0);
+}
+
+TEST_F(TurntableTest, ANewEventIsHandedOverAndShownAtTheRestingViewpointWhenWanted) {
+  const auto resting = viewpoint();
+  choose("reset_each_item");
+  ASSERT_GT(turn("rotate_item", 40), 0);
+  ASSERT_NE(viewpoint(), resting);
+  // The windows are named after the event has been handed over and before it is shown.
+  int names = 0;
+  QObject::connect(&chamberWindow(), &QWidget::windowTitleChanged, &chamber(), [&] {
+    ++names;
+    EXPECT_EQ(viewpoint(), resting);
+    chamber().makeCurrent();
+    glMatrixMode(GL_MODELVIEW);
+    glRotatef(30.0F, 0.0F, 0.0F, 1.0F);
+    EXPECT_NE(viewpoint(), resting);
+  });
+  choose("new_event_item");
+  EXPECT_EQ(names, 1);
+  EXPECT_EQ(viewpoint(), resting);
 }
 
 }  // namespace velquon::test

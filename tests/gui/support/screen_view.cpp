@@ -50,8 +50,7 @@ bool screen_comes_to_show(const QWidget& widget, const QImage& picture, int mill
   return true;
 }
 
-ScreenWatch::ScreenWatch(const QWidget& widget, QRgb color) {
-  const ScreenArea area = screen_area_of(widget);
+ScreenWatch::ScreenWatch(const ScreenArea& area, QRgb color) {
   process_.start(QStringLiteral(SCREEN_WATCH),
                  {QString::number(area.x), QString::number(area.y), QString::number(area.width),
                   QString::number(area.height), QString::number(color & RGB_MASK, 16)});

@@ -33,7 +33,9 @@ class ScreenWatch {
  public:
   /// Returns when the first look has been taken.
   /// \param color what `ScreenLook::count` counts
-  explicit ScreenWatch(const QWidget& widget, QRgb color = qRgb(255, 0, 0));
+  explicit ScreenWatch(const QWidget& widget, QRgb color = qRgb(255, 0, 0))
+      : ScreenWatch(screen_area_of(widget), color) {}
+  explicit ScreenWatch(const ScreenArea& area, QRgb color = qRgb(255, 0, 0));
 
   /// Ends the watch with a last look.
   /// \return each picture that was seen, in order, one that stayed as one

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace velquon {
+
+/// A line of bitmap text that is as large in the picture on a screen of many pixels as on any
+/// other: its pixels are magnified by the screen's ratio of device pixels to view units.
+class OverlayText {
+ public:
+  /// Draws at the raster position and with its colour as they stand. The context must be current.
+  /// \param ratio device pixels of a view unit
+  void draw(const std::string& text, double ratio);
+
+ private:
+  void magnify(const std::string& text, double ratio);
+
+  std::string text_;  ///< what the bits show
+  double ratio_ = 0.0;
+  int width_ = 0;  ///< device pixels
+  int height_ = 0;
+  std::vector<std::uint8_t> bits_;  ///< rows of whole bytes from the bottom, a bit a pixel
+};
+
+}  // namespace velquon
