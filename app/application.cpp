@@ -1,6 +1,7 @@
 #include "app/application.h"
 
 #include <QApplication>
+#include <QOpenGLContext>
 #include <QScreen>
 #include <algorithm>
 
@@ -63,6 +64,14 @@ void Application::showWindows() {
   projector_window_->show();
   projector_window_->setAttribute(Qt::WA_ShowWithoutActivating, false);
   chamber_window_->makeKeyAndOrderFront();
+}
+
+bool Application::viewsCanDraw() const {
+  // What the views draw into came with version 2.
+  const auto can_draw = [](const QOpenGLWidget& view) {
+    return view.isValid() && view.context()->format().majorVersion() >= 2;
+  };
+  return can_draw(*chamber_window_->view()) && can_draw(*projector_window_->view());
 }
 
 std::array<GLPanel*, 3> Application::windows() const {

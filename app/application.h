@@ -35,6 +35,8 @@ class Application : public QObject {
 
   /// Puts the chamber and projector windows on the screen, side by side.
   void showWindows();
+  /// Whether the views of the windows that are shown have OpenGL contexts.
+  [[nodiscard]] bool viewsCanDraw() const;
 
   [[nodiscard]] Menus& menus() { return *menus_; }
   [[nodiscard]] ChamberWindow& chamberWindow() { return *chamber_window_; }

@@ -21,6 +21,10 @@ int end_with(const QString& text, int status) {
   return written ? status : 1;
 }
 
+int end_for_want_of(const QString& missing) {
+  return end_with(QStringLiteral("velquon: %1\n").arg(velquon::as_one_line(missing)), 1);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -35,9 +39,7 @@ int main(int argc, char** argv) {
     return end_with(parsed.message, parsed.status);
   }
   if (const std::string missing = velquon::missing_for_windows(); !missing.empty()) {
-    return end_with(
-        QStringLiteral("velquon: %1\n").arg(velquon::as_one_line(QString::fromStdString(missing))),
-        1);
+    return end_for_want_of(QString::fromStdString(missing));
   }
   velquon::prepare_desktop();
   const QApplication qt_application(argc, argv);
@@ -45,10 +47,14 @@ int main(int argc, char** argv) {
   velquon::finish_desktop();
   velquon::DesktopDialogs dialogs;
   velquon::Application application(parsed.options->seed, dialogs);
+  application.showWindows();
+  if (!application.viewsCanDraw()) {
+    return end_for_want_of(QStringLiteral(
+        "the OpenGL driver gives the views no context of version 2.1 to draw with"));
+  }
   if (!parsed.options->pictures.isEmpty()) {
     return velquon::save_pictures(application, parsed.options->pictures);
   }
-  application.showWindows();
   const QString& file = parsed.options->file;
   if (!file.isEmpty() && !application.documents().application_openFile(file)) {
     std::fprintf(stderr, "velquon: cannot open %s\n", qPrintable(velquon::as_one_line(file)));

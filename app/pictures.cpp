@@ -79,7 +79,6 @@ int save_pictures(Application& application, const QString& folder) {
     std::fprintf(stderr, "velquon: cannot make the folder %s\n", qPrintable(as_one_line(folder)));
     return 1;
   }
-  application.showWindows();
   if (!wait_until_exposed(application.chamberWindow()) ||
       !wait_until_exposed(application.projectorWindow())) {
     std::fputs("velquon: the windows did not come up on the screen\n", stderr);

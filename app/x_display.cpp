@@ -28,8 +28,18 @@ std::string missing_for_windows() {
     return the_display + "does not answer";
   }
   const bool complete = has_opengl(display);
+  const int depth = XDefaultDepth(display, XDefaultScreen(display));
   XCloseDisplay(display);
-  return complete ? std::string() : the_display + "has no OpenGL (GLX)";
+  if (!complete) {
+    return the_display + "has no OpenGL (GLX)";
+  }
+  // On a screen of 16 bits the views stay black.
+  constexpr int least_depth = 24;
+  if (depth < least_depth) {
+    return the_display + "has only " + std::to_string(depth) + " bits of colour a pixel, not " +
+           std::to_string(least_depth);
+  }
+  return {};
 }
 
 }  // namespace velquon

@@ -1,6 +1,8 @@
 #include <GL/gl.h>
 #include <gtest/gtest.h>
 
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
 #include <cmath>
 #include <limits>
 #include <vector>
@@ -115,6 +117,55 @@ TEST(FeedbackTest, APolygonThatIsCutOffCountsAsFarAsItGoes) {
   const FeedbackPicture picture = read_feedback({mark, 1, polygon, 4, 1, 2, 0, 3, 8, 0, 100});
   ASSERT_EQ(picture.cubes.size(), 1U);
   EXPECT_EQ(picture.cubes[0], QRectF(QPointF(1, 2), QPointF(3, 8)));
+}
+
+/// A context of its own to draw with.
+class DrawnFeedbackTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    surface_.create();
+    ASSERT_TRUE(context_.create());
+    ASSERT_TRUE(context_.makeCurrent(&surface_));
+  }
+  void TearDown() override { context_.doneCurrent(); }
+
+  static void drawLines(int count) {
+    glBegin(GL_LINES);
+    for (int i = 0; i < count; ++i) {
+      glVertex2f(-0.5F, 0.0F);
+      glVertex2f(0.5F, 0.0F);
+    }
+    glEnd();
+  }
+  /// Lines that take more than the first buffer's size.
+  static constexpr int too_many_lines = feedback_buffer_size(0) / 7 + 1;
+
+ private:
+  QOffscreenSurface surface_;
+  QOpenGLContext context_;
+};
+
+TEST_F(DrawnFeedbackTest, ABufferGrowsUntilTheDrawingFits) {
+  for (const int times : {1, 3, 40}) {
+    int passes = 0;
+    const auto picture = draw_into_feedback(0, [&] {
+      ++passes;
+      drawLines(too_many_lines * times);
+    });
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(picture->lines.size(), static_cast<std::size_t>(too_many_lines * times));
+    EXPECT_GT(passes, 1);
+  }
+}
+
+TEST_F(DrawnFeedbackTest, WhatFitsIntoNoBufferIsGivenUp) {
+  int passes = 0;
+  const auto picture = draw_into_feedback(0, [&] {
+    drawLines(too_many_lines << passes);
+    ++passes;
+  });
+  EXPECT_FALSE(picture);
+  EXPECT_EQ(passes, most_feedback_doublings + 1);
 }
 
 }  // namespace

@@ -32,6 +32,17 @@ std::uint64_t digest_of(const std::vector<std::uint32_t>& pixels) {
 
 }  // namespace
 
+ScreenArea corner_of_window(unsigned long window) {
+  ScreenArea corner;
+  if (Display* const display = XOpenDisplay(nullptr); display != nullptr) {
+    Window child = 0;
+    XTranslateCoordinates(display, window, XDefaultRootWindow(display), 0, 0, &corner.x, &corner.y,
+                          &child);
+    XCloseDisplay(display);
+  }
+  return corner;
+}
+
 std::vector<std::uint32_t> read_screen(const ScreenArea& area) {
   Display* const display = XOpenDisplay(nullptr);
   if (display == nullptr) {

@@ -11,9 +11,13 @@ namespace velquon::test {
 
 ScreenArea screen_area_of(const QWidget& widget) {
   const double ratio = widget.devicePixelRatioF();
-  const QPointF corner = QPointF(widget.mapToGlobal(QPoint(0, 0))) * ratio;
+  // The window manager's frame need not be a whole number of view units wide.
+  const QWidget& window = *widget.window();
+  const ScreenArea corner = corner_of_window(window.winId());
+  const QPointF within = QPointF(widget.mapTo(&window, QPoint(0, 0))) * ratio;
   const QSizeF size = QSizeF(widget.size()) * ratio;
-  return {qRound(corner.x()), qRound(corner.y()), static_cast<unsigned>(qRound(size.width())),
+  return {corner.x + qRound(within.x()), corner.y + qRound(within.y()),
+          static_cast<unsigned>(qRound(size.width())),
           static_cast<unsigned>(qRound(size.height()))};
 }
 
