@@ -73,12 +73,24 @@ TEST_F(GLViewTest, APictureIsOnTheScreenWithoutTheEventLoop) {
 }
 
 TEST_F(GLViewTest, APassThatTakesLongerThanAFrameIsBroughtToTheScreenToo) {
-  view_.drawing_milliseconds = 60;
-  view_.display();
-  view_.color = red;
-  const int passes = view_.passes();
-  view_.drawAndPresentSoon();
-  EXPECT_EQ(view_.passes(), passes + 1);
+  int presented = 0;
+  QObject::connect(&view_, &QOpenGLWidget::aboutToCompose, &view_, [&] { ++presented; });
+  // On a busy machine the picture before may be so old that the next is presented at once.
+  int passes = 0;
+  for (int attempt = 0; attempt < 100 && (attempt == 0 || presented > 0); ++attempt) {
+    view_.color = blue;
+    view_.drawing_milliseconds = 0;
+    view_.display();
+    // Nothing that is left of that picture brings the next to the screen.
+    handle_waiting_events();
+    view_.color = red;
+    view_.drawing_milliseconds = 60;
+    passes = view_.passes();
+    presented = 0;
+    view_.drawAndPresentSoon();
+    EXPECT_EQ(view_.passes(), passes + 1);
+  }
+  ASSERT_EQ(presented, 0);
   EXPECT_TRUE(wait_until([this] { return isSeen(red); }, 3000));
   EXPECT_EQ(view_.passes(), passes + 1);
 }
