@@ -103,15 +103,17 @@ void PrintPanel::showPrinters(PrinterSearch::Result result) {
       state_->setText(tr("The page can be printed or saved as a PDF file."));
       break;
     case PrinterSearch::Result::none:
-      state_->setText(tr("No printer is set up on this computer. The page can be saved as a PDF "
-                         "file."));
+      state_->setText(
+          tr("No printer is set up on this computer. The page can be saved as a PDF "
+             "file."));
       break;
     case PrinterSearch::Result::no_answer:
       state_->setText(tr("No print server answers. The page can be saved as a PDF file."));
       break;
     case PrinterSearch::Result::no_command:
-      state_->setText(tr("Printers cannot be looked for, because the command lpstat is not "
-                         "installed (package cups-client). The page can be saved as a PDF file."));
+      state_->setText(
+          tr("Printers cannot be looked for, because the command lpstat is not "
+             "installed (package cups-client). The page can be saved as a PDF file."));
       break;
   }
 }

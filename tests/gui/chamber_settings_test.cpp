@@ -80,13 +80,12 @@ TEST_F(ChamberSettingsTest, EnergyWithinAShareOfTheGreatestShowsTheTick) {
     float energy;
     const char* label;
   };
-  constexpr std::array cases{
-      Case{0.203F, "T = 0.200 MeV"},   Case{0.197F, "T = 0.200 MeV"},
-      Case{0.205F, "T = 0.205 MeV"},   Case{0.195F, "T = 0.195 MeV"},
-      Case{0.19F, "T = 0.190 MeV"},    Case{20.3F, "T = 20.00 MeV"},
-      Case{20.5F, "T = 20.50 MeV"},    Case{203.0F, "T = 200.0 MeV"},
-      Case{500.0F, "T = 500.0 MeV"},   Case{4970.0F, "T = 5000.0 MeV"},
-      Case{0.0034F, "T = 0.0034 MeV"}};
+  constexpr std::array cases{Case{0.203F, "T = 0.200 MeV"},  Case{0.197F, "T = 0.200 MeV"},
+                             Case{0.205F, "T = 0.205 MeV"},  Case{0.195F, "T = 0.195 MeV"},
+                             Case{0.19F, "T = 0.190 MeV"},   Case{20.3F, "T = 20.00 MeV"},
+                             Case{20.5F, "T = 20.50 MeV"},   Case{203.0F, "T = 200.0 MeV"},
+                             Case{500.0F, "T = 500.0 MeV"},  Case{4970.0F, "T = 5000.0 MeV"},
+                             Case{0.0034F, "T = 0.0034 MeV"}};
   for (const auto& [energy, text] : cases) {
     settings().setEnergyControl(energy);
     EXPECT_EQ(label("kinetic_energy_text"), text) << energy;

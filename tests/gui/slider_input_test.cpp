@@ -1,6 +1,7 @@
 // The controls of the chamber values under keys, mouse and wheel.
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
 #include <QTest>
@@ -193,6 +194,9 @@ TEST_F(SliderInputTest, KeysRefreshTheLabels) {
   ranges().setCurrentIndex(1);
   QTest::keyClick(&energy(), Qt::Key_PageUp);
   EXPECT_EQ(label("kinetic_energy_text"), "T = 200.0 MeV");
+  auto* const read_out = QAccessible::queryAccessibleInterface(&energy());
+  EXPECT_EQ(read_out->text(QAccessible::Value), QStringLiteral("200 MeV"));
+  EXPECT_EQ(read_out->valueInterface()->currentValue().toDouble(), 200.0);
 }
 
 TEST_F(SliderInputTest, ADragMovesTheValueAndItsLabelAsItGoes) {

@@ -173,7 +173,8 @@ TEST_F(TapeTest, IsReadAnewWhenAnEventOfAnotherSizeIsOpenedUnderIt) {
   const QTemporaryDir folder;
   QFile file(folder.filePath(QStringLiteral("small.cwd")));
   const std::array points{point_at(10.0, 20.0, 30.0, 3)};
-  const auto bytes = encode_event(points, {.B_field = 1.0F, .sides_cm = 200.0F, .kinetic_Mev = 1.0F});
+  const auto bytes =
+      encode_event(points, {.B_field = 1.0F, .sides_cm = 200.0F, .kinetic_Mev = 1.0F});
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
   ASSERT_EQ(file.write(QByteArrayView(bytes).toByteArray()), static_cast<qint64>(bytes.size()));
   file.close();
