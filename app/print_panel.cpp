@@ -42,6 +42,9 @@ PrintPanel::PrintPanel(PrintView& view, QString name, PrintChoices& choices, Use
   layout->addLayout(makePaperRow());
   layout->addWidget(state_);
   layout->addWidget(makeButtons());
+  // It stays so when a printer is found: the Enter key is not to do another thing in between.
+  pdf_button_->setDefault(true);
+  pdf_button_->setFocus();
   constexpr QSize panel_size(480, 640);
   resize(panel_size);
 
@@ -72,15 +75,12 @@ QLayout* PrintPanel::makePaperRow() {
 
 QWidget* PrintPanel::makeButtons() {
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
-  auto* const pdf_button = buttons->addButton(tr("Save as P&DF…"), QDialogButtonBox::ActionRole);
+  pdf_button_ = buttons->addButton(tr("Save as P&DF…"), QDialogButtonBox::ActionRole);
   print_button_ = buttons->addButton(tr("P&rint…"), QDialogButtonBox::ActionRole);
-  pdf_button->setObjectName(QStringLiteral("pdf_button"));
+  pdf_button_->setObjectName(QStringLiteral("pdf_button"));
   print_button_->setObjectName(QStringLiteral("print_button"));
   print_button_->setEnabled(false);
-  // It stays the default: a button that the Enter key moves to meanwhile would be pressed unmeant.
-  pdf_button->setDefault(true);
-  pdf_button->setFocus();
-  connect(pdf_button, &QPushButton::clicked, this, &PrintPanel::saveAsPdf);
+  connect(pdf_button_, &QPushButton::clicked, this, &PrintPanel::saveAsPdf);
   connect(print_button_, &QPushButton::clicked, this, &PrintPanel::sendToPrinter);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   return buttons;

@@ -56,9 +56,10 @@ class PrintPanel : public QDialog {
   QString name_;
   PrintChoices& choices_;
   UserDialogs& dialogs_;
-  PrinterSearch search_;
+  PrinterSearch search_{this};
   PagePreview* preview_;
   QLabel* state_;
+  QPushButton* pdf_button_ = nullptr;
   QPushButton* print_button_ = nullptr;
 };
 

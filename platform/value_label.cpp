@@ -8,7 +8,12 @@
 namespace velquon {
 
 QString ValueLabel::shownText() const {
-  return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+  const int room = contentsRect().width();
+  const QFontMetrics metrics = fontMetrics();
+  // Widths are rounded: a label made as wide as its text has room for it.
+  return metrics.horizontalAdvance(text()) <= room
+             ? text()
+             : metrics.elidedText(text(), Qt::ElideRight, room);
 }
 
 bool ValueLabel::event(QEvent* event) {

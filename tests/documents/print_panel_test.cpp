@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -290,6 +291,7 @@ TEST_F(PrintPanelTest, SaysWhenThePrintServerDoesNotAnswerInTime) {
   onPanel(chamberWindow(), [&](QWidget& panel) {
     EXPECT_TRUE(wait_until([&] { return server.callers() > 0; }));
     auto* const limit = panel.findChild<QTimer*>(QStringLiteral("printer_search_limit"));
+    ASSERT_NE(limit, nullptr);
     EXPECT_TRUE(limit->isActive());
     EXPECT_LE(limit->interval(), 5000);
     limit->start(0);
@@ -342,7 +344,14 @@ TEST_F(PrintPanelTest, StaysWhenThePrinterDoesNotTakeThePage) {
   answerWith("echo Printer_1");
   onPrintDialog(
       chamberWindow(),
-      [&](QWidget& dialog) { print_into(dialog, path(QStringLiteral("missing/spool.pdf"))); },
+      [&](QWidget& dialog) {
+        const QString place = path(QStringLiteral("place"));
+        QDir().mkdir(place);
+        // Gone between the dialog, which looks whether it can be written to, and the page.
+        QObject::connect(&static_cast<QDialog&>(dialog), &QDialog::accepted,
+                         [place] { QDir().rmdir(place); });
+        print_into(dialog, place + QStringLiteral("/spool.pdf"));
+      },
       [](QWidget& panel) {
         EXPECT_TRUE(panel.isVisible());
         cancel(panel);
