@@ -338,11 +338,14 @@ TEST_F(SliderInputTest, RangesAreChosenByKeys) {
 }
 
 TEST_F(SliderInputTest, RangesAreChosenByMouse) {
+  // The list takes no choice within the time of a double click after the click that opened it.
+  const int usual_interval = QApplication::doubleClickInterval();
+  QApplication::setDoubleClickInterval(0);
   QTest::mouseClick(&ranges(), Qt::LeftButton);
   QAbstractItemView& list = *ranges().view();
-  ASSERT_TRUE(wait_until([&] { return list.isVisible(); }));
-  // The list takes no choice in the moment after the click that opened it.
-  run_loop_for(QApplication::doubleClickInterval() + 100);
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(list.window()));
+  handle_waiting_events();
+  QApplication::setDoubleClickInterval(usual_interval);
   const QRect row = list.visualRect(list.model()->index(2, 0));
   QTest::mouseMove(list.viewport(), row.center());
   QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, row.center());
