@@ -243,6 +243,12 @@ TEST_F(ProjectionPageTest, LeavesItsHeaderFreeWhereverThePictureWasDragged) {
   EXPECT_EQ(ink_in(page, on_a4(0, 662, 500, 12)), 0);
 }
 
+TEST_F(ProjectionPageTest, LeavesItsHeaderFreeOfAPointFarOutsideTheChamber) {
+  openEvent({point_at(0, 0, 0, 3), point_at(-716, 0, 0, 3)});
+  const QImage page = printedPicture();
+  EXPECT_EQ(ink_in(page, on_a4(0, 662, 500, 12)), 0);
+}
+
 TEST_F(ProjectionPageTest, HoldsNothingBeyondItsEdges) {
   openEvent({point_at(0, 0, 0, 3)});
   clickButton("grab_tool");
