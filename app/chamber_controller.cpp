@@ -2,7 +2,6 @@
 
 #include <QFileInfo>
 #include <QMenu>
-#include <QPrinter>
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -40,7 +39,10 @@ void set_title(GLPanel& window, const QString& prefix, const QString& name) {
 }  // namespace
 
 ChamberController::ChamberController(const ChamberOutlets& outlets, QObject* parent)
-    : QObject(parent), outlets_(outlets), settings_(outlets.settings) {
+    : QObject(parent),
+      outlets_(outlets),
+      settings_(outlets.settings),
+      print_choices_(std::make_unique<PrintChoices>()) {
   connectMenus();
   connectWindows();
 }
@@ -164,10 +166,8 @@ void ChamberController::print() {
   // The page shows the picture at rest, as the panel's preview does.
   outlets_.chamber_view->stopRotating();
   PrintView page(*view, window->title(), *outlets_.chamber_view);
-  if (printer_ == nullptr) {
-    printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-  }
-  PrintPanel(page, QFileInfo(shown_name_).completeBaseName(), *printer_, *outlets_.dialogs, window)
+  PrintPanel(page, QFileInfo(shown_name_).completeBaseName(), *print_choices_, *outlets_.dialogs,
+             window)
       .exec();
 }
 

@@ -10,7 +10,6 @@
 #include "events/event_types.h"
 
 class QAction;
-class QPrinter;
 
 namespace Ui {
 class Menus;
@@ -24,6 +23,7 @@ class Printable;
 class ProjectionView;
 class UserDialogs;
 class ViewScrollArea;
+struct PrintChoices;
 
 /// What the controller works on; all of it must outlive the controller.
 struct ChamberOutlets {
@@ -105,7 +105,7 @@ class ChamberController : public QObject {
   QString shown_name_;
   bool chamber_on_top_ = true;
   Printable* print_view_ = nullptr;
-  std::unique_ptr<QPrinter> printer_;  ///< made for the first print; keeps its choices
+  std::unique_ptr<PrintChoices> print_choices_;
 };
 
 }  // namespace velquon

@@ -17,6 +17,11 @@ namespace {
 constexpr std::array<float, 8> evalues{10000.0F, 1000.0F, 100.0F, 10.0F, 1.0F, 0.1F, 0.01F, 0.0F};
 constexpr std::size_t last_range = evalues.size() - 2;
 
+// The ticks stand at 1, 2 ... 10 times the lower end of a range, in the range from 0 at 0, 1 ... 10
+// tenths of its upper end.
+constexpr int ticks_of_a_decade = 10;
+constexpr int ticks_from_zero = 11;
+
 // A label shows the nearest tick when the value is closer than that: a share of the energy's
 // greatest value, and the same number of kG and of metres.
 constexpr double energy_tolerance_share = 0.004;
@@ -79,6 +84,7 @@ void ChamberSettings::setEnergyRange(float energy_MeV) {
 
 void ChamberSettings::reset_energy_range(const QComboBox* sender) {
   const auto range = static_cast<std::size_t>(sender->currentIndex());
+  outlets_.energy_slider->setTickMarks(range == last_range ? ticks_from_zero : ticks_of_a_decade);
   outlets_.energy_slider->setMinValue(static_cast<double>(evalues.at(range + 1)));
   outlets_.energy_slider->setMaxValue(static_cast<double>(evalues.at(range)));
   reset_energy(outlets_.energy_slider);

@@ -4,68 +4,55 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QPageLayout>
-#include <QPageSize>
 #include <QPdfWriter>
 #include <QPrintDialog>
-#include <QPrintPreviewWidget>
 #include <QPrinter>
-#include <QPrinterInfo>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
+#include "app/page_preview.h"
 #include "app/print_view.h"
 #include "app/user_dialogs.h"
 #include "app/whole_file.h"
 
 namespace velquon {
 
-namespace {
+PrintChoices::PrintChoices() = default;
+PrintChoices::~PrintChoices() = default;
 
-constexpr double margin = 36.0;  // points
-
-void set_margins(QPagedPaintDevice& device) {
-  device.setPageOrientation(QPageLayout::Portrait);
-  device.setPageMargins(QMarginsF(margin, margin, margin, margin), QPageLayout::Point);
-}
-
-}  // namespace
-
-PrintPanel::PrintPanel(PrintView& view, QString name, QPrinter& printer, UserDialogs& dialogs,
+PrintPanel::PrintPanel(PrintView& view, QString name, PrintChoices& choices, UserDialogs& dialogs,
                        QWidget* parent)
-    : QDialog(parent), view_(view), name_(std::move(name)), printer_(printer), dialogs_(dialogs) {
+    : QDialog(parent),
+      view_(view),
+      name_(std::move(name)),
+      choices_(choices),
+      dialogs_(dialogs),
+      preview_(new PagePreview(view)),
+      state_(new QLabel(tr("Looking for printers… The page can be saved as a PDF file."))) {
   setWindowTitle(tr("Print"));
-  printer_.setDocName(view_.title());
-  set_margins(printer_);
-  const bool has_printer = !QPrinterInfo::availablePrinterNames().isEmpty();
-
-  auto* const preview = new QPrintPreviewWidget(&printer_, this);
-  preview->setObjectName(QStringLiteral("print_preview"));
-  preview->setAccessibleName(tr("Preview of the page"));
-  preview->fitInView();
-  connect(preview, &QPrintPreviewWidget::paintRequested, this,
-          [this](QPrinter* page) { view_.print(*page); });
-
-  auto* const state = new QLabel(
-      has_printer ? tr("The page can be printed or saved as a PDF file.")
-                  : tr("No printer is set up on this computer. The page can be saved as a PDF "
-                       "file."));
-  state->setObjectName(QStringLiteral("printer_state"));
-  state->setWordWrap(true);
+  preview_->setObjectName(QStringLiteral("print_preview"));
+  preview_->setAccessibleName(tr("Preview of the page"));
+  state_->setObjectName(QStringLiteral("printer_state"));
+  state_->setWordWrap(true);
 
   auto* const layout = new QVBoxLayout(this);
-  layout->addWidget(preview, 1);
-  layout->addLayout(makePaperRow(preview));
-  layout->addWidget(state);
-  layout->addWidget(makeButtons(has_printer));
-  default_button_->setFocus();
+  layout->addWidget(preview_, 1);
+  layout->addLayout(makePaperRow());
+  layout->addWidget(state_);
+  layout->addWidget(makeButtons());
+  // It stays so when a printer is found: the Enter key is not to do another thing in between.
+  pdf_button_->setDefault(true);
+  pdf_button_->setFocus();
   constexpr QSize panel_size(480, 640);
   resize(panel_size);
+
+  connect(&search_, &PrinterSearch::ended, this, &PrintPanel::showPrinters);
+  search_.start();
 }
 
-QLayout* PrintPanel::makePaperRow(QPrintPreviewWidget* preview) {
+QLayout* PrintPanel::makePaperRow() {
   auto* const popup = new QComboBox;
   popup->setObjectName(QStringLiteral("paper_popup"));
   auto* const label = new QLabel(tr("Pa&per:"));
@@ -73,12 +60,9 @@ QLayout* PrintPanel::makePaperRow(QPrintPreviewWidget* preview) {
   for (const QPageSize::PageSizeId size : {QPageSize::A4, QPageSize::Letter}) {
     popup->addItem(QPageSize::name(size), size);
   }
-  const int usual = popup->findData(printer_.pageLayout().pageSize().id());
-  popup->setCurrentIndex(std::max(usual, 0));
-  const auto take_choice = [this, popup, preview] {
-    printer_.setPageSize(QPageSize(popup->currentData().value<QPageSize::PageSizeId>()));
-    set_margins(printer_);
-    preview->updatePreview();
+  popup->setCurrentIndex(std::max(popup->findData(choices_.paper), 0));
+  const auto take_choice = [this, popup] {
+    choosePaper(popup->currentData().value<QPageSize::PageSizeId>());
   };
   take_choice();
   connect(popup, &QComboBox::currentIndexChanged, this, take_choice);
@@ -89,31 +73,67 @@ QLayout* PrintPanel::makePaperRow(QPrintPreviewWidget* preview) {
   return row;
 }
 
-QWidget* PrintPanel::makeButtons(bool has_printer) {
+QWidget* PrintPanel::makeButtons() {
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
-  auto* const pdf_button = buttons->addButton(tr("Save as P&DF…"), QDialogButtonBox::ActionRole);
-  auto* const print_button = buttons->addButton(tr("P&rint…"), QDialogButtonBox::ActionRole);
-  pdf_button->setObjectName(QStringLiteral("pdf_button"));
-  print_button->setObjectName(QStringLiteral("print_button"));
-  print_button->setEnabled(has_printer);
-  default_button_ = has_printer ? print_button : pdf_button;
-  default_button_->setDefault(true);
-  connect(pdf_button, &QPushButton::clicked, this, &PrintPanel::saveAsPdf);
-  connect(print_button, &QPushButton::clicked, this, &PrintPanel::sendToPrinter);
+  pdf_button_ = buttons->addButton(tr("Save as P&DF…"), QDialogButtonBox::ActionRole);
+  print_button_ = buttons->addButton(tr("P&rint…"), QDialogButtonBox::ActionRole);
+  pdf_button_->setObjectName(QStringLiteral("pdf_button"));
+  print_button_->setObjectName(QStringLiteral("print_button"));
+  print_button_->setEnabled(false);
+  connect(pdf_button_, &QPushButton::clicked, this, &PrintPanel::saveAsPdf);
+  connect(print_button_, &QPushButton::clicked, this, &PrintPanel::sendToPrinter);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   return buttons;
 }
 
+void PrintPanel::choosePaper(QPageSize::PageSizeId paper) {
+  choices_.paper = paper;
+  preview_->setPaper(pageLayout().fullRect(QPageLayout::Point).size());
+}
+
+QPageLayout PrintPanel::pageLayout() const {
+  return {QPageSize(choices_.paper), QPageLayout::Portrait,
+          QMarginsF(page_margin, page_margin, page_margin, page_margin), QPageLayout::Point};
+}
+
+void PrintPanel::showPrinters(PrinterSearch::Result result) {
+  switch (result) {
+    case PrinterSearch::Result::found:
+      print_button_->setEnabled(true);
+      state_->setText(tr("The page can be printed or saved as a PDF file."));
+      break;
+    case PrinterSearch::Result::none:
+      state_->setText(
+          tr("No printer is set up on this computer. The page can be saved as a PDF "
+             "file."));
+      break;
+    case PrinterSearch::Result::no_answer:
+      state_->setText(tr("No print server answers. The page can be saved as a PDF file."));
+      break;
+    case PrinterSearch::Result::no_command:
+      state_->setText(
+          tr("Printers cannot be looked for, because the command lpstat is not "
+             "installed (package cups-client). The page can be saved as a PDF file."));
+      break;
+  }
+}
+
 void PrintPanel::sendToPrinter() {
-  QPrintDialog dialog(&printer_, this);
+  if (choices_.printer == nullptr) {
+    choices_.printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  }
+  QPrinter& printer = *choices_.printer;
+  printer.setDocName(view_.title());
+  printer.setPageLayout(pageLayout());
+  QPrintDialog dialog(&printer, this);
   if (dialog.exec() != QDialog::Accepted) {
     return;
   }
-  if (view_.print(printer_)) {
+  if (view_.print(printer)) {
     accept();
   } else {
     dialogs_.alert(tr("Not printed"),
-                   tr("The printer %1 did not take the page.").arg(printer_.printerName()));
+                   tr("The printer %1 did not take the page.").arg(printer.printerName()));
   }
 }
 
@@ -128,8 +148,7 @@ void PrintPanel::saveAsPdf() {
   buffer.open(QIODevice::WriteOnly);
   QPdfWriter writer(&buffer);
   writer.setTitle(view_.title());
-  writer.setPageSize(printer_.pageLayout().pageSize());
-  set_margins(writer);
+  writer.setPageLayout(pageLayout());
   const auto reason = view_.print(writer) ? write_whole_file(path, document)
                                           : std::optional(tr("the page cannot be drawn"));
   if (reason) {

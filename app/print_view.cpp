@@ -16,8 +16,6 @@ namespace velquon {
 namespace {
 
 // Points, 1/72 inch.
-constexpr QSizeF page_size(500.0, 720.0);
-constexpr double margin = 36.0;
 constexpr int font_size = 12;
 constexpr double line_width = 1.0;
 constexpr double points_per_inch = 72.0;
@@ -30,14 +28,10 @@ QString date_text() {
                                QStringLiteral("ddd MM/dd/yy hh:mm AP"));
 }
 
-/// Puts the origin at the page's lower left corner with y upwards and a point as the unit.
-void place_page(QPainter& painter, const QPagedPaintDevice& device) {
-  const QSizeF paper = device.pageLayout().fullRect(QPageLayout::Point).size();
-  const double fit = std::min({1.0, (paper.width() - 2.0 * margin) / page_size.width(),
-                               (paper.height() - 2.0 * margin) / page_size.height()});
-  const QPointF paint_origin = device.pageLayout().paintRect(QPageLayout::Point).topLeft();
-  painter.scale(device.logicalDpiX() / points_per_inch, device.logicalDpiY() / points_per_inch);
-  painter.translate(-paint_origin);
+/// Puts the origin at the page's lower left corner with y upwards.
+void place_page(QPainter& painter, QSizeF paper) {
+  const double fit = std::min({1.0, (paper.width() - 2.0 * page_margin) / page_size.width(),
+                               (paper.height() - 2.0 * page_margin) / page_size.height()});
   painter.translate((paper.width() - fit * page_size.width()) / 2.0,
                     (paper.height() + fit * page_size.height()) / 2.0);
   painter.scale(fit, -fit);
@@ -54,13 +48,20 @@ bool PrintView::print(QPagedPaintDevice& device) {
   if (!page.begin(&device)) {
     return false;
   }
-  place_page(page, device);
+  const QPageLayout layout = device.pageLayout();
+  page.scale(device.logicalDpiX() / points_per_inch, device.logicalDpiY() / points_per_inch);
+  page.translate(-layout.paintRect(QPageLayout::Point).topLeft());
+  draw(page, layout.fullRect(QPageLayout::Point).size());
+  return page.end();
+}
+
+void PrintView::draw(QPainter& page, QSizeF paper) {
+  place_page(page, paper);
   QFont font = page.font();
   font.setPixelSize(font_size);
   page.setFont(font);
-  page.setPen(QPen(Qt::black, line_width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  page.setPen(QPen(Qt::black, line_width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
   drawRect(page);
-  return page.end();
 }
 
 void PrintView::drawRect(QPainter& page) {

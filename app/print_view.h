@@ -11,6 +11,9 @@ namespace velquon {
 class ChamberView;
 class Printable;
 
+/// Free room at each edge of the paper, points.
+inline constexpr double page_margin = 36.0;
+
 /// The printed page: date and time, title and chamber values above the picture of a view.
 class PrintView {
  public:
@@ -25,6 +28,11 @@ class PrintView {
   /// margins of 36 points.
   /// \return whether the device could be drawn on
   bool print(QPagedPaintDevice& device);
+
+  /// Draws the page in the middle of a paper whose upper left corner is the painter's origin, with
+  /// a point as its unit.
+  /// \param paper size of the paper, points
+  void draw(QPainter& page, QSizeF paper);
 
  private:
   void drawRect(QPainter& page);

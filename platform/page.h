@@ -1,11 +1,18 @@
 #pragma once
 
 #include <QPointF>
+#include <QRectF>
+#include <QSizeF>
 
 class QPainter;
 class QString;
 
 namespace velquon {
+
+/// A page, in points from its lower left corner.
+inline constexpr QSizeF page_size(500.0, 720.0);
+/// The part of a page that is a view's; date, title and values stand above.
+inline constexpr QRectF page_picture(0.0, 0.0, 500.0, 640.0);
 
 /// A view that can be drawn on a page.
 class Printable {

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/wheel_guard.h"
+
 namespace velquon {
 
 namespace {
@@ -12,6 +14,22 @@ namespace {
 // The knob moves in whole positions; that many lie between two ticks.
 constexpr int positions_per_tick = 100'000;
 constexpr int steps_per_tick = 10;
+
+/// The 32-bit float of a decimal number near a value. The bounds of a range are 32-bit floats
+/// themselves, so that a tick computed between 0.1 and 1 is not quite 0.2.
+double round_decimal(double value) {
+  constexpr int digits = 7;
+  return static_cast<double>(QString::number(value, 'g', digits).toFloat());
+}
+
+/// The next multiple of a distance beyond a position, which is not negative.
+int mark_above(int position, int distance) {
+  return (position / distance + 1) * distance;
+}
+
+int mark_below(int position, int distance) {
+  return ((position + distance - 1) / distance - 1) * distance;
+}
 
 }  // namespace
 
@@ -21,6 +39,8 @@ ValueSlider::ValueSlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
   setPageStep(positions_per_tick);
   setTickInterval(positions_per_tick);
   placeKnob();
+  take_wheel_only_with_focus(*this);
+  connect(this, &QSlider::actionTriggered, this, &ValueSlider::goToMark);
   connect(this, &QSlider::valueChanged, this, &ValueSlider::takeKnobPosition);
 }
 
@@ -73,14 +93,37 @@ void ValueSlider::moveTo(double value) {
 }
 
 void ValueSlider::takeKnobPosition(int position) {
-  moveTo(min_value_ +
-         (max_value_ - min_value_) * (static_cast<double>(position) / knobPositions()));
+  moveTo(round_decimal(min_value_ + (max_value_ - min_value_) *
+                                        (static_cast<double>(position) / knobPositions())));
+}
+
+void ValueSlider::goToMark(int action) {
+  switch (action) {
+    case SliderSingleStepAdd:
+      setSliderPosition(mark_above(value(), singleStep()));
+      break;
+    case SliderSingleStepSub:
+      setSliderPosition(mark_below(value(), singleStep()));
+      break;
+    case SliderPageStepAdd:
+      setSliderPosition(mark_above(value(), pageStep()));
+      break;
+    case SliderPageStepSub:
+      setSliderPosition(mark_below(value(), pageStep()));
+      break;
+    case SliderToMinimum:
+    case SliderToMaximum:
+      // A value from outside the range lets the knob rest at an end without being there.
+      takeKnobPosition(sliderPosition());
+      break;
+    default:
+      break;
+  }
 }
 
 void ValueSlider::placeKnob() {
   const QSignalBlocker no_signal(this);
-  const bool stops_above_zero = zero_excluded_ && min_value_ == 0.0;
-  setRange(stops_above_zero ? singleStep() : 0, knobPositions());
+  setRange(0, knobPositions());
   // While one bound is set and the other not yet, the range can be empty.
   const double span = max_value_ - min_value_;
   const double fraction = span > 0.0 ? (doubleValue() - min_value_) / span : 0.0;

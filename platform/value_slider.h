@@ -6,7 +6,9 @@ namespace velquon {
 
 /// A slider for real numbers with tick marks. A value that the program sets is kept exactly as the
 /// 32-bit float it is, even outside the range, the knob then resting at the nearest end; the user's
-/// own moves stay in the range. Arrow keys move by a tenth of a tick, page keys by a tick.
+/// own moves stay in the range. Page keys and clicks beside the knob go to the next tick, arrow keys
+/// to the next tenth between two ticks, wherever a drag has left the knob. The wheel turns the
+/// slider only while it has the focus.
 class ValueSlider : public QSlider {
   Q_OBJECT
   Q_PROPERTY(double maxValue READ maxValue WRITE setMaxValue)
@@ -31,7 +33,7 @@ class ValueSlider : public QSlider {
   void setTickMarks(int count);
   void setUnit(const QString& unit) { unit_ = unit; }
 
-  /// Keeps the knob one step above a least value of 0, which the user then cannot choose.
+  /// Lets the user choose no value below one step when the least value is 0.
   void setZeroExcluded(bool excluded);
   [[nodiscard]] bool zeroExcluded() const { return zero_excluded_; }
 
@@ -41,7 +43,7 @@ class ValueSlider : public QSlider {
   void setFloatValue(float value);
 
   [[nodiscard]] double closestTickMarkValueToValue(double value) const;
-  /// The distance of an arrow key.
+  /// The distance between two places of the arrow keys.
   [[nodiscard]] double stepValue() const;
 
   /// Sets the value as a move of the knob would: within the range, with the signal.
@@ -53,6 +55,7 @@ class ValueSlider : public QSlider {
 
  private:
   void takeKnobPosition(int position);
+  void goToMark(int action);
   void placeKnob();
   [[nodiscard]] int knobPositions() const;
   [[nodiscard]] double tickDistance() const;

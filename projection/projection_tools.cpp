@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <cmath>
 
+#include "platform/cursors.h"
 #include "platform/number_text.h"
 #include "projection/projection_view.h"
 
@@ -19,6 +20,13 @@ void ProjectionView::setTool(QAbstractButton* sender) {
   hideTape();
   display();
   resetCursorRects();
+}
+
+void ProjectionView::setScaler(double scaler) {
+  scaler_ = scaler;
+  if (tape_visible_) {
+    showReading(tapeLength());
+  }
 }
 
 double ProjectionView::tapeLength() const {
@@ -65,6 +73,17 @@ void ProjectionView::resetCursorRects() {
   setCursor(tool_choice_ == Tool::tape ? cross_hair_cursor_ : grabber_cursor_);
 }
 
+void ProjectionView::makeCursors() {
+  const double ratio = devicePixelRatioF();
+  if (ratio == cursor_ratio_) {
+    return;
+  }
+  cursor_ratio_ = ratio;
+  cross_hair_cursor_ = cursor_named(QStringLiteral("crosshairs"), {7, 7}, ratio);
+  grabber_cursor_ = cursor_named(QStringLiteral("grabber"), {8, 9}, ratio);
+  resetCursorRects();
+}
+
 void ProjectionView::hideTape() {
   tape_visible_ = false;
   showReading(0.0);
@@ -81,7 +100,7 @@ void ProjectionView::stretchTape(QPointF place) {
 }
 
 void ProjectionView::grabTo(QPointF place) {
-  tape_visible_ = false;
+  hideTape();
   const QPointF moved = last_grab_ - place;
   last_grab_ = place;
   OffV_ += moved.y();

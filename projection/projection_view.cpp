@@ -8,8 +8,6 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/cursors.h"
-
 namespace velquon {
 
 namespace {
@@ -20,9 +18,10 @@ constexpr QPointF page_offset{20.0, 100.0};
 constexpr double half_square = 0.5;
 constexpr QColor frame_gray(128, 128, 128);
 
-void draw_dotted_frame(const QRectF& frame) {
+/// \param dot length of a dot and of a gap, device pixels
+void draw_dotted_frame(const QRectF& frame, int dot) {
   glEnable(GL_LINE_STIPPLE);
-  glLineStipple(1, 0xAAAA);
+  glLineStipple(dot, 0xAAAA);
   glBegin(GL_LINE_LOOP);
   glVertex2d(frame.left(), frame.top());
   glVertex2d(frame.right(), frame.top());
@@ -34,12 +33,11 @@ void draw_dotted_frame(const QRectF& frame) {
 
 }  // namespace
 
-ProjectionView::ProjectionView(QWidget* parent)
-    : GLView(parent),
-      cross_hair_cursor_(cursor_named(QStringLiteral("crosshairs"), {7, 7})),
-      grabber_cursor_(cursor_named(QStringLiteral("grabber"), {8, 9})) {
+ProjectionView::ProjectionView(QWidget* parent) : GLView(parent) {
   resetOffsets();
-  resetCursorRects();
+  makeCursors();
+  // A screen of another ratio gives the view another framebuffer, and this signal.
+  connect(this, &QOpenGLWidget::resized, this, &ProjectionView::makeCursors);
 }
 
 void ProjectionView::setOutlets(const ProjectionOutlets& outlets) {
@@ -87,7 +85,7 @@ void ProjectionView::resetOffsets() {
 
 void ProjectionView::restore() {
   resetOffsets();
-  tape_visible_ = false;
+  hideTape();
 }
 
 ProjectionMapping ProjectionView::mapping() const {
@@ -118,6 +116,8 @@ void ProjectionView::drawRect() {
   glViewport(0, 0, qRound(seen.width() * ratio), qRound(seen.height() * ratio));
   gluOrtho2D(0.0, seen.width(), 0.0, seen.height());
   glTranslated(-seen.x(), -seen.y(), 0.0);
+  // OpenGL counts the width of lines and the length of dots in device pixels.
+  glLineWidth(static_cast<GLfloat>(ratio));
   drawTracks();
   if (tape_visible_) {
     glColor3f(1.0F, 0.0F, 0.0F);
@@ -132,7 +132,7 @@ void ProjectionView::drawRect() {
 void ProjectionView::drawTracks() {
   const ProjectionMapping mapping = this->mapping();
   glColor3f(1.0F, 1.0F, 1.0F);
-  draw_dotted_frame(mapping.frame());
+  draw_dotted_frame(mapping.frame(), std::max(qRound(devicePixelRatioF()), 1));
   for (const QPointF& point : display_points_) {
     const QPointF place = mapping.map(point);
     glRectd(place.x() - half_square, place.y() - half_square, place.x() + half_square,
@@ -141,8 +141,31 @@ void ProjectionView::drawTracks() {
 }
 
 void ProjectionView::printRect() {
-  const ProjectionMapping mapping = this->mapping();
-  const QRectF frame = mapping.frame().translated(page_offset);
+  const QRectF frame = mapping().frame().translated(page_offset);
+  const std::vector<QRectF> squares = printedSquares();
+  const QLineF tape = printedTape();
+  const auto reaches_header = [](double top) { return top > page_picture.bottom(); };
+  const bool is_clipped =
+      reaches_header(frame.bottom()) || std::ranges::any_of(squares, [&](const QRectF& square) {
+        return reaches_header(square.bottom());
+      });
+  if (is_clipped) {
+    page_->save();
+    page_->setClipRect(page_picture, Qt::IntersectClip);
+  }
+  printFrame(frame);
+  for (const QRectF& square : squares) {
+    page_->fillRect(square, Qt::black);
+  }
+  if (!tape.isNull()) {
+    page_->drawLine(tape);
+  }
+  if (is_clipped) {
+    page_->restore();
+  }
+}
+
+void ProjectionView::printFrame(const QRectF& frame) {
   const QPen pen = page_->pen();
   QPen gray_pen = pen;
   gray_pen.setColor(frame_gray);
@@ -152,17 +175,28 @@ void ProjectionView::printRect() {
   page_->drawLine(frame.bottomRight(), frame.bottomLeft());
   page_->drawLine(frame.bottomLeft(), frame.topLeft());
   page_->setPen(pen);
+}
+
+std::vector<QRectF> ProjectionView::printedSquares() const {
+  const ProjectionMapping mapping = this->mapping();
+  std::vector<QRectF> squares;
+  squares.reserve(display_points_.size());
   for (const QPointF& point : display_points_) {
     const QPointF corner = mapping.map(point) - QPointF(half_square, half_square);
     if (can_be_on_paper(corner)) {
-      page_->fillRect(QRectF(corner + page_offset, QSizeF(1.0, 1.0)), Qt::black);
+      squares.emplace_back(corner + page_offset, QSizeF(1.0, 1.0));
     }
   }
-  if (tape_visible_) {
-    const QPointF from_screen(0.0, pictureHeight() - shown_height_);
-    page_->drawLine(tape_start_point_ + from_screen + page_offset,
-                    tape_end_point_ + from_screen + page_offset);
+  return squares;
+}
+
+QLineF ProjectionView::printedTape() const {
+  if (!tape_visible_) {
+    return {};
   }
+  const QPointF from_screen(0.0, pictureHeight() - shown_height_);
+  return {tape_start_point_ + from_screen + page_offset,
+          tape_end_point_ + from_screen + page_offset};
 }
 
 void ProjectionView::reshape() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCursor>
+#include <QLineF>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -45,8 +46,9 @@ class ProjectionView : public GLView, public Printable {
   /// Shows the points of an event that stays the caller's and must outlive its showing. Does not
   /// draw.
   void setData(std::span<const PlotPoint> points);
+  /// A tape on the screen is read anew.
   /// \param scaler cm of the chamber per view unit at zoom 1
-  void setScaler(double scaler) { scaler_ = scaler; }
+  void setScaler(double scaler);
   [[nodiscard]] double scaler() const { return scaler_; }
 
   /// Chooses the plane by its button; hides the tape and puts the picture back to its place.
@@ -85,7 +87,13 @@ class ProjectionView : public GLView, public Printable {
   [[nodiscard]] double pictureHeight() const;
   void makeDisplayPoints();
   void drawTracks();
+  void printFrame(const QRectF& frame);
+  /// The tape on the page; a null line while it is hidden.
+  [[nodiscard]] QLineF printedTape() const;
+  /// The points' squares on the page, without those that no page can hold.
+  [[nodiscard]] std::vector<QRectF> printedSquares() const;
   void resetCursorRects();
+  void makeCursors();
   void hideTape();
   void showReading(double centimetres);
   void stretchTape(QPointF place);
@@ -94,6 +102,7 @@ class ProjectionView : public GLView, public Printable {
   ProjectionOutlets outlets_;
   QCursor cross_hair_cursor_;
   QCursor grabber_cursor_;
+  double cursor_ratio_ = 0.0;  ///< device pixels to a pixel that the cursors are made for
   double OffV_ = 0.0;
   double OffH_ = 0.0;
   std::span<const PlotPoint> event_data_;

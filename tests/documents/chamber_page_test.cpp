@@ -186,6 +186,24 @@ TEST_F(ChamberPageTest, LeavesOutPointsThatAreNowhere) {
   expect_cubes(page, {somewhere}, resting_camera(), a4);
 }
 
+TEST_F(ChamberPageTest, HoldsNothingBeyondItsEdges) {
+  // In the picture, but beside the page, which is narrower.
+  const PlotPoint beside = point_at(0, -1050, 0, 3);
+  const double place = on_paper(resting_camera(), {0, -1050, 0}, a4).x() - a4.origin.x();
+  ASSERT_LT(place, -5.0);
+  ASSERT_GT(place, -45.0);
+  openEvent({beside, point_at(0, 0, 0, 3)});
+  EXPECT_EQ(print().rectangles.size(), 2U);
+  const QImage page = picture_of_pdf(path(QStringLiteral("page.pdf")));
+  EXPECT_EQ(ink_in(page, QRectF(0, 0, a4.origin.x() - 1, a4.size.height())), 0);
+  EXPECT_GT(ink_in(page, QRectF(a4.origin + QPointF(0, 100), QSizeF(500, 500))), 1000);
+}
+
+TEST_F(ChamberPageTest, HasLinesWithSquareEnds) {
+  openEvent(spiral(3));
+  EXPECT_EQ(line_styles_of(print()), (std::set<std::string>{"0 J", "0 j"}));
+}
+
 TEST_F(ChamberPageTest, ShowsTheChamberAsItIsTurned) {
   const std::vector<PlotPoint> points = spiral(100);
   openEvent(points);

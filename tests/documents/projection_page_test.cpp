@@ -1,6 +1,7 @@
 #include <QScrollBar>
 #include <algorithm>
 #include <limits>
+#include <set>
 
 #include "gui/support/input.h"
 #include "gui/support/waiting.h"
@@ -26,7 +27,21 @@ class ProjectionPageTest : public DocumentsFixture {
   PdfPage print(const Paper& paper = a4) {
     return print_to_pdf(projection(), chamber(), paper, path(QStringLiteral("page.pdf")));
   }
+  QImage printedPicture() {
+    print();
+    return picture_of_pdf(path(QStringLiteral("page.pdf")));
+  }
 };
+
+/// An area of the page on the A4 paper.
+QRectF on_a4(double x, double y, double width, double height) {
+  return QRectF(x, y, width, height).translated(a4.origin);
+}
+
+std::ptrdiff_t clips_of(const PdfPage& page) {
+  const QString operators = QString::fromStdString(page.operators);
+  return operators.count(QStringLiteral("W n")) + operators.count(QStringLiteral("W* n"));
+}
 
 struct View {
   double zoom = 1.0;
@@ -195,6 +210,65 @@ TEST_F(ProjectionPageTest, IsTheSameWhenPrintedAgain) {
   for (std::size_t i = 0; i < first.rectangles.size(); ++i) {
     EXPECT_EQ(first.rectangles[i].area, second.rectangles[i].area);
   }
+}
+
+TEST_F(ProjectionPageTest, LeavesItsHeaderFreeAtEveryZoom) {
+  // At zoom 2 the last two would be printed beside the title, and above the page at zoom 3.
+  openEvent({point_at(0, 0, 0, 3), point_at(-380, -50, 0, 4), point_at(-350, 0, 0, 4)});
+  for (const char* const zoom : {"zoom_1", "zoom_2", "zoom_3"}) {
+    SCOPED_TRACE(zoom);
+    clickButton(zoom);
+    const QImage page = printedPicture();
+    EXPECT_EQ(ink_in(page, on_a4(350, 641, 150, 79)), 0);
+    EXPECT_EQ(ink_in(page, on_a4(0, 662, 500, 12)), 0) << "between title and values";
+    EXPECT_EQ(ink_in(page, on_a4(0, 690, 500, 8)), 0) << "between date and title";
+    EXPECT_GT(ink_in(page, on_a4(0, 640, 350, 80)), 500) << "the header";
+    EXPECT_GT(ink_in(page, on_a4(20, 100, 480, 538)), 1000) << "the picture";
+  }
+}
+
+TEST_F(ProjectionPageTest, ReachesUpToItsHeader) {
+  openEvent({point_at(0, 0, 0, 3)});
+  clickButton("zoom_2");
+  // The frame's left side.
+  EXPECT_GT(ink_in(printedPicture(), on_a4(88, 638, 4, 2)), 0);
+}
+
+TEST_F(ProjectionPageTest, LeavesItsHeaderFreeWhereverThePictureWasDragged) {
+  openEvent({point_at(0, 0, 0, 3)});
+  clickButton("grab_tool");
+  drag(projection(), {100, 400}, {100, 40});
+  const QImage page = printedPicture();
+  EXPECT_EQ(ink_in(page, on_a4(350, 641, 150, 79)), 0);
+  EXPECT_EQ(ink_in(page, on_a4(0, 662, 500, 12)), 0);
+}
+
+TEST_F(ProjectionPageTest, LeavesItsHeaderFreeOfAPointFarOutsideTheChamber) {
+  openEvent({point_at(0, 0, 0, 3), point_at(-716, 0, 0, 3)});
+  const QImage page = printedPicture();
+  EXPECT_EQ(ink_in(page, on_a4(0, 662, 500, 12)), 0);
+}
+
+TEST_F(ProjectionPageTest, HoldsNothingBeyondItsEdges) {
+  openEvent({point_at(0, 0, 0, 3)});
+  clickButton("grab_tool");
+  drag(projection(), {100, 40}, {400, 410});
+  const QImage page = printedPicture();
+  EXPECT_EQ(ink_in(page, on_a4(-47, -61, 594, 60)), 0) << "below";
+  EXPECT_EQ(ink_in(page, on_a4(501, -61, 46, 841)), 0) << "to the right";
+  EXPECT_GT(ink_in(page, on_a4(100, 1, 399, 600)), 500);
+}
+
+TEST_F(ProjectionPageTest, IsLimitedByTheEdgesOfThePageAloneWhileThePictureIsInItsPlace) {
+  openEvent(spiral(50));
+  EXPECT_EQ(clips_of(print()), 1);
+  clickButton("zoom_2");
+  EXPECT_GT(clips_of(print()), 1);
+}
+
+TEST_F(ProjectionPageTest, HasLinesWithSquareEnds) {
+  openEvent(spiral(3));
+  EXPECT_EQ(line_styles_of(print()), (std::set<std::string>{"0 J", "0 j"}));
 }
 
 TEST_F(ProjectionPageTest, LeavesTheScreenAsItWas) {

@@ -1,13 +1,18 @@
 // The controls of the chamber values, their labels, and the way of the values into an event.
 
+#include <QAccessible>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QLabel>
+#include <QToolTip>
 #include <bit>
 #include <cmath>
 #include <limits>
 
+#include "platform/value_label.h"
 #include "platform/value_slider.h"
 #include "tests/gui/support/application_fixture.h"
+#include "tests/gui/support/waiting.h"
 
 namespace velquon::test {
 
@@ -69,14 +74,18 @@ TEST_F(ChamberSettingsTest, EnergySelectsItsRangeAndIsShownWithItsPrecision) {
 }
 
 TEST_F(ChamberSettingsTest, EnergyWithinAShareOfTheGreatestShowsTheTick) {
-  // From 0.1 to 1 MeV a tick is 0.09 and the tolerance 0.004; from 10 to 100 it is 0.4.
+  // From 0.1 to 1 MeV there is a tick at each 0.1 and the tolerance is 0.004; from 10 to 100 a
+  // hundred times that.
   struct Case {
     float energy;
     const char* label;
   };
-  constexpr std::array cases{Case{0.193F, "T = 0.190 MeV"}, Case{0.187F, "T = 0.190 MeV"},
-                             Case{0.195F, "T = 0.195 MeV"}, Case{0.185F, "T = 0.185 MeV"},
-                             Case{19.3F, "T = 19.00 MeV"},  Case{19.5F, "T = 19.50 MeV"}};
+  constexpr std::array cases{Case{0.203F, "T = 0.200 MeV"},  Case{0.197F, "T = 0.200 MeV"},
+                             Case{0.205F, "T = 0.205 MeV"},  Case{0.195F, "T = 0.195 MeV"},
+                             Case{0.19F, "T = 0.190 MeV"},   Case{20.3F, "T = 20.00 MeV"},
+                             Case{20.5F, "T = 20.50 MeV"},   Case{203.0F, "T = 200.0 MeV"},
+                             Case{500.0F, "T = 500.0 MeV"},  Case{4970.0F, "T = 5000.0 MeV"},
+                             Case{0.0034F, "T = 0.0034 MeV"}};
   for (const auto& [energy, text] : cases) {
     settings().setEnergyControl(energy);
     EXPECT_EQ(label("kinetic_energy_text"), text) << energy;
@@ -147,6 +156,56 @@ TEST_F(ChamberSettingsTest, SideLabelShowsATickNearbyAndElseTheValue) {
   for (const auto& [side, text] : cases) {
     settings().setSidesControl(side);
     EXPECT_EQ(label("sides_text"), text) << side;
+  }
+}
+
+TEST_F(ChamberSettingsTest, AValueTooLongForItsLabelEndsInDotsAndDoesNotWidenTheWindow) {
+  struct Case {
+    const char* label;
+    const char* text;
+  };
+  constexpr std::array cases{
+      Case{"magfield_text", "B = 1000000015047466219876688855040.000 kG"},
+      Case{"sides_text", "L = 9999999848243207295109594873856.000 m"},
+      Case{"kinetic_energy_text", "T = 1000000015047466219876688855040.0 MeV"}};
+  const QSize before = chamberWindow().size();
+  settings().setFieldControl(1.0e30F);
+  settings().setSidesControl(1.0e33F);
+  settings().setEnergyControl(1.0e30F);
+  handle_waiting_events();
+  EXPECT_EQ(chamberWindow().size(), before);
+  EXPECT_LE(chamberWindow().minimumSizeHint().width(), before.width());
+  for (const auto& [name, text] : cases) {
+    auto& long_label = control<ValueLabel>(name);
+    const QString shown = long_label.shownText();
+    EXPECT_TRUE(shown.endsWith(QChar(u'…'))) << shown.toStdString();
+    EXPECT_TRUE(QString::fromLatin1(text).startsWith(shown.chopped(1)));
+    EXPECT_LE(long_label.fontMetrics().horizontalAdvance(shown), long_label.width());
+    EXPECT_EQ(label(name), text);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&long_label)->text(QAccessible::Name),
+              QLatin1String(text));
+    const QPoint middle = long_label.rect().center();
+    QHelpEvent help(QEvent::ToolTip, middle, long_label.mapToGlobal(middle));
+    QCoreApplication::sendEvent(&long_label, &help);
+    EXPECT_EQ(QToolTip::text(), QLatin1String(text));
+    QToolTip::hideText();
+  }
+}
+
+TEST_F(ChamberSettingsTest, ALabelTooShortForItsValuePaintsTheShortenedText) {
+  auto& field = control<ValueLabel>("magfield_text");
+  settings().setFieldControl(1.0e30F);
+  const QImage shortened = field.grab().toImage();
+  field.setText(field.shownText());
+  EXPECT_EQ(field.grab().toImage(), shortened);
+}
+
+TEST_F(ChamberSettingsTest, UsualValuesAreShownWholeWithoutAToolTip) {
+  for (const float energy : {0.4F, 9'999.0F, 200.0F}) {
+    settings().setEnergyControl(energy);
+    for (const char* const name : {"magfield_text", "sides_text", "kinetic_energy_text"}) {
+      EXPECT_EQ(control<ValueLabel>(name).shownText().toStdString(), label(name));
+    }
   }
 }
 

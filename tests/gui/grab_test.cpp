@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QTest>
 
+#include "platform/cursors.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
 #include "tests/gui/support/pictures.h"
@@ -92,6 +93,19 @@ TEST_F(GrabTest, APressAloneMovesNothing) {
   EXPECT_EQ(offsets(), QPointF(470.0, 420.0));
 }
 
+TEST_F(GrabTest, AReleaseAwayFromTheLastMoveTakesThePictureAlong) {
+  clickButton("grab_tool");
+  const QPoint before = markPixel();
+  press(projection(), {100, 100});
+  release(projection(), {120, 70});
+  EXPECT_EQ(offsets(), QPointF(490.0, 390.0));
+  EXPECT_EQ(markPixel() - before, QPoint(10, -15));
+  press(projection(), {100, 100});
+  move_pressed(projection(), {110, 100});
+  release(projection(), {130, 100});
+  EXPECT_EQ(offsets(), QPointF(520.0, 390.0));
+}
+
 TEST_F(GrabTest, OtherMouseButtonsMoveNothing) {
   clickButton("grab_tool");
   drag(projection(), {100, 100}, {140, 80}, Qt::RightButton);
@@ -119,6 +133,40 @@ TEST_F(GrabTest, EachToolHasItsCursor) {
   expectCursor("crosshairs", {7, 7});
   const QImage cross(QStringLiteral(":/cursors/crosshairs.png"));
   EXPECT_NE(cross, QImage(QStringLiteral(":/cursors/grabber.png")));
+}
+
+TEST_F(GrabTest, CursorsHaveTheSizeOfAnyScreenAndTheirHotSpotOnIt) {
+  struct Case {
+    double ratio;
+    int side;
+    QPoint crosshairs;
+    QPoint grabber;
+  };
+  constexpr std::array cases{Case{1.0, 16, {7, 7}, {8, 9}}, Case{2.0, 32, {14, 14}, {16, 18}},
+                             Case{3.0, 48, {21, 21}, {24, 27}}, Case{1.5, 24, {11, 11}, {12, 14}},
+                             Case{4.0, 64, {28, 28}, {32, 36}}};
+  for (const auto& [ratio, side, crosshairs, grabber] : cases) {
+    SCOPED_TRACE(ratio);
+    const QCursor cross = cursor_named(QStringLiteral("crosshairs"), {7, 7}, ratio);
+    EXPECT_EQ(cross.pixmap().size(), QSize(side, side));
+    EXPECT_EQ(cross.pixmap().devicePixelRatio(), ratio);
+    EXPECT_EQ(cross.hotSpot(), crosshairs);
+    EXPECT_EQ(cursor_named(QStringLiteral("grabber"), {8, 9}, ratio).hotSpot(), grabber);
+  }
+}
+
+TEST_F(GrabTest, ACursorOfTwiceTheSizeShowsTheSamePicture) {
+  for (const char* const name : {"crosshairs", "grabber", "black_crosshairs"}) {
+    const auto image = [name](double ratio) {
+      return cursor_named(QLatin1String(name), {7, 7}, ratio)
+          .pixmap()
+          .toImage()
+          .convertToFormat(QImage::Format_ARGB32);
+    };
+    QImage doubled = image(1.0).scaled(32, 32);
+    doubled.setDevicePixelRatio(2.0);
+    EXPECT_EQ(image(2.0), doubled) << name;
+  }
 }
 
 TEST_F(GrabTest, ASenderThatIsNoToolLeavesTheToolAndResetsTheReading) {

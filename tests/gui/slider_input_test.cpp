@@ -1,9 +1,11 @@
 // The controls of the chamber values under keys, mouse and wheel.
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
 #include <QTest>
+#include <cmath>
 
 #include "platform/value_slider.h"
 #include "tests/gui/support/application_fixture.h"
@@ -22,6 +24,21 @@ class SliderInputTest : public ApplicationFixture {
   [[nodiscard]] std::string label(const char* name) {
     return control<QLabel>(name).text().toStdString();
   }
+  /// The columns of a slider's picture in which its tick marks are drawn.
+  static std::vector<int> drawnTicks(ValueSlider& slider) {
+    const QImage picture = slider.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    constexpr std::size_t fewest_ticks = 5;
+    std::vector<int> columns;
+    for (int row = picture.height() - 1; row > 0 && columns.size() < fewest_ticks; --row) {
+      columns.clear();
+      for (int x = 1; x < picture.width(); ++x) {
+        if (picture.pixel(x, row) != picture.pixel(0, row)) {
+          columns.push_back(x);
+        }
+      }
+    }
+    return columns;
+  }
   /// The last range, whose least value is 0.
   void chooseLowestRange() { ranges().setCurrentIndex(6); }
 };
@@ -34,7 +51,7 @@ struct SliderCase {
 };
 constexpr std::array sliders{SliderCase{"magfield_slider", 0.0, 0.5, 10.0},
                              SliderCase{"size_slider", 0.5, 0.5, 10.0},
-                             SliderCase{"energy_slider", 0.1, 0.09, 1.0}};
+                             SliderCase{"energy_slider", 0.1, 0.1, 1.0}};
 
 struct KeyCase {
   Qt::Key key;
@@ -58,6 +75,97 @@ TEST_F(SliderInputTest, ArrowKeysMoveATenthOfATickAndPageKeysATick) {
   }
 }
 
+TEST_F(SliderInputTest, KeysLandOnTheNextMarkWhereverADragHasLeftTheKnob) {
+  struct Case {
+    const char* slider;
+    float from;
+    Qt::Key key;
+    float to;
+  };
+  constexpr std::array cases{Case{"magfield_slider", 0.237F, Qt::Key_Right, 0.25F},
+                             Case{"magfield_slider", 0.237F, Qt::Key_Left, 0.2F},
+                             Case{"magfield_slider", 0.237F, Qt::Key_Up, 0.25F},
+                             Case{"magfield_slider", 0.237F, Qt::Key_PageUp, 0.5F},
+                             Case{"magfield_slider", 0.737F, Qt::Key_PageDown, 0.5F},
+                             Case{"magfield_slider", 9.991F, Qt::Key_PageUp, 10.0F},
+                             Case{"magfield_slider", 0.013F, Qt::Key_Left, 0.0F},
+                             Case{"size_slider", 3.3333F, Qt::Key_Left, 3.3F},
+                             Case{"size_slider", 3.3333F, Qt::Key_Right, 3.35F},
+                             Case{"size_slider", 3.3333F, Qt::Key_PageUp, 3.5F},
+                             Case{"size_slider", 3.3333F, Qt::Key_PageDown, 3.0F},
+                             Case{"energy_slider", 0.237F, Qt::Key_Right, 0.24F},
+                             Case{"energy_slider", 0.237F, Qt::Key_Down, 0.23F},
+                             Case{"energy_slider", 0.237F, Qt::Key_PageUp, 0.3F},
+                             Case{"energy_slider", 0.237F, Qt::Key_PageDown, 0.2F}};
+  for (const auto& [name, from, key, to] : cases) {
+    slider(name).setFloatValue(from);
+    QTest::keyClick(&slider(name), key);
+    EXPECT_EQ(slider(name).floatValue(), to) << name << " from " << from << ", key " << key;
+  }
+}
+
+TEST_F(SliderInputTest, PageKeysWalkTheTicksOfEachEnergyRangeExactly) {
+  struct Case {
+    int range;
+    std::vector<float> ticks;
+  };
+  const std::vector<Case> cases{
+      {0, {1000, 2000, 3000, 4000, 5000, 6000, 7000, 8000, 9000, 10000}},
+      {1, {100, 200, 300, 400, 500, 600, 700, 800, 900, 1000}},
+      {2, {10, 20, 30, 40, 50, 60, 70, 80, 90, 100}},
+      {3, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}},
+      {4, {0.1F, 0.2F, 0.3F, 0.4F, 0.5F, 0.6F, 0.7F, 0.8F, 0.9F, 1.0F}},
+      {5, {0.01F, 0.02F, 0.03F, 0.04F, 0.05F, 0.06F, 0.07F, 0.08F, 0.09F, 0.1F}},
+      {6,
+       {0.0001F, 0.001F, 0.002F, 0.003F, 0.004F, 0.005F, 0.006F, 0.007F, 0.008F, 0.009F, 0.01F}}};
+  for (const auto& [range, ticks] : cases) {
+    ranges().setCurrentIndex(range);
+    QTest::keyClick(&energy(), Qt::Key_Home);
+    for (const float tick : ticks) {
+      EXPECT_EQ(energy().floatValue(), tick) << "up, range " << range;
+      QTest::keyClick(&energy(), Qt::Key_PageUp);
+    }
+    for (auto tick = ticks.rbegin(); tick != ticks.rend(); ++tick) {
+      EXPECT_EQ(energy().floatValue(), *tick) << "down, range " << range;
+      QTest::keyClick(&energy(), Qt::Key_PageDown);
+    }
+  }
+}
+
+TEST_F(SliderInputTest, ArrowKeysWalkTheTenthsBetweenTheTicksExactly) {
+  ranges().setCurrentIndex(1);
+  QTest::keyClick(&energy(), Qt::Key_Home);
+  for (int energy_MeV = 100; energy_MeV < 1000; energy_MeV += 10) {
+    ASSERT_EQ(energy().floatValue(), static_cast<float>(energy_MeV));
+    QTest::keyClick(&energy(), Qt::Key_Right);
+  }
+  EXPECT_EQ(energy().floatValue(), 1000.0F);
+}
+
+TEST_F(SliderInputTest, AClickBesideTheKnobGoesToTheNextTick) {
+  ranges().setCurrentIndex(1);
+  energy().moveTo(337.0);
+  const QPoint right_end(energy().width() - 4, energy().height() / 3);
+  QTest::mouseClick(&energy(), Qt::LeftButton, {}, right_end);
+  EXPECT_EQ(energy().floatValue(), 400.0F);
+}
+
+TEST_F(SliderInputTest, TheKnobStandsAtTheTickDrawnForItsValue) {
+  for (const int range : {1, 4, 6}) {
+    SCOPED_TRACE(range);
+    ranges().setCurrentIndex(range);
+    const auto marks = drawnTicks(energy());
+    const double least = energy().minValue();
+    const double greatest = energy().maxValue();
+    ASSERT_EQ(marks.size(), range == 6 ? 11U : 10U);
+    for (std::size_t i = 1; i < marks.size(); ++i) {
+      energy().moveTo(least + (greatest - least) * static_cast<double>(i) /
+                                  static_cast<double>(marks.size() - 1));
+      EXPECT_NEAR(knob_of(energy()).x(), marks[i], 2);
+    }
+  }
+}
+
 TEST_F(SliderInputTest, HomeAndEndReachTheEnds) {
   for (const auto& [name, least, tick, greatest] : sliders) {
     QTest::keyClick(&slider(name), Qt::Key_End);
@@ -69,13 +177,29 @@ TEST_F(SliderInputTest, HomeAndEndReachTheEnds) {
   }
 }
 
+TEST_F(SliderInputTest, HomeAndEndTakeAValueFromOutsideIntoTheRange) {
+  controller().settings().setFieldControl(12.0F);
+  QTest::keyClick(&slider("magfield_slider"), Qt::Key_End);
+  EXPECT_EQ(slider("magfield_slider").floatValue(), 10.0F);
+  controller().settings().setFieldControl(-3.0F);
+  QTest::keyClick(&slider("magfield_slider"), Qt::Key_Home);
+  EXPECT_EQ(slider("magfield_slider").floatValue(), 0.0F);
+  EXPECT_EQ(label("magfield_text"), "B = 0.000 kG");
+}
+
 TEST_F(SliderInputTest, KeysRefreshTheLabels) {
   QTest::keyClick(&slider("magfield_slider"), Qt::Key_Right);
   EXPECT_EQ(label("magfield_text"), "B = 0.650 kG");
   QTest::keyClick(&slider("size_slider"), Qt::Key_PageDown);
   EXPECT_EQ(label("sides_text"), "L = 4.500 m");
-  QTest::keyClick(&energy(), Qt::Key_End);
-  EXPECT_EQ(label("kinetic_energy_text"), "T = 1.000 MeV");
+  QTest::keyClick(&energy(), Qt::Key_PageDown);
+  EXPECT_EQ(label("kinetic_energy_text"), "T = 0.300 MeV");
+  ranges().setCurrentIndex(1);
+  QTest::keyClick(&energy(), Qt::Key_PageUp);
+  EXPECT_EQ(label("kinetic_energy_text"), "T = 200.0 MeV");
+  auto* const read_out = QAccessible::queryAccessibleInterface(&energy());
+  EXPECT_EQ(read_out->text(QAccessible::Value), QStringLiteral("200 MeV"));
+  EXPECT_EQ(read_out->valueInterface()->currentValue().toDouble(), 200.0);
 }
 
 TEST_F(SliderInputTest, ADragMovesTheValueAndItsLabelAsItGoes) {
@@ -122,6 +246,7 @@ TEST_F(SliderInputTest, TheWheelMovesByTenthsOfATick) {
     ValueSlider& moved = slider(name);
     const double middle = least + 4.0 * tick;
     moved.setFloatValue(static_cast<float>(middle));
+    moved.setFocus();
     turn_wheel(moved, 1);
     const double step = tick / 10.0 * QApplication::wheelScrollLines();
     EXPECT_NEAR(moved.doubleValue(), middle + step, 1.0e-5 * greatest);
@@ -130,7 +255,17 @@ TEST_F(SliderInputTest, TheWheelMovesByTenthsOfATick) {
   }
 }
 
-TEST_F(SliderInputTest, TheWheelBesideTheKeysDoesNotChangeTheEnergyRange) {
+TEST_F(SliderInputTest, TheWheelOverASliderWithoutTheFocusChangesNothing) {
+  ranges().setFocus();
+  for (const SliderCase& row : sliders) {
+    const float before = slider(row.slider).floatValue();
+    turn_wheel(slider(row.slider), 3);
+    EXPECT_EQ(slider(row.slider).floatValue(), before) << row.slider;
+    EXPECT_TRUE(ranges().hasFocus());
+  }
+}
+
+TEST_F(SliderInputTest, TheWheelOverEnergyRangesWithoutTheFocusChangesNothing) {
   auto& ranges = control<QComboBox>("efactor_popup");
   slider("magfield_slider").setFocus();
   turn_wheel(ranges, 1);
@@ -169,6 +304,7 @@ TEST_F(SliderInputTest, NoMouseReachesEnergyZero) {
     QTest::mouseClick(&energy(), Qt::LeftButton, {}, QPoint(0, energy().height() / 2));
   }
   EXPECT_GT(energy().floatValue(), 0.0F);
+  energy().setFocus();
   turn_wheel(energy(), -200);
   EXPECT_GT(energy().floatValue(), 0.0F);
 }
@@ -202,11 +338,14 @@ TEST_F(SliderInputTest, RangesAreChosenByKeys) {
 }
 
 TEST_F(SliderInputTest, RangesAreChosenByMouse) {
+  // The list takes no choice within the time of a double click after the click that opened it.
+  const int usual_interval = QApplication::doubleClickInterval();
+  QApplication::setDoubleClickInterval(0);
   QTest::mouseClick(&ranges(), Qt::LeftButton);
   QAbstractItemView& list = *ranges().view();
-  ASSERT_TRUE(wait_until([&] { return list.isVisible(); }));
-  // The list takes no choice in the moment after the click that opened it.
-  run_loop_for(QApplication::doubleClickInterval() + 100);
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(list.window()));
+  handle_waiting_events();
+  QApplication::setDoubleClickInterval(usual_interval);
   const QRect row = list.visualRect(list.model()->index(2, 0));
   QTest::mouseMove(list.viewport(), row.center());
   QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, row.center());

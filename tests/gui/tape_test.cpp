@@ -1,10 +1,15 @@
 // The tape measure of the projection view.
 
 #include <QAbstractButton>
+#include <QFile>
 #include <QLabel>
+#include <QTemporaryDir>
 #include <QTest>
 #include <cstdlib>
 
+#include "app/event_documents.h"
+#include "files/event_file.h"
+#include "platform/value_label.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
 #include "tests/gui/support/pictures.h"
@@ -161,6 +166,43 @@ TEST_F(TapeTest, IsHiddenByANewEvent) {
   ASSERT_TRUE(projection().tape_visible());
   choose("new_event_item");
   expectHiddenTape();
+  EXPECT_EQ(reading(), no_reading);
+}
+
+TEST_F(TapeTest, IsReadAnewWhenAnEventOfAnotherSizeIsOpenedUnderIt) {
+  const QTemporaryDir folder;
+  QFile file(folder.filePath(QStringLiteral("small.cwd")));
+  const std::array points{point_at(10.0, 20.0, 30.0, 3)};
+  const auto bytes =
+      encode_event(points, {.B_field = 1.0F, .sides_cm = 200.0F, .kinetic_Mev = 1.0F});
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  ASSERT_EQ(file.write(QByteArrayView(bytes).toByteArray()), static_cast<qint64>(bytes.size()));
+  file.close();
+  drag(projection(), {100, 100}, {200, 100});
+  ASSERT_EQ(reading(), "D = 125.00 cm");
+  ASSERT_TRUE(application().documents().readAndDisplayFile(file.fileName()));
+  EXPECT_TRUE(projection().tape_visible());
+  EXPECT_EQ(reading(), "D = 50.00 cm");
+}
+
+TEST_F(TapeTest, ThatIsHiddenStaysUnreadInAChamberOfAnotherSize) {
+  drag(projection(), {100, 100}, {200, 100});
+  clickButton("zoom_2");
+  controller().settings().setNextSidesCm(200.0F);
+  controller().setCurrentChamberValues();
+  EXPECT_EQ(reading(), no_reading);
+}
+
+TEST_F(TapeTest, ThatIsTooLongToReadEndsInDotsAndDoesNotWidenTheWindow) {
+  const QSize window = projectorWindow().size();
+  drag(projection(), {100, 100}, {200, 100});
+  projection().setScaler(1.0e30);
+  handle_waiting_events();
+  EXPECT_EQ(projectorWindow().size(), window);
+  const auto& label = control<ValueLabel>("tape_text");
+  EXPECT_GT(label.text().size(), 30);
+  EXPECT_TRUE(label.shownText().endsWith(QChar(u'…')));
+  EXPECT_TRUE(label.shownText().startsWith(QStringLiteral("D = ")));
 }
 
 TEST_F(TapeTest, ALongReadingDoesNotChangeTheWindow) {

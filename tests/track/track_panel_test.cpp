@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
+#include <QWheelEvent>
 
 #include "tests/track/track_rig.h"
 
@@ -67,14 +68,31 @@ TEST(TrackPanel, IsWalkedThroughByTheTabKey) {
 
 TEST(TrackPanel, KeysMoveTheFieldByATenthOfATickAndByATick) {
   const TrackRig rig;
-  const std::vector<std::pair<Qt::Key, double>> moves{{Qt::Key_Up, 0.01},  {Qt::Key_PageUp, 0.11},
-                                                      {Qt::Key_Down, 0.1}, {Qt::Key_Home, -1.0},
-                                                      {Qt::Key_End, 1.0},  {Qt::Key_PageDown, 0.9}};
+  const std::vector<std::pair<Qt::Key, double>> moves{
+      {Qt::Key_Up, 0.01},   {Qt::Key_PageUp, 0.1}, {Qt::Key_Down, 0.09},
+      {Qt::Key_Home, -1.0}, {Qt::Key_End, 1.0},    {Qt::Key_PageDown, 0.9}};
   for (const auto& [key, field] : moves) {
     QTest::keyClick(rig.slider, key);
     EXPECT_NEAR(rig.view->simulation().settings.B_field, field, 1.0e-7);
     EXPECT_EQ(rig.panel->field_text()->text(), QString::asprintf("B = %.2f", field));
   }
+}
+
+TEST(TrackPanel, TheWheelTurnsTheFieldOnlyWithTheFocus) {
+  TrackRig rig;
+  rig.activate();
+  const auto turn_wheel = [&rig] {
+    const QPointF place = rig.slider->rect().center();
+    QWheelEvent turn(place, rig.slider->mapToGlobal(place), {}, QPoint(0, 120), Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(rig.slider, &turn);
+  };
+  rig.panel->inject_button()->setFocus();
+  turn_wheel();
+  EXPECT_EQ(rig.view->simulation().settings.B_field, 0.0);
+  rig.slider->setFocus();
+  turn_wheel();
+  EXPECT_GT(rig.view->simulation().settings.B_field, 0.0);
 }
 
 TEST(TrackPanel, ItsButtonsStandForTheMenuItems) {

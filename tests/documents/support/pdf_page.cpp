@@ -11,6 +11,8 @@ namespace velquon::test {
 
 namespace {
 
+constexpr int pixels_per_point = 4;
+
 /// Carries out the operators of a page that draw lines and areas; the others are passed over.
 class PageReader {
  public:
@@ -149,6 +151,52 @@ PdfPage read_pdf(const QByteArray& document) {
   page.operators = page_stream(document).toStdString();
   PageReader(page).read(page.operators);
   return page;
+}
+
+std::set<std::string> line_styles_of(const PdfPage& page) {
+  std::set<std::string> styles;
+  std::istringstream words(page.operators);
+  std::string last;
+  for (std::string word; words >> word; last = word) {
+    if (word == "J" || word == "j") {
+      styles.insert(last + ' ' + word);
+    }
+  }
+  return styles;
+}
+
+QString title_of_pdf(const QString& path) {
+  QProcess tool;
+  tool.start(QStringLiteral("pdfinfo"), {path});
+  if (!tool.waitForFinished() || tool.exitCode() != 0) {
+    throw std::runtime_error("pdfinfo did not read the document");
+  }
+  static const QRegularExpression title(QStringLiteral("^Title: *(.*)$"),
+                                        QRegularExpression::MultilineOption);
+  return title.match(QString::fromUtf8(tool.readAllStandardOutput())).captured(1);
+}
+
+QImage picture_of_pdf(const QString& path) {
+  QProcess tool;
+  tool.start(QStringLiteral("pdftoppm"),
+             {QStringLiteral("-r"), QString::number(72 * pixels_per_point),
+              QStringLiteral("-singlefile"), path});
+  if (!tool.waitForFinished() || tool.exitCode() != 0) {
+    throw std::runtime_error("pdftoppm did not draw the page");
+  }
+  return QImage::fromData(tool.readAllStandardOutput()).convertToFormat(QImage::Format_RGB32);
+}
+
+int ink_in(const QImage& picture, const QRectF& area) {
+  const int top = picture.height() - qRound(area.bottom() * pixels_per_point);
+  const int left = qRound(area.left() * pixels_per_point);
+  int count = 0;
+  for (int y = top; y < top + qRound(area.height() * pixels_per_point); ++y) {
+    for (int x = left; x < left + qRound(area.width() * pixels_per_point); ++x) {
+      count += picture.valid(x, y) && picture.pixel(x, y) != 0xFFFFFFFF ? 1 : 0;
+    }
+  }
+  return count;
 }
 
 std::vector<PaperWord> words_of_pdf(const QString& path) {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QByteArray>
+#include <QImage>
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
 #include <array>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -39,8 +41,20 @@ struct PdfPage {
   std::string operators;  ///< the page's drawing as it stands in the file
 };
 
+/// How the page's lines end and meet: each "number J" and "number j" that it sets.
+std::set<std::string> line_styles_of(const PdfPage& page);
+
 /// Reads the drawing of a PDF file as Qt writes it.
 PdfPage read_pdf(const QByteArray& document);
+
+/// The title by which a PDF file names itself.
+QString title_of_pdf(const QString& path);
+
+/// The first page of a PDF file as it comes out on paper, four pixels to a point.
+QImage picture_of_pdf(const QString& path);
+/// How many pixels of a page's picture are not white in an area of the paper, points from its lower
+/// left corner.
+int ink_in(const QImage& picture, const QRectF& area);
 
 /// Reads the words of a PDF file with the tool pdftotext.
 std::vector<PaperWord> words_of_pdf(const QString& path);

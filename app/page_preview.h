@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QImage>
+#include <QSizeF>
+#include <QWidget>
+
+namespace velquon {
+
+class PrintView;
+
+/// Shows a printed page on its paper, as large as there is room.
+class PagePreview : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit PagePreview(PrintView& view, QWidget* parent = nullptr);
+
+  /// \param paper points
+  void setPaper(QSizeF paper);
+  /// The paper with the page; null while there is no room.
+  [[nodiscard]] const QImage& picture() const { return picture_; }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void drawPicture();
+
+  PrintView& view_;
+  QSizeF paper_;
+  QImage picture_;
+};
+
+}  // namespace velquon

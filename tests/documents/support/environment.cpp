@@ -1,0 +1,18 @@
+#include "support/environment.h"
+
+namespace velquon::test {
+
+EnvironmentVariable::EnvironmentVariable(const char* name, const QByteArray& value)
+    : name_(name), was_set_(qEnvironmentVariableIsSet(name)), before_(qgetenv(name)) {
+  qputenv(name, value);
+}
+
+EnvironmentVariable::~EnvironmentVariable() {
+  if (was_set_) {
+    qputenv(name_, before_);
+  } else {
+    qunsetenv(name_);
+  }
+}
+
+}  // namespace velquon::test
