@@ -27,6 +27,8 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   for (GLPanel* const window : windows()) {
     menus_->installIn(*window);
   }
+  track_window_->tellStatusIn(*chamber_window_);
+  track_window_->tellStatusIn(*projector_window_);
   controller_ = std::make_unique<ChamberController>(
       ChamberOutlets{.chamber_window = chamber_window_.get(),
                      .projector_window = projector_window_.get(),

@@ -2,6 +2,7 @@
 
 #include <QMenu>
 
+#include "app/track_status.h"
 #include "track/new_track_view.h"
 #include "track/track_controller.h"
 #include "track/track_panel.h"
@@ -13,12 +14,18 @@ TrackWindow::TrackWindow(const Ui::Menus& menus) : panel_(new TrackPanel(this)) 
   setWindowTitle(tr("Track"));
   setCentralWidget(panel_);
   connectItems(menus);
+  connectWindowItem(*menus.track_window_item);
 }
 
 TrackWindow::~TrackWindow() = default;
 
 void TrackWindow::awakeFromNib() {
   controller_->awakeFromNib();
+}
+
+void TrackWindow::tellStatusIn(QMainWindow& window) {
+  auto* const status = new TrackStatus(window);
+  connect(controller_.get(), &TrackController::activatedChanged, status, &TrackStatus::setActive);
 }
 
 void TrackWindow::connectItems(const Ui::Menus& menus) {
@@ -51,6 +58,12 @@ void TrackWindow::connectItems(const Ui::Menus& menus) {
   panel_->setItems(menus.inject_item, menus.clear_screen_item);
   connect(this, &GLPanel::becameKey, controller_.get(), &TrackController::windowDidBecomeKey);
   connect(this, &GLPanel::resignedKey, controller_.get(), &TrackController::windowDidResignKey);
+}
+
+void TrackWindow::connectWindowItem(QAction& track_window_item) {
+  connect(&track_window_item, &QAction::triggered, this, &GLPanel::makeKeyAndOrderFront);
+  connect(controller_.get(), &TrackController::activatedChanged, &track_window_item,
+          &QAction::setEnabled);
 }
 
 }  // namespace velquon

@@ -4,6 +4,8 @@
 
 #include "app/gl_panel.h"
 
+class QAction;
+
 namespace Ui {
 class Menus;
 }
@@ -24,11 +26,16 @@ class TrackWindow : public GLPanel {
   /// Puts menus and controls into their start-up state.
   void awakeFromNib();
 
+  /// Has a line at the foot of another window tell that this one is active, while it is.
+  void tellStatusIn(QMainWindow& window);
+
   [[nodiscard]] TrackPanel& panel() { return *panel_; }
   [[nodiscard]] TrackController& controller() { return *controller_; }
 
  private:
   void connectItems(const Ui::Menus& menus);
+  /// The way back to the window when it was closed while active.
+  void connectWindowItem(QAction& track_window_item);
 
   TrackPanel* panel_;
   std::unique_ptr<TrackController> controller_;

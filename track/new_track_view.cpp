@@ -11,7 +11,6 @@
 #include "platform/clock.h"
 #include "platform/cursors.h"
 #include "platform/value_slider.h"
-#include "track/main_thread_call.h"
 #include "track/track_controller.h"
 
 namespace velquon {
@@ -23,10 +22,6 @@ constexpr double snapping_distance = 0.005;
 
 constexpr QPoint hot_spot{7, 7};
 
-// A run that is later than that, after the program stood still for a while, does not catch up: the
-// steps made up for at once do not keep mouse and keys waiting for long.
-constexpr std::uint64_t most_lateness = 100'000;  // microseconds
-
 std::uint64_t microseconds_of(const QTimer& timer) {
   return static_cast<std::uint64_t>(timer.interval()) * 1000;
 }
@@ -37,7 +32,10 @@ std::chrono::milliseconds milliseconds_of(double seconds) {
 
 }  // namespace
 
-NewTrackView::NewTrackView(QWidget* parent) : GLView(parent) {}
+NewTrackView::NewTrackView(QWidget* parent) : GLView(parent), clock_(Microseconds) {
+  // A new framebuffer is empty, also one of the same size in view units on another screen.
+  connect(this, &QOpenGLWidget::resized, this, [this] { picture_lost_ = true; });
+}
 
 NewTrackView::~NewTrackView() = default;
 
@@ -76,12 +74,11 @@ void NewTrackView::injectParticle(QAction* /*sender*/) {
   setTracking(true);
   track_controller_->doMenus(false);
   resetCursorRects();
-  injection_ = std::jthread([this](const std::stop_token& given_up) { trackOnScreen(given_up); });
+  QMetaObject::invokeMethod(this, &NewTrackView::trackOnScreen, Qt::QueuedConnection);
 }
 
-void NewTrackView::trackOnScreen(const std::stop_token& given_up) {
-  perform_on_main_thread(
-      this, [this] { startTracking(); }, given_up);
+void NewTrackView::trackOnScreen() {
+  startTracking();
 }
 
 void NewTrackView::startTracking() {
@@ -94,7 +91,7 @@ void NewTrackView::startTracking() {
   timer->setInterval(milliseconds_of(timerSecs_));
   connect(timer.get(), &QTimer::timeout, this, [this] { makeStepsDue(); });
   setTrackTimer(std::move(timer));
-  next_step_at_ = Microseconds() + microseconds_of(*trackTimer_);
+  pace_.start(clock_() + microseconds_of(*trackTimer_));
   trackTimer_->start();
 }
 
@@ -112,14 +109,11 @@ void NewTrackView::setTrackTimer(std::unique_ptr<QTimer> timer) {
 void NewTrackView::makeStepsDue() {
   // What it costs to bring a picture to the screen does not slow the particle down: the firings
   // that were lost meanwhile are made up for.
-  const std::uint64_t now = Microseconds();
-  if (now > next_step_at_ + most_lateness) {
-    next_step_at_ = now;
-  }
+  std::uint64_t steps = pace_.takeStepsDue(clock_(), microseconds_of(*trackTimer_));
   do {
-    next_step_at_ += microseconds_of(*trackTimer_);
     TrackWithTimer(trackTimer_.get());
-  } while (trackTimer_->isActive() && next_step_at_ <= now);
+    --steps;
+  } while (steps > 0 && trackTimer_->isActive());
 }
 
 void NewTrackView::TrackWithTimer(QTimer* timer) {
@@ -219,6 +213,7 @@ void NewTrackView::drawRect() {
   simulation_.do_all = simulation_.do_all || picture_lost_;
   picture_lost_ = false;
   glTranslated(-seen.x(), -seen.y(), 0.0);
+  glLineWidth(static_cast<float>(ratio));
   drawTrack();
   if (simulation_.stretching) {
     drawTape();

@@ -3,11 +3,11 @@
 #include <QCursor>
 #include <QPointF>
 #include <cstdint>
+#include <functional>
 #include <memory>
-#include <stop_token>
-#include <thread>
 
 #include "platform/gl_view.h"
+#include "platform/step_pace.h"
 #include "track/track_simulation.h"
 
 class QAction;
@@ -26,7 +26,7 @@ class NewTrackView : public GLView {
 
  public:
   explicit NewTrackView(QWidget* parent = nullptr);
-  /// A run or an injection that goes on ends with the view, without a trace.
+  /// A run that goes on, or is about to start, ends with the view, without a trace.
   ~NewTrackView() override;
 
   void setTrackController(TrackController* controller) { track_controller_ = controller; }
@@ -49,6 +49,8 @@ class NewTrackView : public GLView {
 
   /// Starts a run, from the event loop; one that goes on is given up.
   void injectParticle(QAction* sender);
+  /// What an injection has the event loop do: starts the run.
+  void trackOnScreen();
   void startTracking();
   void prepareForTracking();
   /// One step.
@@ -69,6 +71,10 @@ class NewTrackView : public GLView {
   /// The step timer; it is there from the first start on, and runs during a run.
   [[nodiscard]] QTimer* trackTimer() const { return trackTimer_.get(); }
   void setTrackTimer(std::unique_ptr<QTimer> timer);
+
+  /// Has the pace of the steps read another clock than the computer's, from the next start on.
+  /// \param clock microseconds, never stepping back
+  void setClock(std::function<std::uint64_t()> clock) { clock_ = std::move(clock); }
 
   [[nodiscard]] const TrackSimulation& simulation() const { return simulation_; }
 
@@ -100,7 +106,6 @@ class NewTrackView : public GLView {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
-  void trackOnScreen(const std::stop_token& given_up);
   void setTracking(bool tracking);
   void takeField(double field);
   void makeStepsDue();
@@ -126,8 +131,8 @@ class NewTrackView : public GLView {
   QPointF tape_start_point_;
   QPointF tape_end_point_;
   std::unique_ptr<QTimer> trackTimer_;
-  std::uint64_t next_step_at_ = 0;  ///< microseconds
-  std::jthread injection_;          ///< ends before anything that it uses
+  std::function<std::uint64_t()> clock_;
+  StepPace pace_;
 };
 
 }  // namespace velquon

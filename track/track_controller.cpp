@@ -89,21 +89,23 @@ void TrackController::setActivate(QAction* sender) {
     bring_to_front(*outlets_.track_window);
     return;
   }
-  sender->setText(tr("Activate"));
+  sender->setText(tr("&Activate"));
   outlets_.track_view->stopTracking();
   outlets_.track_window->hide();
   activated_ = false;
   doMenus(false);
+  Q_EMIT activatedChanged(false);
 }
 
 void TrackController::windowDidBecomeKey() {
   if (activated_) {
     return;
   }
-  outlets_.activate_item->setText(tr("Deactivate"));
+  outlets_.activate_item->setText(tr("De&activate"));
   activated_ = true;
   doMenus(true);
   outlets_.track_view->makeCurrent();
+  Q_EMIT activatedChanged(true);
 }
 
 void TrackController::windowDidResignKey() {}

@@ -83,6 +83,10 @@ class TrackController : public QObject {
   [[nodiscard]] std::int32_t particle_choice() const { return particle_choice_; }
   [[nodiscard]] std::int32_t direction_choice() const { return direction_choice_; }
 
+ Q_SIGNALS:
+  /// The track window has become active, or no longer is.
+  void activatedChanged(bool active);
+
  private:
   void connectItems();
   void validateMenuItems();

@@ -72,13 +72,14 @@ TEST_P(LateStepPace, MakesUpForWhatFellDueWithinAQuarterOfASecond) {
   EXPECT_EQ(dueAfterStart(), next_due);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Lateness, LateStepPace,
-    ::testing::Values(LateCase{0, 1, 10'000}, LateCase{4'999, 1, 10'000},
-                      LateCase{5'000, 2, 15'000}, LateCase{60'000, 13, 70'000},
-                      LateCase{249'999, 50, 255'000}, LateCase{250'000, 51, 260'000},
-                      // Later than that, as if the step had been due just now.
-                      LateCase{250'001, 1, 260'001}, LateCase{60'000'000, 1, 60'010'000}));
+INSTANTIATE_TEST_SUITE_P(Lateness, LateStepPace,
+                         ::testing::Values(LateCase{0, 1, 10'000}, LateCase{4'999, 1, 10'000},
+                                           LateCase{5'000, 2, 15'000}, LateCase{60'000, 13, 70'000},
+                                           LateCase{249'999, 50, 255'000},
+                                           LateCase{250'000, 51, 260'000},
+                                           // Later than that, as if the step had been due just now.
+                                           LateCase{250'001, 1, 260'001},
+                                           LateCase{60'000'000, 1, 60'010'000}));
 
 TEST_F(StepPaceTest, AfterAStandstillThatIsNotMadeUpForTheRateIsAsBefore) {
   EXPECT_EQ(stepsAfter(3'000'000), 1U);

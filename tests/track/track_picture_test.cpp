@@ -223,6 +223,17 @@ TEST_F(TrackPicture, AResizeShowsTheWholeTrack) {
   EXPECT_TRUE(rig.view->is_tracking()) << "the run goes on";
 }
 
+TEST_F(TrackPicture, AFramebufferMadeAnewOnAnotherScreenShowsTheWholeTrack) {
+  rig.v_item->trigger();
+  rig.injectAndHold();
+  rig.step(300);
+  rig.view->makeCurrent();
+  glClear(GL_COLOR_BUFFER_BIT);
+  Q_EMIT rig.view->resized();
+  rig.step(1);
+  expectLine(0, 301);
+}
+
 TEST_F(TrackPicture, AWindowThatComesBackShowsWhatWasNotDrawnMeanwhile) {
   rig.v_item->trigger();
   rig.injectAndHold();
@@ -271,6 +282,48 @@ TEST_F(TrackPicture, AFieldSetByKeysBendsTheFlyingParticleFromTheNextStepOn) {
   EXPECT_TRUE(std::ranges::all_of(pixels, [](QPoint place) {
     return place.x() > 205 || near_entry_height(place);
   })) << "straight until then";
+}
+
+/// Also run on a screen that has two pixels across for one of the view's.
+class TrackLines : public TrackPicture {
+ protected:
+  /// Expects a number of pixels in each column of a level line, or each row of an upright one,
+  /// between two places of the view.
+  static void expectThickness(const std::vector<QPoint>& pixels, bool is_level, int from, int to) {
+    const double ratio = asked_ratio();
+    for (int place = qRound(from * ratio); place < qRound(to * ratio); ++place) {
+      EXPECT_EQ(std::ranges::count_if(
+                    pixels, [&](QPoint at) { return (is_level ? at.x() : at.y()) == place; }),
+                qRound(ratio))
+          << place;
+    }
+  }
+  static double asked_ratio() {
+    const QByteArray factor = qgetenv("QT_SCALE_FACTOR");
+    return factor.isEmpty() ? 1.0 : factor.toDouble();
+  }
+  void dragTape(QPoint from, QPoint to) const {
+    const int height = rig.view->height();
+    QTest::mousePress(rig.view, Qt::LeftButton, {}, {from.x(), height - from.y()});
+    QTest::mouseMove(rig.view, {to.x(), height - to.y()});
+  }
+};
+
+TEST_F(TrackLines, AreOnePixelOfTheViewThickAtAnyRatio) {
+  ASSERT_EQ(rig.view->devicePixelRatioF(), asked_ratio());
+  ASSERT_EQ(rig.picture().size(), rig.view->size() * asked_ratio());
+  rig.injectAndHold();
+  rig.stepHidden(100);
+  expectThickness(rig.whitePixels(), true, 2, 198);
+  const Extent track = extent_of(rig.whitePixels());
+  EXPECT_NEAR(track.bottom, entry_height * asked_ratio(), 1.0);
+  EXPECT_NEAR(track.right, 200 * asked_ratio(), 1.0);
+
+  dragTape({100, 50}, {100, 150});
+  expectThickness(rig.redPixels(), false, 52, 148);
+  dragTape({100, 100}, {300, 100});
+  expectThickness(rig.redPixels(), true, 102, 298);
+  EXPECT_EQ(rig.panel->tape_box()->text(), QStringLiteral("D = 20.00"));
 }
 
 class TrackTape : public TrackPicture {

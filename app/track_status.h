@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QStatusBar>
+
+class QLabel;
+class QMainWindow;
+
+namespace velquon {
+
+/// A line at the foot of a window that tells, while the track window is active, why the menus rest
+/// and how to get them back. It belongs to the window and is hidden at first.
+class TrackStatus : public QStatusBar {
+  Q_OBJECT
+
+ public:
+  explicit TrackStatus(QMainWindow& window);
+
+  /// Shows or hides the line. The window is taller by it meanwhile, so that its view keeps its size
+  /// and place; one that fills the screen makes room for it.
+  void setActive(bool active);
+
+ private:
+  void tellScreenReaders();
+
+  QMainWindow& window_;
+  QLabel* text_;
+};
+
+}  // namespace velquon

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QMainWindow;
+class QMenu;
+
+namespace velquon::test {
+
+/// The titles of a path "Menu/Item" or "Menu/Submenu/Item".
+QStringList menu_path(const char* titles);
+
+/// Chooses a menu item as a person does without a mouse: opens its menu by Alt and its letter, and
+/// picks the rest by theirs. The window has to have the keys.
+/// \param titles path of the item; each part needs a letter of its own
+/// \return whether the menus opened and closed again behind the choice
+bool choose_by_keys(QMainWindow& window, const char* titles);
+
+/// The letters that pick the items of an open menu, one for each that has one.
+QStringList letters_of(const QMenu& menu);
+
+}  // namespace velquon::test
