@@ -11,7 +11,7 @@ namespace velquon {
 
 TrackWindow::TrackWindow(const Ui::Menus& menus) : panel_(new TrackPanel(this)) {
   setWindowTitle(tr("Track"));
-  setCentralWidget(panel_);
+  setContent(panel_);
   connectItems(menus);
 }
 
