@@ -2,8 +2,6 @@
 
 #include <QApplication>
 #include <QOpenGLContext>
-#include <QScreen>
-#include <algorithm>
 
 #include "app/chamber_controller.h"
 #include "app/chamber_window.h"
@@ -14,16 +12,20 @@
 #include "app/projector_window.h"
 #include "app/track_window.h"
 #include "chamber/chamber_view.h"
+#include "platform/readable_style.h"
+#include "platform/screen_room.h"
 #include "projection/projection_view.h"
 #include "ui_menus.h"
 
 namespace velquon {
 
 Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs)
-    : menus_(std::make_unique<Menus>()),
+    : screen_room_(std::make_unique<ScreenRoom>()),
+      menus_(std::make_unique<Menus>()),
       chamber_window_(std::make_unique<ChamberWindow>(seed, menus_->items())),
       projector_window_(std::make_unique<ProjectorWindow>()),
       track_window_(std::make_unique<TrackWindow>(menus_->items())) {
+  make_style_readable();
   for (GLPanel* const window : windows()) {
     menus_->installIn(*window);
   }
@@ -53,14 +55,11 @@ void Application::showWindows() {
   constexpr QPoint chamber_corner(20, 20);
   constexpr int gap = 16;
   // adjustSize would leave a third of the screen free and cut the pictures on a low one.
-  chamber_window_->resize(chamber_window_->sizeHint());
-  projector_window_->resize(projector_window_->sizeHint());
-  chamber_window_->move(chamber_corner);
+  chamber_window_->resize(size_to_open_at(*chamber_window_));
+  projector_window_->resize(size_to_open_at(*projector_window_));
+  place_on_screen(*chamber_window_, chamber_corner);
   // Rather over the other window than beyond the edge of a narrow screen.
-  const int beside = chamber_corner.x() + chamber_window_->width() + gap;
-  const QRect room = projector_window_->screen()->availableGeometry();
-  const int rightmost = room.right() - projector_window_->width();
-  projector_window_->move(std::max(std::min(beside, rightmost), room.left()), chamber_corner.y());
+  place_on_screen(*projector_window_, chamber_corner + QPoint(chamber_window_->width() + gap, 0));
   // The keys go to the chamber's window at once, not first to the one that comes up before it.
   projector_window_->setAttribute(Qt::WA_ShowWithoutActivating);
   projector_window_->show();
@@ -91,6 +90,8 @@ void Application::connectDocuments() {
     // Queued: the program that the file comes from waits for the drop's end, not for an alert's.
     connect(window, &GLPanel::fileDropped, documents, &EventDocuments::application_openFile,
             Qt::QueuedConnection);
+    // A file may be dropped where and when one may be opened.
+    connect(items.open_item, &QAction::enabledChanged, window, &GLPanel::setTakesFiles);
   }
 }
 

@@ -15,6 +15,7 @@ class GLPanel;
 class GuideWindow;
 class Menus;
 class ProjectorWindow;
+class ScreenRoom;
 class TrackWindow;
 class UserDialogs;
 
@@ -52,6 +53,7 @@ class Application : public QObject {
   void connectHelpMenu();
   void showGuide();
 
+  std::unique_ptr<ScreenRoom> screen_room_;
   std::unique_ptr<Menus> menus_;
   std::unique_ptr<ChamberWindow> chamber_window_;
   std::unique_ptr<ProjectorWindow> projector_window_;

@@ -8,6 +8,7 @@
 #include <cstdlib>
 
 #include "app/choices.h"
+#include "app/command_line.h"
 #include "app/gl_panel.h"
 #include "app/print_panel.h"
 #include "app/print_view.h"
@@ -30,7 +31,7 @@ void set_title(GLPanel& window, const QString& prefix, const QString& name) {
   const QString title = prefix + name;
   if (title.toUtf8().size() + 1 > title_size) {
     std::fprintf(stderr, "velquon: the name '%s' does not fit into a window's title\n",
-                 qPrintable(name));
+                 qPrintable(as_one_line(name)));
     std::abort();
   }
   window.setTitle(title);

@@ -58,6 +58,7 @@ ChamberWindow::ChamberWindow(std::optional<std::uint32_t> seed, const Ui::Menus&
   give_room_for(*ui_->kinetic_energy_text, QStringLiteral("T = 10000.0 MeV"));
   take_wheel_only_with_focus(*ui_->efactor_popup);
   fillToolBar(menus);
+  setContent(takeCentralWidget());
 }
 
 ChamberWindow::~ChamberWindow() = default;

@@ -3,6 +3,8 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <algorithm>
+#include <array>
+#include <string_view>
 
 namespace velquon {
 
@@ -17,6 +19,57 @@ QString absolute_path(const QString& path) {
   return path.isEmpty() || path.startsWith(QLatin1Char('/'))
              ? path
              : QDir::currentPath() + QLatin1Char('/') + path;
+}
+
+// The options of Qt, its widgets and its X11 part, without their dash.
+constexpr std::array<std::string_view, 15> qt_options_with_value{
+    "display",         "geometry",           "icon",          "name",
+    "platform",        "platformpluginpath", "platformtheme", "plugin",
+    "qwindowgeometry", "qwindowicon",        "qwindowtitle",  "session",
+    "style",           "stylesheet",         "title"};
+constexpr std::array<std::string_view, 5> qt_options_alone{"dograb", "nograb", "reverse",
+                                                           "testability", "widgetcount"};
+constexpr std::array<std::string_view, 3> qt_options_joined{
+    "style=", "stylesheet=", "qmljsdebugger="};
+
+/// What an argument says behind one dash or two; empty without a dash.
+std::string behind_dashes(const QString& argument) {
+  const qsizetype dashes = argument.startsWith(QLatin1String("--")) ? 2 : 1;
+  return argument.startsWith(QLatin1Char('-')) ? argument.mid(dashes).toStdString() : std::string();
+}
+
+/// The arguments told apart: those that Qt takes and the others. Both begin with the program's
+/// name.
+struct ToldApart {
+  QStringList of_qt;
+  QStringList others;
+  QString display;
+};
+
+ToldApart tell_apart(const QStringList& arguments) {
+  ToldApart result{arguments.first(1), arguments.first(1), {}};
+  const qsizetype end = arguments.indexOf(QStringLiteral("--")) < 0
+                            ? arguments.size()
+                            : arguments.indexOf(QStringLiteral("--"));
+  for (qsizetype i = 1; i < end; ++i) {
+    const std::string word = behind_dashes(arguments[i]);
+    if (std::ranges::find(qt_options_with_value, word) != qt_options_with_value.end() &&
+        i + 1 < end) {
+      result.of_qt << arguments[i] << arguments[i + 1];
+      ++i;
+      if (word == "display") {
+        result.display = arguments[i];
+      }
+    } else if (std::ranges::find(qt_options_alone, word) != qt_options_alone.end() ||
+               std::ranges::any_of(qt_options_joined,
+                                   [&](auto start) { return word.starts_with(start); })) {
+      result.of_qt << arguments[i];
+    } else {
+      result.others << arguments[i];
+    }
+  }
+  result.others << arguments.sliced(end);
+  return result;
 }
 
 }  // namespace
@@ -44,20 +97,25 @@ ParsedCommandLine parse_command_line(const QStringList& arguments) {
   parser.addOptions({help, version, seed, pictures});
   parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Event file to open."),
                                QStringLiteral("[FILE]"));
-  if (!parser.parse(arguments)) {
+  const auto [of_qt, others, display] = tell_apart(arguments);
+  if (!parser.parse(others)) {
     return refusal(parser.errorText());
   }
   if (parser.isSet(help)) {
     // Without an application object the parser does not know the program's name.
     return {
         std::nullopt,
-        parser.helpText().replace(QStringLiteral("<executable_name>"), QStringLiteral("velquon")),
+        parser.helpText().replace(QStringLiteral("<executable_name>"), QStringLiteral("velquon")) +
+            QStringLiteral("\nQt's own options, such as -style, -stylesheet, -display, "
+                           "-geometry and -session, are\ntaken as well.\n"),
         0};
   }
   if (parser.isSet(version)) {
     return {std::nullopt, QStringLiteral("velquon " VELQUON_VERSION "\n"), 0};
   }
   CommandLine options;
+  options.display = display;
+  options.qt_arguments = of_qt;
   if (parser.isSet(seed)) {
     bool is_number = false;
     options.seed = parser.value(seed).toUInt(&is_number);

@@ -10,8 +10,10 @@ namespace velquon {
 /// What the program is started with.
 struct CommandLine {
   std::optional<std::uint32_t> seed;
-  QString file;      ///< absolute path of the event file to open, or empty
-  QString pictures;  ///< absolute path of the folder to leave pictures in, or empty
+  QString file;              ///< absolute path of the event file to open, or empty
+  QString pictures;          ///< absolute path of the folder to leave pictures in, or empty
+  QString display;           ///< the X display to show windows on, or empty for the usual one
+  QStringList qt_arguments;  ///< the program's name and the options that are Qt's
 };
 
 /// Outcome of reading a command line: what it says, or what to print and the status to end with.
@@ -25,7 +27,8 @@ struct ParsedCommandLine {
 /// of a name that may hold anything.
 [[nodiscard]] QString as_one_line(QString text);
 
-/// Reads the command line. Needs no application object.
+/// Reads the command line. Needs no application object. Options that Qt takes, with one dash or
+/// two, are left to it.
 /// \param arguments the program's name first
 [[nodiscard]] ParsedCommandLine parse_command_line(const QStringList& arguments);
 

@@ -2,8 +2,11 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <optional>
+#include <cerrno>
+#include <cstring>
 #include <variant>
+
+#include <sys/stat.h>
 
 #include "app/chamber_controller.h"
 #include "app/user_dialogs.h"
@@ -17,17 +20,37 @@ namespace {
 // No layout has a field beyond that many bytes, and what follows the last field is ignored.
 constexpr auto longest_event_file = qint64{256} * 1024;
 
-/// The bytes of a regular file that a reader can want; nothing when it cannot be loaded.
-std::optional<QByteArray> load(const QString& path) {
+/// The bytes of a regular file that a reader can want, or why it cannot be loaded.
+struct Loaded {
+  QByteArray bytes;
+  QString problem;
+};
+
+/// Why something at a path is no regular file; empty when it is one.
+QString problem_of_kind(const QString& path) {
+  struct stat state {};
+  if (::stat(QFile::encodeName(path).constData(), &state) != 0) {
+    return QString::fromLocal8Bit(std::strerror(errno));
+  }
+  if (S_ISDIR(state.st_mode)) {
+    return EventDocuments::tr("It is a folder");
+  }
+  return S_ISREG(state.st_mode) ? QString() : EventDocuments::tr("It is no regular file");
+}
+
+Loaded load(const QString& path) {
+  Loaded loaded{{}, problem_of_kind(path)};
+  if (!loaded.problem.isEmpty()) {
+    return loaded;
+  }
   QFile file(path);
-  if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
-    return std::nullopt;
+  if (file.open(QIODevice::ReadOnly)) {
+    loaded.bytes = file.read(longest_event_file);
   }
-  QByteArray bytes = file.read(longest_event_file);
   if (file.error() != QFileDevice::NoError) {
-    return std::nullopt;
+    loaded.problem = file.errorString();
   }
-  return bytes;
+  return loaded;
 }
 
 }  // namespace
@@ -65,24 +88,28 @@ bool EventDocuments::application_openFile(const QString& path) {
 }
 
 bool EventDocuments::readAndDisplayFile(const QString& path) {
-  const std::optional<QByteArray> bytes = load(path);
-  if (!bytes) {
+  const auto [bytes, problem] = load(path);
+  if (!problem.isEmpty()) {
     return false;
   }
   const ReadResult result = read_event_file(
-      std::as_bytes(std::span(bytes->data(), static_cast<std::size_t>(bytes->size()))));
+      std::as_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size()))));
   if (const auto* const refusal = std::get_if<Refusal>(&result)) {
-    tellRefusal(*refusal);
+    tellRefusal(*refusal, path);
     return false;
   }
   show(std::get<StoredEvent>(result), QFileInfo(path).fileName());
   return true;
 }
 
-void EventDocuments::tellRefusal(Refusal refusal) {
-  dialogs_.alert(
+QString EventDocuments::problemOfLoading(const QString& path) {
+  return load(path).problem;
+}
+
+void EventDocuments::tellRefusal(Refusal refusal, const QString& path) {
+  dialogs_.alertAboutFile(
       refusal == Refusal::bad_data ? QStringLiteral("Bad data") : QStringLiteral("Wrong format"),
-      QStringLiteral("Sorry, Velquon can't read this file."));
+      QStringLiteral("Sorry, Velquon can't read this file."), path);
 }
 
 void EventDocuments::show(const StoredEvent& event, const QString& name) {

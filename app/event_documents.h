@@ -37,8 +37,11 @@ class EventDocuments : public QObject {
   /// \return whether it is shown
   bool readAndDisplayFile(const QString& path);
 
+  /// Why a file cannot be loaded; empty when it can.
+  [[nodiscard]] static QString problemOfLoading(const QString& path);
+
  private:
-  void tellRefusal(Refusal refusal);
+  void tellRefusal(Refusal refusal, const QString& path);
   void show(const StoredEvent& event, const QString& name);
 
   ChamberController& controller_;

@@ -7,6 +7,7 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "platform/scrolling_content.h"
 #include "platform/window_order.h"
 
 namespace velquon {
@@ -19,10 +20,18 @@ QString dragged_file(const QMimeData& data) {
   return urls.isEmpty() ? QString() : urls.back().toLocalFile();
 }
 
+/// Takes a copy, whatever the other program proposes: after a move it would delete the file.
+void take_copy(QDropEvent& event) {
+  event.setDropAction(Qt::CopyAction);
+  event.accept();
+}
+
 }  // namespace
 
 GLPanel::GLPanel(QWidget* parent) : QMainWindow(parent) {
   setAcceptDrops(true);
+  // The usual menu of a main window hides its tool bar, and nothing would bring that back.
+  setContextMenuPolicy(Qt::NoContextMenu);
 }
 
 bool GLPanel::anyOnScreen() {
@@ -32,6 +41,23 @@ bool GLPanel::anyOnScreen() {
   });
 }
 
+GLPanel* GLPanel::inFront() {
+  GLPanel* latest = nullptr;
+  const auto windows = QApplication::topLevelWidgets();
+  for (QWidget* const window : windows) {
+    auto* const panel = qobject_cast<GLPanel*>(window);
+    if (panel != nullptr && panel->isVisible() &&
+        (latest == nullptr || panel->came_to_front_ > latest->came_to_front_)) {
+      latest = panel;
+    }
+  }
+  return latest;
+}
+
+void GLPanel::setContent(QWidget* content) {
+  setCentralWidget(new ScrollingContent(content));
+}
+
 void GLPanel::setTitle(const QString& title) {
   const QLatin1String mark("[*]");
   title_ = title;
@@ -39,11 +65,13 @@ void GLPanel::setTitle(const QString& title) {
 }
 
 void GLPanel::makeKeyAndOrderFront() {
+  came_to_front_ = std::chrono::steady_clock::now();
   bring_to_front(*this);
 }
 
 bool GLPanel::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) {
+    came_to_front_ = std::chrono::steady_clock::now();
     Q_EMIT becameKey();
   } else if (event->type() == QEvent::WindowDeactivate) {
     Q_EMIT resignedKey();
@@ -61,14 +89,15 @@ void GLPanel::closeEvent(QCloseEvent* event) {
 
 void GLPanel::dragEnterEvent(QDragEnterEvent* event) {
   if (!dragged_file(*event->mimeData()).isEmpty()) {
-    event->acceptProposedAction();
+    take_copy(*event);
   }
 }
 
 void GLPanel::dropEvent(QDropEvent* event) {
   const QString path = dragged_file(*event->mimeData());
   if (!path.isEmpty()) {
-    event->acceptProposedAction();
+    take_copy(*event);
+    came_to_front_ = std::chrono::steady_clock::now();
     Q_EMIT fileDropped(path);
   }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <chrono>
 
 namespace velquon {
 
@@ -14,6 +15,12 @@ class GLPanel : public QMainWindow {
 
   /// Whether any window of the kind is shown, minimized ones included.
   [[nodiscard]] static bool anyOnScreen();
+  /// The window of the kind that has the keys or, while no window of the program has them, had them
+  /// last; null when none is shown.
+  [[nodiscard]] static GLPanel* inFront();
+
+  /// Gives the window its content, which is scrolled where the window is too small for it.
+  void setContent(QWidget* content);
 
   /// Gives the window a title in which every character stands for itself; Qt takes "[*]" in a
   /// window's title for the place of a mark.
@@ -22,6 +29,9 @@ class GLPanel : public QMainWindow {
 
   /// Brings the window to the front and makes it the one that keys go to.
   void makeKeyAndOrderFront();
+
+  /// Whether files may be dropped on the window; at first they may.
+  void setTakesFiles(bool takes) { setAcceptDrops(takes); }
 
  Q_SIGNALS:
   void becameKey();
@@ -37,6 +47,7 @@ class GLPanel : public QMainWindow {
 
  private:
   QString title_;
+  std::chrono::steady_clock::time_point came_to_front_;
 };
 
 }  // namespace velquon

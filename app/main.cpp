@@ -4,16 +4,54 @@
 #include <csignal>
 #include <cstdio>
 #include <string>
+#include <vector>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 #include "app/application.h"
 #include "app/command_line.h"
 #include "app/desktop.h"
 #include "app/event_documents.h"
 #include "app/pictures.h"
+#include "app/start_file.h"
 #include "app/user_dialogs.h"
 #include "app/x_display.h"
 
 namespace {
+
+/// The arguments of a program as C has them. They must outlive the application object.
+class ArgumentVector {
+ public:
+  explicit ArgumentVector(const QStringList& words) {
+    for (const QString& word : words) {
+      words_.push_back(word.toLocal8Bit());
+    }
+    for (QByteArray& word : words_) {
+      pointers_.push_back(word.data());
+    }
+    count_ = static_cast<int>(pointers_.size());
+    pointers_.push_back(nullptr);
+  }
+
+  [[nodiscard]] int& count() { return count_; }
+  [[nodiscard]] char** pointers() { return pointers_.data(); }
+
+ private:
+  std::vector<QByteArray> words_;
+  std::vector<char*> pointers_;
+  int count_ = 0;
+};
+
+/// Takes the places of standard streams that are closed, which the next files and connections to be
+/// opened would get: a message would be written into them. Writing to such a stream still fails.
+void keep_places_of_closed_streams() {
+  for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    if (::fcntl(stream, F_GETFD) == -1) {
+      ::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+    }
+  }
+}
 
 int end_with(const QString& text, int status) {
   std::FILE* const out = status == 0 ? stdout : stderr;
@@ -28,8 +66,11 @@ int end_for_want_of(const QString& missing) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // A file that grows beyond a limit is an error to be told, not the program's end.
+  keep_places_of_closed_streams();
+  // A file that grows beyond a limit is an error to be told, not the program's end, and so is an
+  // output that nobody reads any more.
   std::signal(SIGXFSZ, SIG_IGN);
+  std::signal(SIGPIPE, SIG_IGN);
   QStringList arguments;
   for (int i = 0; i < argc; ++i) {
     arguments << QString::fromLocal8Bit(argv[i]);
@@ -38,11 +79,22 @@ int main(int argc, char** argv) {
   if (!parsed.options) {
     return end_with(parsed.message, parsed.status);
   }
+  if (!parsed.options->display.isEmpty()) {
+    // For what of the program has its display not from Qt.
+    qputenv("DISPLAY", parsed.options->display.toLocal8Bit());
+  }
   if (const std::string missing = velquon::missing_for_windows(); !missing.empty()) {
     return end_for_want_of(QString::fromStdString(missing));
   }
   velquon::prepare_desktop();
-  const QApplication qt_application(argc, argv);
+  ArgumentVector qt_arguments(parsed.options->qt_arguments);
+  const QApplication qt_application(qt_arguments.count(), qt_arguments.pointers());
+  if (const QString platform = QGuiApplication::platformName(); platform != QStringLiteral("xcb")) {
+    return end_with(
+        QStringLiteral("velquon: the windows need Qt's platform 'xcb', and this is '%1'\n")
+            .arg(platform),
+        1);
+  }
   velquon::start_glut();
   velquon::finish_desktop();
   velquon::DesktopDialogs dialogs;
@@ -55,9 +107,8 @@ int main(int argc, char** argv) {
   if (!parsed.options->pictures.isEmpty()) {
     return velquon::save_pictures(application, parsed.options->pictures);
   }
-  const QString& file = parsed.options->file;
-  if (!file.isEmpty() && !application.documents().application_openFile(file)) {
-    std::fprintf(stderr, "velquon: cannot open %s\n", qPrintable(velquon::as_one_line(file)));
+  if (!parsed.options->file.isEmpty()) {
+    velquon::open_start_file(application.documents(), dialogs, parsed.options->file);
   }
   return QApplication::exec();
 }

@@ -11,6 +11,8 @@ class Menus;
 
 namespace velquon {
 
+class HeldKeys;
+
 /// The menus and their items, which all windows share: each window's bar holds the same menus, so
 /// an item has one state and one shortcut.
 class Menus {
@@ -29,6 +31,7 @@ class Menus {
   const Ui::Menus& items() const { return *ui_; }
 
  private:
+  std::unique_ptr<HeldKeys> held_keys_;
   std::unique_ptr<QMenuBar> owner_;
   std::unique_ptr<Ui::Menus> ui_;
 };

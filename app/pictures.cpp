@@ -6,7 +6,9 @@
 #include <QMenu>
 #include <QTimer>
 #include <QWindow>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <optional>
 
 #include "app/application.h"
@@ -52,6 +54,16 @@ std::optional<QByteArray> png_of(const QImage& picture) {
   return bytes.data();
 }
 
+/// Names a file on standard output.
+/// \return whether the output took it
+bool name_on_output(const QString& path) {
+  if (std::printf("%s\n", qPrintable(path)) < 0 || std::fflush(stdout) != 0) {
+    std::fprintf(stderr, "velquon: cannot write to standard output: %s\n", std::strerror(errno));
+    return false;
+  }
+  return true;
+}
+
 bool save_picture(GLView& view, const QString& path) {
   const auto png = png_of(view.grabFramebuffer());
   const auto reason =
@@ -61,8 +73,7 @@ bool save_picture(GLView& view, const QString& path) {
                  qPrintable(*reason));
     return false;
   }
-  std::printf("%s\n", qPrintable(path));
-  return true;
+  return name_on_output(path);
 }
 
 QString picture_name(const EventType& type, const QString& view) {

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "app/form.h"
+#include "platform/palette_icon.h"
 #include "projection/projection_view.h"
 #include "ui_projector_window.h"
 
@@ -36,12 +37,15 @@ ProjectorWindow::ProjectorWindow()
     : ui_(make_form<Ui::ProjectorWindow>(*this)),
       view_(new ProjectionView(ui_->projector_area->viewport())) {
   view_->setObjectName(QStringLiteral("projection_view"));
+  ui_->tape_tool->setIcon(palette_icon(QStringLiteral("tape")));
+  ui_->grab_tool->setIcon(palette_icon(QStringLiteral("grab")));
   view_->setAccessibleName(tr("Projection"));
   ui_->projector_area->setAccessibleName(tr("Part of the projection that is seen"));
   ui_->tape_text->setMinimumWidth(
       ui_->tape_text->fontMetrics().horizontalAdvance(QStringLiteral("D = 9999.99 cm")));
   ui_->projector_area->setView(view_, {projection_width, projection_height});
   connectButtons();
+  setContent(takeCentralWidget());
 }
 
 ProjectorWindow::~ProjectorWindow() = default;

@@ -12,7 +12,7 @@ namespace velquon {
 
 TrackWindow::TrackWindow(const Ui::Menus& menus) : panel_(new TrackPanel(this)) {
   setWindowTitle(tr("Track"));
-  setCentralWidget(panel_);
+  setContent(panel_);
   connectItems(menus);
   connectWindowItem(*menus.track_window_item);
 }

@@ -3,8 +3,6 @@
 #include <QString>
 #include <QStringList>
 
-class QWidget;
-
 namespace velquon {
 
 /// What the program asks the user and tells him. The tests answer in his place.
@@ -20,6 +18,11 @@ class UserDialogs {
   /// Tells something and waits for the single button "OK".
   virtual void alert(const QString& title, const QString& message) = 0;
 
+  /// Tells something about a file, whose name stands below the message, and waits for the single
+  /// button "OK".
+  virtual void alertAboutFile(const QString& title, const QString& message,
+                              const QString& path) = 0;
+
   /// Asks for a file to open.
   /// \param filter kinds of files offered, as "Name (*.one *.two)"; upper and lower case differ
   /// \return its path, or empty when the user gives up
@@ -34,10 +37,13 @@ class UserDialogs {
                              const QString& suffix) = 0;
 };
 
-/// The desktop's own dialogs.
+/// Dialogs on the screen, which belong to the program's window in front. They keep nothing between
+/// runs: neither the folders that were opened nor how the files were listed.
 class DesktopDialogs : public UserDialogs {
  public:
+  DesktopDialogs();
   void alert(const QString& title, const QString& message) override;
+  void alertAboutFile(const QString& title, const QString& message, const QString& path) override;
   QString fileToOpen(const QString& title, const QString& filter) override;
   QString fileToSave(const QString& title, const QString& suggestion, const QString& filter,
                      const QString& suffix) override;

@@ -1,5 +1,6 @@
 #include "platform/view_scroll_area.h"
 
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
 
@@ -27,8 +28,9 @@ void ViewScrollArea::setView(GLView* view, QSize document) {
 }
 
 void ViewScrollArea::scrollPoint(QPointF point) {
-  horizontalScrollBar()->setValue(qRound(point.x()));
-  verticalScrollBar()->setValue(document_.height() - viewport()->height() - qRound(point.y()));
+  lower_left_ = point;
+  placeView();
+  view_->display();
 }
 
 QSize ViewScrollArea::sizeHint() const {
@@ -41,11 +43,16 @@ void ViewScrollArea::resizeEvent(QResizeEvent* event) {
 }
 
 void ViewScrollArea::scrollContentsBy(int /*dx*/, int /*dy*/) {
+  if (placing_) {
+    return;
+  }
+  lower_left_.reset();
   placeView();
   view_->display();
 }
 
 void ViewScrollArea::placeView() {
+  const QScopedValueRollback placing(placing_, true);
   // A scroll bar that is there takes room that the whole document may not need once it is gone.
   const QSize without_bars = maximumViewportSize();
   const QSize short_of = document_ - without_bars;
@@ -57,10 +64,18 @@ void ViewScrollArea::placeView() {
   verticalScrollBar()->setRange(0, hidden.height());
   horizontalScrollBar()->setPageStep(seen.width());
   verticalScrollBar()->setPageStep(seen.height());
+  goToPoint();
   view_->setVisibleOrigin(
       {static_cast<qreal>(horizontalScrollBar()->value()),
        static_cast<qreal>(std::max(hidden.height() - verticalScrollBar()->value(), 0))});
   view_->setGeometry(viewport()->rect());
+}
+
+void ViewScrollArea::goToPoint() {
+  if (lower_left_) {
+    horizontalScrollBar()->setValue(qRound(lower_left_->x()));
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum() - qRound(lower_left_->y()));
+  }
 }
 
 void ViewScrollArea::showBars(bool needed) {

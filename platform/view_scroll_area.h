@@ -2,6 +2,7 @@
 
 #include <QAbstractScrollArea>
 #include <QSize>
+#include <optional>
 
 namespace velquon {
 
@@ -20,7 +21,7 @@ class ViewScrollArea : public QAbstractScrollArea {
   void setView(GLView* view, QSize document);
 
   /// Scrolls so that a point of the document, y upwards, is the lower left one seen, as far as the
-  /// document reaches.
+  /// document reaches. It stays there whatever size the area gets, until somebody scrolls.
   void scrollPoint(QPointF point);
 
   [[nodiscard]] QSize sizeHint() const override;
@@ -32,9 +33,12 @@ class ViewScrollArea : public QAbstractScrollArea {
  private:
   void placeView();
   void showBars(bool needed);
+  void goToPoint();
 
   GLView* view_ = nullptr;
   QSize document_;
+  std::optional<QPointF> lower_left_;  ///< where it was scrolled to, until somebody scrolls
+  bool placing_ = false;               ///< while the bars move by no one's hand
 };
 
 }  // namespace velquon

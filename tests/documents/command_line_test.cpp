@@ -9,6 +9,7 @@
 #include "app/command_line.h"
 #include "gui/support/pictures.h"
 #include "gui/support/waiting.h"
+#include "support/event_bytes.h"
 #include "support/other_program.h"
 #include "tests/support/file_size_limit.h"
 
@@ -84,6 +85,72 @@ TEST(CommandLine, HelpAndVersionGoToStandardOutput) {
   }
 }
 
+TEST(CommandLine, OptionsOfQtAreLeftToIt) {
+  struct Case {
+    QStringList given;
+    QStringList of_qt;
+  };
+  for (const auto& [given, of_qt] : std::initializer_list<Case>{
+           {words({"-style", "fusion", "a.cwd"}), words({"-style", "fusion"})},
+           {words({"a.cwd", "--style", "fusion"}), words({"--style", "fusion"})},
+           {words({"--style=fusion", "a.cwd"}), words({"--style=fusion"})},
+           {words({"-session", "10_2", "-reverse", "a.cwd"}),
+            words({"-session", "10_2", "-reverse"})},
+           {words({"-platform", "xcb", "-geometry", "800x600+10+20", "a.cwd"}),
+            words({"-platform", "xcb", "-geometry", "800x600+10+20"})}}) {
+    const auto options = parsed(given).options;
+    ASSERT_TRUE(options.has_value()) << given.join(u' ').toStdString();
+    EXPECT_EQ(options->file, QDir::currentPath() + QStringLiteral("/a.cwd"));
+    EXPECT_EQ(options->qt_arguments, words({"velquon"}) + of_qt);
+  }
+}
+
+TEST(CommandLine, WhatFollowsTwoDashesIsAFileAndNoOptionOfQt) {
+  const auto options = parsed(words({"--", "-style"})).options;
+  ASSERT_TRUE(options.has_value());
+  EXPECT_EQ(options->file, QDir::currentPath() + QStringLiteral("/-style"));
+  EXPECT_EQ(options->qt_arguments, words({"velquon"}));
+}
+
+TEST(CommandLine, TheDisplayOfAnOptionIsTheOneOfTheWholeProgram) {
+  EXPECT_EQ(start(words({"-display", ":9999"})).errors,
+            QStringLiteral("velquon: the X display ':9999' does not answer\n"));
+}
+
+TEST(CommandLine, QtTakesItsOptions) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(QStringLiteral("a.cwd"));
+  QFile event(file);
+  ASSERT_TRUE(event.open(QIODevice::WriteOnly) && event.write(event_file(spiral(7))) > 0);
+  event.close();
+  RunningProgram program(VELQUON_PROGRAM,
+                         {QStringLiteral("-style"), QStringLiteral("no such"),
+                          QStringLiteral("-qwindowtitle"), QStringLiteral("x"), file});
+  EXPECT_TRUE(wait_until(
+      [&] { return program.windowTitles().contains(QStringLiteral("Projector: a.cwd")); }));
+  EXPECT_TRUE(program.errors().contains(QStringLiteral("no such"))) << "Qt misses the style";
+}
+
+TEST(CommandLine, APlatformThatTheViewsCannotBeDrawnOnIsNamed) {
+  const Ending ending = start(words({"-platform", "offscreen"}));
+  EXPECT_FALSE(ending.crashed);
+  EXPECT_EQ(ending.status, 1);
+  EXPECT_TRUE(ending.errors.endsWith(
+      QStringLiteral("velquon: the windows need Qt's platform 'xcb', and this is 'offscreen'\n")))
+      << ending.errors.toStdString();
+}
+
+TEST(CommandLine, TheHelpTellsOfQtsOptions) {
+  EXPECT_TRUE(start(words({"--help"}), words({"DISPLAY="}))
+                  .output.contains(QStringLiteral("Qt's own options")));
+}
+
+TEST(CommandLine, HelpAndVersionNeedNoDisplay) {
+  for (const char* const word : {"--help", "--version"}) {
+    EXPECT_EQ(start(words({word}), words({"DISPLAY="})).status, 0) << word;
+  }
+}
+
 TEST(CommandLine, WithoutADisplayTheProgramSaysSo) {
   const Ending ending = start({}, words({"DISPLAY="}));
   EXPECT_EQ(ending.status, 1);
@@ -151,12 +218,59 @@ TEST(CommandLine, OnANarrowScreenBothWindowsAreWithinIt) {
   server.waitForFinished();
 }
 
+/// What the script that starts the program does without a display.
+Ending start_without_display(const QStringList& arguments) {
+  return run_program(START_SCRIPT, QStringList{QStringLiteral(VELQUON_PROGRAM)} + arguments,
+                     {QStringLiteral("DISPLAY=")});
+}
+
+TEST(StartScript, HelpAndVersionArePrintedWithoutADisplay) {
+  for (const char* const word : {"--help", "--version"}) {
+    const Ending ending = start_without_display(words({word}));
+    EXPECT_EQ(ending.status, 0) << word;
+    EXPECT_EQ(ending.output, start(words({word})).output);
+  }
+}
+
+TEST(StartScript, PicturesAreLeftWithoutADisplay) {
+  const QTemporaryDir folder;
+  const Ending ending = start_without_display(
+      {QStringLiteral("--pictures"), folder.path(), QStringLiteral("--seed"), QStringLiteral("1")});
+  EXPECT_EQ(ending.status, 0) << ending.errors.toStdString();
+  EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 12);
+}
+
+TEST(StartScript, ArgumentsThatNeedADisplayAreNotDroppedInSilence) {
+  for (const QStringList& arguments :
+       {words({"event.cwd"}), words({"--seed", "7"}), words({"--", "--help"})}) {
+    const Ending ending = start_without_display(arguments);
+    EXPECT_EQ(ending.status, 1);
+    EXPECT_EQ(ending.output, QString());
+    EXPECT_TRUE(ending.errors.startsWith(
+        QStringLiteral("There is no display to show windows on, and without one nothing can be "
+                       "done with: %1\n")
+            .arg(arguments.join(u' '))))
+        << ending.errors.toStdString();
+  }
+}
+
 /// Leaves pictures in a folder that goes with the test.
 class PicturesTest : public ::testing::Test {
  protected:
   [[nodiscard]] QString folder() const { return folder_.filePath(QStringLiteral("pictures")); }
   [[nodiscard]] QStringList files() const {
     return QDir(folder()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+  }
+  /// The bytes of all pictures, one after the other.
+  [[nodiscard]] QByteArray allBytes() const {
+    QByteArray bytes;
+    for (const QString& name : files()) {
+      QFile file(QDir(folder()).filePath(name));
+      EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+      bytes += file.readAll();
+    }
+    EXPECT_GT(bytes.size(), 12 * 500);
+    return bytes;
   }
   [[nodiscard]] Ending leavePictures() const {
     return start(
@@ -186,6 +300,36 @@ TEST_F(PicturesTest, ShowEachViewOfAnEventOfEachKind) {
   EXPECT_GT(
       pixels_of(QImage(folder() + QStringLiteral("/negative-pion-chamber.png")), yellow).size(),
       20U);
+}
+
+TEST_F(PicturesTest, OneSeedMakesTheSamePicturesAndAnotherMakesOthers) {
+  const auto pictures = [this](const QStringList& seed) {
+    EXPECT_EQ(start(QStringList{QStringLiteral("--pictures"), folder()} + seed).status, 0);
+    return allBytes();
+  };
+  const QByteArray first = pictures(words({"--seed", "1"}));
+  EXPECT_EQ(pictures(words({"--seed", "1"})), first);
+  EXPECT_NE(pictures(words({"--seed", "2"})), first);
+  const QByteArray without = pictures({});
+  EXPECT_NE(without, first);
+  EXPECT_NE(pictures({}), without);
+}
+
+TEST_F(PicturesTest, AnOutputThatIsClosedEndsTheProgramWithOneLine) {
+  // What the shell does with the program's output, and what the program says of it.
+  for (const auto& [output, reason] :
+       {std::pair{">&-", "Bad file descriptor"}, std::pair{"| true", "Broken pipe"}}) {
+    const QString script =
+        QStringLiteral("\"$0\" --pictures \"$1\" --seed 1 %1; exit \"${PIPESTATUS[0]}\"")
+            .arg(QLatin1String(output));
+    const Ending ending = run_program(
+        "bash", {QStringLiteral("-c"), script, QStringLiteral(VELQUON_PROGRAM), folder()});
+    EXPECT_EQ(ending.status, 1) << output;
+    const QString last = ending.errors.section(QLatin1Char('\n'), -2, -2);
+    EXPECT_EQ(last.toStdString(),
+              "velquon: cannot write to standard output: " + std::string(reason));
+    EXPECT_EQ(ending.errors.count(QStringLiteral("velquon: ")), 1);
+  }
 }
 
 TEST_F(PicturesTest, ThatDoNotFitOnTheDiskAreNamedAndNotLeftByHalves) {

@@ -1,13 +1,20 @@
+#include <sys/inotify.h>
+#include <unistd.h>
+
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QDirIterator>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
+#include <array>
 
 #include "app/event_documents.h"
 #include "app/user_dialogs.h"
@@ -15,6 +22,7 @@
 #include "gui/support/waiting.h"
 #include "support/event_bytes.h"
 #include "support/modal.h"
+#include "support/other_program.h"
 
 namespace velquon::test {
 
@@ -213,6 +221,162 @@ TEST_F(DesktopDialogsTest, TheSuggestionIsOffered) {
   EXPECT_EQ(offered, QStringLiteral("EVENT.cwd"));
 }
 
+TEST_F(DesktopDialogsTest, TheNameOfAFileIsOnePlainLineBelowTheMessage) {
+  struct Case {
+    QString path;
+    QString line;
+  };
+  const std::array cases{Case{QStringLiteral("/tmp/<b>x<b>.cwd"), QStringLiteral("<b>x<b>.cwd")},
+                         Case{QStringLiteral("/tmp/a\nb\x1b.cwd"), QStringLiteral("a?b?.cwd")}};
+  for (const Case& tested : cases) {
+    const QString text = QStringLiteral("Sorry.");
+    EXPECT_TRUE(with_dialogs(
+        [&] { dialogs().alertAboutFile(QStringLiteral("Bad data"), text, tested.path); },
+        {{"QMessageBox", [&](QWidget& widget) {
+            auto& box = dynamic_cast<QMessageBox&>(widget);
+            EXPECT_EQ(box.text(), text);
+            EXPECT_EQ(box.informativeText(), tested.line);
+            for (const QLabel* const label : box.findChildren<QLabel*>()) {
+              EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString();
+            }
+            ASSERT_EQ(box.buttons().size(), 1);
+            EXPECT_EQ(box.buttons().front()->text(), QStringLiteral("OK"));
+            QTest::keyClick(&box, Qt::Key_Return);
+          }}}));
+  }
+}
+
+TEST_F(DesktopDialogsTest, ALongNameDoesNotWidenAnAlertBeyondTheScreen) {
+  const QString path = QLatin1Char('/') + QString(250, QLatin1Char('n')) + QStringLiteral(".cwd");
+  EXPECT_TRUE(with_dialogs(
+      [&] { dialogs().alertAboutFile(QStringLiteral("Bad data"), QStringLiteral("Sorry."), path); },
+      {{"QMessageBox", [](QWidget& box) {
+          EXPECT_LT(box.width(), 700);
+          EXPECT_TRUE(
+              dynamic_cast<QMessageBox&>(box).informativeText().endsWith(QStringLiteral("n.cwd")));
+          QTest::keyClick(&box, Qt::Key_Return);
+        }}}));
+}
+
+/// The widget that an alert belongs to, which is closed at once.
+QWidget* owner_of_an_alert(UserDialogs& dialogs) {
+  QWidget* owner = nullptr;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, [&] {
+    if (QWidget* const box = QApplication::activeModalWidget()) {
+      look.stop();
+      owner = box->parentWidget();
+      box->close();
+    }
+  });
+  look.start(10);
+  dialogs.alert(QStringLiteral("Bad data"), QStringLiteral("text"));
+  return owner;
+}
+
+TEST_F(DesktopDialogsTest, AnAlertBelongsToTheWindowInFront) {
+  EXPECT_EQ(owner_of_an_alert(dialogs()), &chamberWindow());
+  activate(projectorWindow());
+  EXPECT_EQ(owner_of_an_alert(dialogs()), &projectorWindow());
+}
+
+TEST_F(DesktopDialogsTest, WhileAnotherProgramHasTheKeysAnAlertBelongsToTheWindowThatHadThem) {
+  for (GLPanel* const window :
+       {static_cast<GLPanel*>(&projectorWindow()), static_cast<GLPanel*>(&chamberWindow())}) {
+    activate(*window);
+    const RunningProgram other(VELQUON_PROGRAM, {});
+    ASSERT_TRUE(wait_until([] { return QApplication::activeWindow() == nullptr; }));
+    EXPECT_EQ(owner_of_an_alert(dialogs()), window);
+  }
+}
+
+/// Counts how often the files of a folder are opened, by whatever program.
+class OpenedFiles {
+ public:
+  explicit OpenedFiles(const QString& folder) : events_(::inotify_init1(IN_NONBLOCK)) {
+    EXPECT_GE(::inotify_add_watch(events_, qPrintable(folder), IN_OPEN), 0);
+  }
+  ~OpenedFiles() { ::close(events_); }
+  OpenedFiles(const OpenedFiles&) = delete;
+  OpenedFiles& operator=(const OpenedFiles&) = delete;
+  OpenedFiles(OpenedFiles&&) = delete;
+  OpenedFiles& operator=(OpenedFiles&&) = delete;
+
+  [[nodiscard]] int count() const {
+    int files = 0;
+    alignas(inotify_event) std::array<char, 65536> bytes{};
+    for (ssize_t size = 0; (size = ::read(events_, bytes.data(), bytes.size())) > 0;) {
+      for (ssize_t at = 0; at < size;) {
+        const auto* const event = reinterpret_cast<const inotify_event*>(bytes.data() + at);
+        files += event->len > 0 && (event->mask & IN_ISDIR) == 0 ? 1 : 0;
+        at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
+      }
+    }
+    return files;
+  }
+
+ private:
+  int events_;
+};
+
+TEST_F(DesktopDialogsTest, FilesAreOfferedWithoutALookIntoThem) {
+  constexpr int many = 2000;
+  for (int i = 0; i < many; ++i) {
+    makeFile(QStringLiteral("event-%1.cwd").arg(i));
+  }
+  const OpenedFiles opened(path({}));
+  const Turn look{"QFileDialog", [&](QWidget& dialog) {
+                    dynamic_cast<QFileDialog&>(dialog).setDirectory(path({}));
+                    EXPECT_TRUE(wait_until([&] { return files_offered(dialog).size() == many; }));
+                    EXPECT_TRUE(dynamic_cast<QFileDialog&>(dialog).testOption(
+                        QFileDialog::DontUseNativeDialog));
+                    dialog.grab();
+                    QTest::keyClick(&dialog, Qt::Key_Escape);
+                  }};
+  EXPECT_TRUE(with_dialogs(
+      [&] {
+        dialogs().fileToOpen(QStringLiteral("Open Event"), QStringLiteral("Event files (*.cwd)"));
+      },
+      {look}));
+  EXPECT_EQ(opened.count(), 0);
+}
+
+TEST(DesktopDialogs, KeepNothingBetweenRuns) {
+  const QTemporaryDir home;
+  const auto variable = [&](const char* name, const char* folder) {
+    return QLatin1String(name) + QLatin1Char('=') + home.filePath(QLatin1String(folder));
+  };
+  QDir(home.path()).mkpath(QStringLiteral("events"));
+  QFile file(home.filePath(QStringLiteral("events/a.cwd")));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(event_file(spiral(7))) > 0);
+  file.close();
+  RunningProgram program(VELQUON_PROGRAM, {},
+                         {variable("HOME", ""), variable("XDG_CONFIG_HOME", "config"),
+                          variable("XDG_DATA_HOME", "data"), variable("XDG_STATE_HOME", "state"),
+                          // Of the fonts and of the graphics driver, for any program.
+                          variable("XDG_CACHE_HOME", "cache")});
+  const QString chamber = QStringLiteral("Particle Chamber: Empty");
+  ASSERT_TRUE(wait_until([&] { return program.windowTitles().contains(chamber); }));
+  program.type(chamber, QStringLiteral("ctrl+o"));
+  const QString dialog = QStringLiteral("Open Event");
+  ASSERT_TRUE(wait_until([&] { return program.windowTitles().contains(dialog); }));
+  QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("type"), file.fileName()});
+  program.type(dialog, QStringLiteral("Return"));
+  const QString shown = QStringLiteral("Particle Chamber: a.cwd");
+  ASSERT_TRUE(wait_until([&] { return program.windowTitles().contains(shown); }));
+  program.type(shown, QStringLiteral("ctrl+q"));
+  EXPECT_TRUE(wait_until([&] { return !program.isRunning(); }));
+  QStringList left;
+  for (QDirIterator entry(home.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+       entry.hasNext();) {
+    const QString name = QDir(home.path()).relativeFilePath(entry.next());
+    if (!name.startsWith(QStringLiteral("cache/"))) {
+      left << name;
+    }
+  }
+  EXPECT_EQ(left, QStringList{QStringLiteral("events/a.cwd")});
+}
+
 TEST_F(DesktopDialogsTest, ARefusedFileIsToldInAnAlertOfThisProgram) {
   QFile file(path(QStringLiteral("a.cwd")));
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -224,6 +388,7 @@ TEST_F(DesktopDialogsTest, ARefusedFileIsToldInAnAlertOfThisProgram) {
           auto& box = dynamic_cast<QMessageBox&>(widget);
           EXPECT_EQ(box.windowTitle(), QStringLiteral("Bad data"));
           EXPECT_EQ(box.text(), QStringLiteral("Sorry, Velquon can't read this file."));
+          EXPECT_EQ(box.informativeText(), QStringLiteral("a.cwd"));
           QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
         }}});
   EXPECT_TRUE(well);

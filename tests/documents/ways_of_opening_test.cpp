@@ -3,7 +3,10 @@
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QUrl>
+#include <array>
 
+#include "app/start_file.h"
+#include "app/track_window.h"
 #include "gui/support/pictures.h"
 #include "gui/support/waiting.h"
 #include "support/documents_fixture.h"
@@ -110,6 +113,53 @@ TEST_F(WaysOfOpeningTest, AFileDroppedOnEitherWindowIsShown) {
   }
 }
 
+/// What another program sends that would rather have the file moved than copied.
+template <typename Event>
+class MoveProposal : public Event {
+ public:
+  explicit MoveProposal(const QMimeData& data)
+      : Event(QPoint(50, 50), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+              Qt::ShiftModifier) {
+    this->m_defaultAction = Qt::MoveAction;
+    this->m_dropAction = Qt::MoveAction;
+  }
+};
+
+TEST_F(WaysOfOpeningTest, ADroppedFileIsCopiedWhateverIsProposed) {
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(file())});
+  MoveProposal<QDragEnterEvent> enter(data);
+  QCoreApplication::sendEvent(&chamberWindow(), &enter);
+  EXPECT_TRUE(enter.isAccepted());
+  EXPECT_EQ(enter.dropAction(), Qt::CopyAction);
+  MoveProposal<QDropEvent> drop(data);
+  QCoreApplication::sendEvent(&chamberWindow(), &drop);
+  EXPECT_TRUE(drop.isAccepted());
+  EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
+  handle_waiting_events();
+  EXPECT_EQ(chamber().point_number(), 7);
+}
+
+TEST_F(WaysOfOpeningTest, NoFileIsTakenWhileTheTrackWindowIsActive) {
+  makeEvent(0);
+  choose("activate_item");
+  ASSERT_TRUE(wait_until([&] { return !item("open_item").isEnabled(); }));
+  const int points = chamber().point_number();
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(file())});
+  const std::array<QWidget*, 3> windows{&chamberWindow(), &projectorWindow(),
+                                        &application().trackWindow()};
+  for (QWidget* const window : windows) {
+    EXPECT_FALSE(drag_and_drop(*window, data));
+  }
+  EXPECT_EQ(chamber().point_number(), points);
+  choose("activate_item");
+  for (QWidget* const window : windows) {
+    EXPECT_TRUE(drag_and_drop(*window, data));
+  }
+  EXPECT_EQ(chamber().point_number(), 7);
+}
+
 TEST_F(WaysOfOpeningTest, OfSeveralFilesDroppedTheLastIsShown) {
   const QString last = write(QStringLiteral("last.cwd"), event_file(spiral(11)));
   QMimeData data;
@@ -204,10 +254,43 @@ TEST_F(ProgramTest, OpensAFileOfThePcEdition) {
   expectTitles(write(QStringLiteral("EVENT.CWD"), pc_file(spiral(7))), QStringLiteral("EVENT.CWD"));
 }
 
-TEST_F(ProgramTest, StartsWithoutAFileThatCannotBeLoaded) {
-  for (const char* const path : {"/no/such/file.cwd", "/dev/zero", "/tmp"}) {
-    expectTitles(QLatin1String(path), QStringLiteral("Empty"));
+struct Unloadable {
+  const char* path;
+  const char* reason;
+};
+constexpr std::array unloadable_files{
+    Unloadable{"/no/such\n/file.cwd", "No such file or directory"},
+    Unloadable{"/dev/zero", "It is no regular file"}, Unloadable{"/tmp", "It is a folder"},
+    Unloadable{"/dev/null/event.cwd", "Not a directory"}};
+
+TEST_F(WaysOfOpeningTest, AFileOfTheCommandLineThatCannotBeLoadedIsToldWithTheReason) {
+  makeEvent(0);
+  const Shown before = shown();
+  for (const auto& [path, reason] : unloadable_files) {
+    dialogs().alerts.clear();
+    open_start_file(documents(), dialogs(), QLatin1String(path));
+    const RecordingDialogs::Alert told{
+        QStringLiteral("Not opened"),
+        QStringLiteral("Velquon can't open the file it was started with: %1.")
+            .arg(QLatin1String(reason))};
+    EXPECT_EQ(dialogs().alerts, std::vector{told});
+    EXPECT_EQ(dialogs().files_told.back(), QLatin1String(path));
   }
+  EXPECT_EQ(differences(before, shown()), "");
+}
+
+TEST_F(ProgramTest, SaysWhyAFileCannotBeLoadedAndGoesOn) {
+  RunningProgram program(VELQUON_PROGRAM, {QStringLiteral("/no/such\n/file.cwd")});
+  const QStringList empty{QStringLiteral("Particle Chamber: Empty"),
+                          QStringLiteral("Projector: Empty")};
+  EXPECT_TRUE(wait_until([&] {
+    return program.windowTitles() == QStringList(QStringLiteral("Not opened")) + empty;
+  })) << program.windowTitles().join(QStringLiteral(" | ")).toStdString();
+  EXPECT_TRUE(program.errors().contains(
+      QStringLiteral("velquon: cannot open /no/such?/file.cwd: No such file or directory\n")));
+  program.type(QStringLiteral("Not opened"), QStringLiteral("Return"));
+  EXPECT_TRUE(wait_until([&] { return program.windowTitles() == empty; }));
+  EXPECT_TRUE(program.isRunning());
 }
 
 TEST_F(ProgramTest, TellsOfAFileThatItRefuses) {

@@ -1,9 +1,15 @@
 // The menus: their titles and shortcuts, their check marks, and what their choices set.
 
+#include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+#include <algorithm>
 
 #include "tests/gui/support/application_fixture.h"
+#include "tests/gui/support/waiting.h"
 
 namespace velquon::test {
 
@@ -61,9 +67,56 @@ const std::vector<TitleCase> titles{
     {{"Settings", "Rotation Rate", "Slower"}, "rotate_slower_item", ""},
     {{"Settings", "Window in Front", "Chamber"}, "mon_chamber", ""},
     {{"Settings", "Window in Front", "Projector"}, "mon_projector", ""},
+    {{"Track", "Inject Particle"}, "inject_item", "Ctrl+J"},
+    {{"Track", "Clear Screen"}, "clear_screen_item", "Ctrl+L"},
     {{"Window", "Chamber"}, "chamber_window_item", ""},
     {{"Window", "Projector"}, "projector_window_item", ""},
+    {{"Help", "Velquon Guide"}, "guide_item", "F1"},
+    {{"Help", "About Velquon"}, "about_item", ""},
 };
+
+/// The window of the program that has a title; null without one on the screen.
+QWidget* shown_window(const QString& title) {
+  const auto windows = QApplication::topLevelWidgets();
+  const auto found = std::ranges::find_if(windows, [&](const QWidget* window) {
+    return window->isVisible() && window->windowTitle() == title;
+  });
+  return found != windows.end() ? *found : nullptr;
+}
+
+/// What is typed with Alt to choose an action of an open menu.
+QChar mnemonic(const QAction& action) {
+  const QKeySequence key = QKeySequence::mnemonic(action.text());
+  return key.isEmpty() ? QChar() : QChar(key[0].key());
+}
+
+/// Expects each title of a menu to have a mnemonic that no other has, and so in the menus below.
+void expect_own_mnemonics(const QList<QAction*>& titles_of_menu) {
+  QStringList taken;
+  for (const QAction* const action : titles_of_menu) {
+    if (action->isSeparator()) {
+      continue;
+    }
+    const QChar key = mnemonic(*action);
+    EXPECT_FALSE(key.isNull()) << action->text().toStdString();
+    EXPECT_FALSE(taken.contains(key)) << action->text().toStdString();
+    taken << key;
+    if (action->menu() != nullptr) {
+      expect_own_mnemonics(action->menu()->actions());
+    }
+  }
+}
+
+/// Holds keys down as a person does, on the keyboard of the X server, which repeats them.
+void hold_down(const QString& keys, int milliseconds) {
+  const auto type = [&](const QString& what) {
+    QProcess::execute(QStringLiteral("xdotool"), {what, keys});
+  };
+  type(QStringLiteral("keydown"));
+  run_loop_for(milliseconds);
+  type(QStringLiteral("keyup"));
+  run_loop_for(50);
+}
 
 }  // namespace
 
@@ -90,6 +143,56 @@ TEST_F(MenusTest, NoShortcutIsGivenTwice) {
   }
   EXPECT_GE(shortcuts.size(), 10);
   EXPECT_EQ(shortcuts.removeDuplicates(), 0);
+}
+
+TEST_F(MenusTest, EachItemHasAMnemonicOfItsOwnInItsMenu) {
+  expect_own_mnemonics(chamberWindow().menuBar()->actions());
+}
+
+TEST_F(MenusTest, F1OpensTheGuide) {
+  const QString title = QStringLiteral("Velquon Guide");
+  for (QWidget* const window :
+       {static_cast<QWidget*>(&chamberWindow()), static_cast<QWidget*>(&projectorWindow())}) {
+    activate(*window);
+    ASSERT_EQ(shown_window(title), nullptr);
+    QTest::keyClick(window, Qt::Key_F1);
+    EXPECT_TRUE(wait_until(
+        [&] { return shown_window(title) != nullptr && shown_window(title)->isActiveWindow(); }));
+    QTest::keyClick(shown_window(title), Qt::Key_Escape);
+    EXPECT_TRUE(wait_until([&] { return shown_window(title) == nullptr; }));
+  }
+}
+
+TEST_F(MenusTest, AKeyHeldDownMakesOneEventAndOneReplay) {
+  constexpr int long_enough_to_repeat = 1500;
+  // A key that repeats shows that this keyboard does.
+  const QSignalSpy resets(&item("reset_orientation_item"), &QAction::triggered);
+  hold_down(QStringLiteral("ctrl+0"), long_enough_to_repeat);
+  EXPECT_GT(resets.size(), 3);
+  struct Case {
+    const char* name;
+    const char* keys;
+  };
+  constexpr std::array cases{Case{"new_event_item", "ctrl+n"}, Case{"replay_item", "ctrl+r"},
+                             Case{"rotate_item", "ctrl+t"},
+                             Case{"reverse_rotate_item", "ctrl+shift+t"}};
+  for (const auto& [name, keys] : cases) {
+    const QSignalSpy chosen(&item(name), &QAction::triggered);
+    hold_down(QLatin1String(keys), long_enough_to_repeat);
+    EXPECT_EQ(chosen.size(), 1) << name;
+    chamber().stopRotating();
+  }
+}
+
+TEST_F(MenusTest, AKeyHeldDownInjectsOneParticleAndSwitchesTheTrackWindowOnce) {
+  constexpr int long_enough_to_repeat = 1500;
+  const QSignalSpy switched(&item("activate_item"), &QAction::triggered);
+  hold_down(QStringLiteral("ctrl+k"), long_enough_to_repeat);
+  EXPECT_EQ(switched.size(), 1);
+  ASSERT_TRUE(wait_until([&] { return item("inject_item").isEnabled(); }));
+  const QSignalSpy injected(&item("inject_item"), &QAction::triggered);
+  hold_down(QStringLiteral("ctrl+j"), long_enough_to_repeat);
+  EXPECT_EQ(injected.size(), 1);
 }
 
 TEST_F(MenusTest, CheckMarksAtStartAreTheViewsState) {

@@ -16,6 +16,7 @@
 #include "tests/gui/support/matrices.h"
 #include "tests/gui/support/pictures.h"
 #include "tests/gui/support/waiting.h"
+#include "tests/support/scripted_rand.h"
 
 namespace velquon::test {
 
@@ -127,6 +128,35 @@ TEST_F(NewEventTest, TheFieldIsFlippedForTheGeneratorAlone) {
               std::bit_cast<std::uint32_t>(0.6F));
     EXPECT_EQ(chamber().B_field(), static_cast<double>(0.6F));
   }
+}
+
+TEST_F(NewEventTest, AnEventThatIsNotHandedOverLeavesThePointsAndRefreshesTheRest) {
+  choose("piplus_item");
+  choose("new_event_item");
+  const Points before = shown();
+  const QImage projection_before = picture_of(projection());
+  ASSERT_FALSE(before.empty());
+  controller().settings().setEnergyControl(50.0F);
+  choose("muplus_item");
+  const int chamber_passes = chamber().passes();
+  const int projection_passes = projection().passes();
+  using velquon::testing::draw_of;
+  using velquon::testing::highest_draw;
+  using velquon::testing::lowest_draw;
+  // The muon's second step ends it, the electron goes straight ahead, and its second step ends it,
+  // which practically never happens: the last particle of a chain is stable.
+  const velquon::testing::ScriptedRand script({lowest_draw, highest_draw, draw_of(0.5),
+                                               highest_draw, lowest_draw, lowest_draw, lowest_draw,
+                                               highest_draw});
+  choose("new_event_item");
+  EXPECT_TRUE(script.played_out());
+  EXPECT_EQ(shown(), before);
+  EXPECT_EQ(differing_pixels(picture_of(projection()), projection_before), 0);
+  EXPECT_EQ(chamberWindow().windowTitle().toStdString(), "Particle Chamber: Untitled Type 5 Decay");
+  EXPECT_EQ(projectorWindow().windowTitle().toStdString(), "Projector: Untitled Type 5 Decay");
+  EXPECT_EQ(chamber().kinetic_Mev(), 50.0);
+  EXPECT_GT(chamber().passes(), chamber_passes);
+  EXPECT_GT(projection().passes(), projection_passes);
 }
 
 TEST_F(NewEventTest, EnergyZeroMakesAnEventWithoutPoints) {

@@ -1,8 +1,12 @@
 // Titles and order of the windows, which of them has the keys, closing and coming back.
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QDialog>
+#include <QMenuBar>
 #include <QTest>
 #include <QTimer>
+#include <QToolBar>
 #include <csignal>
 
 #include "app/track_window.h"
@@ -75,6 +79,28 @@ TEST_F(WindowsTest, ANameTooLongForATitleEndsTheProgramWithAClearLine) {
   // Two bytes a letter.
   const QString greek(130, QChar(u'π'));
   EXPECT_EXIT(controller().renameWindows(greek), testing::KilledBySignal(SIGABRT), "title");
+}
+
+TEST_F(WindowsTest, ControlCharactersOfANameAreReplacedInTheLastLine) {
+  const QString name = QStringLiteral("a\nb\x1b[31m") + QString(256, QLatin1Char('n'));
+  EXPECT_EXIT(controller().renameWindows(name), testing::KilledBySignal(SIGABRT),
+              "^velquon: the name 'a\\?b\\?\\[31mn+' does not fit into a window's title\n$");
+}
+
+TEST_F(WindowsTest, NoMenuOfTheToolBarHidesIt) {
+  auto& bar = control<QToolBar>("chamber_tool_bar");
+  for (QWidget* const place :
+       {static_cast<QWidget*>(&bar), static_cast<QWidget*>(chamberWindow().menuBar()),
+        static_cast<QWidget*>(&chamberWindow())}) {
+    QContextMenuEvent click(QContextMenuEvent::Mouse, QPoint(5, 5),
+                            place->mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(place, &click);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << place->objectName().toStdString();
+    if (QWidget* const popup = QApplication::activePopupWidget()) {
+      popup->close();
+    }
+  }
+  EXPECT_TRUE(bar.isVisible());
 }
 
 TEST_F(WindowsTest, PrintingIsPossibleFromTheStartAndGoesWithTheKeys) {

@@ -46,8 +46,9 @@ Ending run_program(const char* program, const QStringList& arguments,
           QString::fromUtf8(process.readAllStandardError())};
 }
 
-RunningProgram::RunningProgram(const char* program, const QStringList& arguments) {
-  process_.setEnvironment(environment_with({}));
+RunningProgram::RunningProgram(const char* program, const QStringList& arguments,
+                               const QStringList& variables) {
+  process_.setEnvironment(environment_with(variables));
   process_.start(QString::fromUtf8(program), arguments);
   if (!process_.waitForStarted(patience)) {
     throw std::runtime_error("the program does not start");
@@ -74,6 +75,22 @@ QString RunningProgram::nextLine() {
     }
   }
   return QString::fromUtf8(process_.readLine()).trimmed();
+}
+
+QString RunningProgram::errors() {
+  return QString::fromUtf8(process_.readAllStandardError());
+}
+
+void RunningProgram::type(const QString& title, const QString& keys) {
+  for (const QString& window : windows()) {
+    if (title_of(window) == title) {
+      output_of(QStringLiteral("xdotool"),
+                {QStringLiteral("windowactivate"), QStringLiteral("--sync"), window});
+      output_of(QStringLiteral("xdotool"), {QStringLiteral("key"), keys});
+      return;
+    }
+  }
+  throw std::runtime_error("no window " + title.toStdString());
 }
 
 QStringList RunningProgram::windows() {

@@ -21,7 +21,8 @@ Ending run_program(const char* program, const QStringList& arguments,
 /// A program that runs beside the test and is killed with this object at the latest.
 class RunningProgram {
  public:
-  RunningProgram(const char* program, const QStringList& arguments);
+  RunningProgram(const char* program, const QStringList& arguments,
+                 const QStringList& variables = {});
   ~RunningProgram();
   RunningProgram(const RunningProgram&) = delete;
   RunningProgram& operator=(const RunningProgram&) = delete;
@@ -33,6 +34,10 @@ class RunningProgram {
   /// Waits for output.
   /// \return the next line of it
   QString nextLine();
+  /// What it has said on standard error so far and not been asked for yet.
+  [[nodiscard]] QString errors();
+  /// Gives the keys to its window with a title and presses some in it, as xdotool names them.
+  void type(const QString& title, const QString& keys);
   /// Titles of the windows that it has on the screen.
   [[nodiscard]] QStringList windowTitles();
   /// The picture on the screen of its window with a title; nothing without one.

@@ -11,6 +11,12 @@ void RecordingDialogs::alert(const QString& title, const QString& message) {
   }
 }
 
+void RecordingDialogs::alertAboutFile(const QString& title, const QString& message,
+                                      const QString& path) {
+  files_told.push_back(path);
+  alert(title, message);
+}
+
 QString RecordingDialogs::fileToOpen(const QString& title, const QString& filter) {
   questions.push_back({title, filter, {}, {}});
   return answer;

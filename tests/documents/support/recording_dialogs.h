@@ -29,12 +29,14 @@ class RecordingDialogs : public UserDialogs {
   };
 
   void alert(const QString& title, const QString& message) override;
+  void alertAboutFile(const QString& title, const QString& message, const QString& path) override;
   QString fileToOpen(const QString& title, const QString& filter) override;
   QString fileToSave(const QString& title, const QString& suggestion, const QString& filter,
                      const QString& suffix) override;
 
   QString answer;                   ///< path that every question gets; empty is giving up
   std::vector<Alert> alerts;        ///< in the order told
+  std::vector<QString> files_told;  ///< paths that alerts were about
   std::vector<Question> questions;  ///< in the order asked
   std::function<void()> on_alert;   ///< called while an alert is up
 };

@@ -35,6 +35,11 @@ void SilentDialogs::alert(const QString& title, const QString& message) {
   alerts << title + QStringLiteral(": ") + message;
 }
 
+void SilentDialogs::alertAboutFile(const QString& title, const QString& message,
+                                   const QString& path) {
+  alert(title, message + QStringLiteral(" / ") + path);
+}
+
 QString SilentDialogs::fileToOpen(const QString& /*title*/, const QString& /*filter*/) {
   return {};
 }

@@ -28,6 +28,7 @@ inline constexpr std::uint32_t fixture_seed = 20'240'611;
 class SilentDialogs : public UserDialogs {
  public:
   void alert(const QString& title, const QString& message) override;
+  void alertAboutFile(const QString& title, const QString& message, const QString& path) override;
   QString fileToOpen(const QString& title, const QString& filter) override;
   QString fileToSave(const QString& title, const QString& suggestion, const QString& filter,
                      const QString& suffix) override;

@@ -1,0 +1,9 @@
+#pragma once
+
+namespace velquon {
+
+/// Lets the application's style draw the marks of sliders and the frame of chosen buttons so that
+/// they stand out from what is around them in any palette. To be called again does nothing.
+void make_style_readable();
+
+}  // namespace velquon
