@@ -68,9 +68,8 @@ int write_event_files(const EventOptions& options, std::FILE* messages) {
       return report(messages, path.string(), error);
     }
   }
-  std::fprintf(messages, "velquon-events: %llu of %llu events had no points and got no file\n",
-               static_cast<unsigned long long>(empty),
-               static_cast<unsigned long long>(options.events));
+  std::fprintf(messages, "velquon-events: %s of %s events had no points and got no file\n",
+               std::to_string(empty).c_str(), std::to_string(options.events).c_str());
   return 0;
 }
 
