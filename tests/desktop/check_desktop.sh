@@ -345,6 +345,31 @@ check_package_runs() {
   [ "$(wc -l <"$package/packaged.csv")" -gt 2 ] || fail "the packaged tool makes no event"
 }
 
+# What guards a program against errors in it, as Debian builds programs: the stack's protector, the
+# checking functions of the C library, an address that differs from run to run, and tables of
+# functions that are filled at the start and then only read.
+check_package_hardening() {
+  need_package
+  need readelf
+  local page program tags=hardening-no-bindnow,hardening-no-relro,hardening-no-pie
+  for page in "${pages[@]}"; do
+    program=$unpacked/usr/bin/$page
+    readelf --wide --file-header "$program" | grep -qE 'Type: +DYN ' || fail "$page has a fixed address"
+    readelf --wide --segments "$program" | grep -qw GNU_RELRO || fail "$page has no RELRO"
+    readelf --wide --dynamic "$program" | grep -qE '\(FLAGS\).* BIND_NOW' || fail "$page binds late"
+    readelf --wide --segments "$program" | grep -E 'GNU_STACK' | grep -qw RW ||
+      fail "the stack of $page can be run"
+    readelf --wide --dyn-syms "$program" | grep -qw __stack_chk_fail ||
+      fail "$page has no stack protector"
+    readelf --wide --dyn-syms "$program" | grep -qE ' __[a-z]+_chk@' || fail "$page is not fortified"
+  done
+  need lintian
+  local options=(--no-cfg --tags "$tags,hardening-no-fortify-functions" --display-info
+    --fail-on error,warning,info)
+  [ "$(id -u)" -ne 0 ] || options+=(--allow-root)
+  lintian "${options[@]}" "$(the_package)" || fail "lintian"
+}
+
 check_package_policy() {
   need_package
   need lintian
