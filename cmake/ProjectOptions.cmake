@@ -25,6 +25,17 @@ if(SANITIZER)
   target_link_options(project_options INTERFACE -fsanitize=${SANITIZER})
 endif()
 
+# Files beyond 2 GiB, and on a PC of 32 bits arithmetic without the extra digits of its old unit, by which
+# a seed would give another event.
+include(CheckCXXSourceCompiles)
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  target_compile_definitions(project_options INTERFACE _FILE_OFFSET_BITS=64)
+  check_cxx_source_compiles("#ifndef __i386__\n#error other\n#endif\nint main() {}" IS_I386)
+  if(IS_I386)
+    target_compile_options(project_options INTERFACE -msse2 -mfpmath=sse)
+  endif()
+endif()
+
 # What an optimised program costs nothing and an attacker much: as Debian builds its packages. The
 # sanitizers look closer.
 if(NOT SANITIZER)
