@@ -101,8 +101,8 @@ int main(int argc, char** argv) {
   velquon::Application application(parsed.options->seed, dialogs);
   application.showWindows();
   if (!application.viewsCanDraw()) {
-    return end_for_want_of(QStringLiteral(
-        "the OpenGL driver gives the views no context of version 2.1 to draw with"));
+    return end_for_want_of(
+        QStringLiteral("the OpenGL driver gives the views no context of version 2.1 to draw with"));
   }
   if (!parsed.options->pictures.isEmpty()) {
     return velquon::save_pictures(application, parsed.options->pictures);

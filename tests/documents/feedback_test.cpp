@@ -1,13 +1,18 @@
 #include <GL/gl.h>
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
+#include <QTemporaryDir>
 #include <cmath>
 #include <limits>
 #include <vector>
 
 #include "chamber/feedback.h"
+#include "support/event_bytes.h"
+#include "support/other_program.h"
+#include "support/pdf_page.h"
 
 namespace velquon::test {
 
@@ -167,6 +172,32 @@ TEST_F(DrawnFeedbackTest, WhatFitsIntoNoBufferIsGivenUp) {
   EXPECT_FALSE(picture);
   EXPECT_EQ(passes, most_feedback_doublings + 1);
 }
+
+#ifndef VELQUON_SANITIZED  // A sanitizer does not run behind another library.
+TEST(FeedbackTest, APageSaysThatItsPictureIsMissing) {
+  const QTemporaryDir folder;
+  const QString event = folder.filePath(QStringLiteral("event.cwd"));
+  const QString page = folder.filePath(QStringLiteral("page.pdf"));
+  QFile file(event);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(event_file(spiral(3)));
+  file.close();
+  const Ending ending = run_program(
+      SCRIPTED_PROGRAM, {QStringLiteral("print"), QStringLiteral("chamber"), event, page},
+      {QStringLiteral("LD_PRELOAD=") + QStringLiteral(FULL_FEEDBACK)});
+  EXPECT_EQ(ending.status, 0) << ending.errors.toStdString();
+  EXPECT_TRUE(ending.errors.contains(QStringLiteral(
+      "velquon: the OpenGL driver does not hand the chamber's picture over for printing\n")))
+      << ending.errors.toStdString();
+  QStringList words;
+  for (const PaperWord& word : words_of_pdf(page)) {
+    words << word.text;
+  }
+  EXPECT_TRUE(words.join(QLatin1Char(' '))
+                  .contains(QStringLiteral("The graphics driver did not hand the picture over.")))
+      << words.join(QLatin1Char(' ')).toStdString();
+}
+#endif
 
 }  // namespace
 
