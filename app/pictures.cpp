@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <functional>
 #include <optional>
 
 #include "app/application.h"
@@ -17,6 +18,7 @@
 #include "app/menus.h"
 #include "app/projector_window.h"
 #include "app/whole_file.h"
+#include "chamber/chamber_scene.h"
 #include "chamber/chamber_view.h"
 #include "events/event_types.h"
 #include "projection/projection_view.h"
@@ -28,11 +30,13 @@ namespace {
 
 constexpr int longest_wait = 10'000;  // milliseconds
 
-bool wait_until_exposed(const QWidget& window) {
+/// Runs the event loop until a condition holds.
+/// \return whether it does
+bool wait_until(const std::function<bool()>& holds) {
   QEventLoop loop;
   QTimer poll;
   QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
-    if (window.windowHandle()->isExposed()) {
+    if (holds()) {
       loop.quit();
     }
   });
@@ -41,7 +45,23 @@ bool wait_until_exposed(const QWidget& window) {
   QObject::connect(&give_up, &QTimer::timeout, &loop, &QEventLoop::quit);
   give_up.start(longest_wait);
   loop.exec();
-  return window.windowHandle()->isExposed();
+  return holds();
+}
+
+bool wait_until_exposed(const QWidget& window) {
+  return wait_until([&window] { return window.windowHandle()->isExposed(); });
+}
+
+/// Makes a window as large as its view needs for just the picture, beyond the edge of a small screen
+/// if need be.
+/// \return whether the window became so
+bool make_room_for_picture(QWidget& window, const GLView& view, QSize picture) {
+  const auto fits = [&view, picture] { return view.size() == picture; };
+  if (fits()) {
+    return true;
+  }
+  window.resize(window.size() + picture - view.size());
+  return wait_until(fits);
 }
 
 /// The picture as a PNG file; nothing when there is no picture.
@@ -93,6 +113,13 @@ int save_pictures(Application& application, const QString& folder) {
   if (!wait_until_exposed(application.chamberWindow()) ||
       !wait_until_exposed(application.projectorWindow())) {
     std::fputs("velquon: the windows did not come up on the screen\n", stderr);
+    return 1;
+  }
+  if (!make_room_for_picture(application.chamberWindow(), *application.chamberWindow().view(),
+                             {chamber_width, chamber_height}) ||
+      !make_room_for_picture(application.projectorWindow(), *application.projectorWindow().view(),
+                             {projection_width, projection_height})) {
+    std::fputs("velquon: the screen has no room for the whole pictures\n", stderr);
     return 1;
   }
   const Ui::Menus& menus = application.menus().items();

@@ -302,6 +302,17 @@ TEST_F(PicturesTest, ShowEachViewOfAnEventOfEachKind) {
       20U);
 }
 
+TEST_F(PicturesTest, AreWholeOnAScreenTooSmallForTheWindows) {
+  ASSERT_EQ(leavePictures().status, 0);
+  const QByteArray on_a_large_screen = allBytes();
+  const Ending ending = run_program(WITH_DISPLAY,
+                                    {QStringLiteral(VELQUON_PROGRAM), QStringLiteral("--pictures"),
+                                     folder(), QStringLiteral("--seed"), QStringLiteral("1")},
+                                    {QStringLiteral("VELQUON_SCREEN=640x480x24")});
+  EXPECT_EQ(ending.status, 0) << ending.errors.toStdString();
+  EXPECT_EQ(allBytes(), on_a_large_screen);
+}
+
 TEST_F(PicturesTest, OneSeedMakesTheSamePicturesAndAnotherMakesOthers) {
   const auto pictures = [this](const QStringList& seed) {
     EXPECT_EQ(start(QStringList{QStringLiteral("--pictures"), folder()} + seed).status, 0);
