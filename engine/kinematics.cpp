@@ -1,8 +1,11 @@
 #include "engine/kinematics.h"
 
+#include <cfloat>
 #include <cmath>
 
 namespace velquon {
+
+static_assert(FLT_EVAL_METHOD == 0, "Arithmetic beyond a double's digits gives other events.");
 
 double dot_product(const Vector3& a, const Vector3& b) {
   return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];

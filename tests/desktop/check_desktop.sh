@@ -345,6 +345,31 @@ check_package_runs() {
   [ "$(wc -l <"$package/packaged.csv")" -gt 2 ] || fail "the packaged tool makes no event"
 }
 
+# What guards a program against errors in it, as Debian builds programs: the stack's protector, the
+# checking functions of the C library, an address that differs from run to run, and tables of
+# functions that are filled at the start and then only read.
+check_package_hardening() {
+  need_package
+  need readelf
+  local page program facts=$package/readelf.txt
+  for page in "${pages[@]}"; do
+    program=$unpacked/usr/bin/$page
+    readelf --wide --file-header --segments --dynamic --dyn-syms "$program" >"$facts"
+    grep -qE 'Type: +DYN ' "$facts" || fail "$page has a fixed address"
+    grep -qE '^ +GNU_RELRO ' "$facts" || fail "$page has no RELRO"
+    grep -qE '\(FLAGS\).* BIND_NOW' "$facts" || fail "$page binds late"
+    grep -qE '^ +GNU_STACK .* RW ' "$facts" || fail "the stack of $page can be run"
+    grep -qw __stack_chk_fail "$facts" || fail "$page has no stack protector"
+    grep -qE ' __[a-z]+_chk@' "$facts" || fail "$page is not fortified"
+  done
+  need lintian
+  local options=(--no-cfg --display-info
+    --tags hardening-no-bindnow,hardening-no-relro,hardening-no-pie,hardening-no-fortify-functions
+    --fail-on error,warning,info)
+  [ "$(id -u)" -ne 0 ] || options+=(--allow-root)
+  lintian "${options[@]}" "$(the_package)" || fail "lintian"
+}
+
 check_package_policy() {
   need_package
   need lintian

@@ -1,3 +1,6 @@
+// The headers' checking functions of the same names would stand in the way.
+#undef _FORTIFY_SOURCE
+
 #include "tests/support/call_faults.h"
 
 #include <dlfcn.h>
