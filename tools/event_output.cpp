@@ -55,9 +55,9 @@ int write_event_files(const EventOptions& options, std::FILE* messages) {
   if (result.failure) {
     return report(messages, *result.failure);
   }
-  std::fprintf(messages, "velquon-events: %llu of %llu events had no points and got no file\n",
-               static_cast<unsigned long long>(result.without_points),
-               static_cast<unsigned long long>(options.events));
+  std::fprintf(messages, "velquon-events: %s of %s events had no points and got no file\n",
+               std::to_string(result.without_points).c_str(),
+               std::to_string(options.events).c_str());
   return 0;
 }
 
