@@ -89,8 +89,8 @@ lint_tree() {
   touch .clang-tidy engine/one.cpp engine/two.cpp engine/both.h
   local name
   for name in one two; do
-    printf '{\n  "directory": "%s",\n  "command": "c++",\n  "file": "%s"\n},\n' "$PWD/build/ci" \
-      "$PWD/engine/$name.cpp"
+    printf '{\n  "directory": "%s",\n  "command": "c++ -include /x/cmake_pch.hxx -c",\n  "file": "%s"\n},\n' \
+      "$PWD/build/ci" "$PWD/engine/$name.cpp"
   done >build/ci/compile_commands.json
   program programs/ninja <<'END'
 for name in one two; do
@@ -100,8 +100,12 @@ END
   program programs/clang-tidy <<'END'
 [ "$1" = --version ] && { echo 'version 1'; exit; }
 echo '2 warnings generated.' >&2
-for file in "$@"; do :; done
-! grep -H wrong "$file" >&2
+for word in "$@"; do
+  [ "$previous" != -p ] || folder=$word
+  previous=$word
+done
+! grep cmake_pch "$folder/compile_commands.json" >&2 || exit 1
+! grep -H wrong "$word" >&2
 END
 }
 
@@ -134,7 +138,7 @@ check_lint_leaves_out_what_passed() {
   echo '# another rule' >>.clang-tidy
   run 0 scripts/lint "${sources[@]}"
   printed_has 'on 2 of 2 sources'
-  sed -i 's/"command": "c++"/"command": "c++ -O2"/' build/ci/compile_commands.json
+  sed -i 's/"command": "c++ /"command": "c++ -O2 /' build/ci/compile_commands.json
   run 0 scripts/lint "${sources[@]}"
   printed_has 'on 2 of 2 sources'
 }
