@@ -39,6 +39,10 @@ install(FILES resources/icons/velquon.svg DESTINATION ${hicolor}/scalable/apps)
 install(FILES resources/icons/velquon-event.svg
   DESTINATION ${hicolor}/scalable/mimetypes RENAME ${event_icon}.svg)
 
+# Many events on a cluster.
+install(PROGRAMS resources/cluster/velquon-array resources/cluster/velquon-parallel
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/velquon)
+
 # Manual pages and documents.
 foreach(page velquon.1 velquon-events.1)
   velquon_compressed(${PROJECT_SOURCE_DIR}/docs/man/${page} ${page})

@@ -299,7 +299,7 @@ check_package_files() {
   actual=$(dpkg-deb -c "$(the_package)" | grep -v '^d' | sed 's/.* \.\//\//' | sort)
   diff <(expected_files) - <<<"$actual" || fail "the package holds other files"
   local modes='^(drwxr-xr-x root/root .*/|-rw-r--r-- root/root .*'
-  modes+='|-rwxr-xr-x root/root .* \./usr/bin/[^/]*)$'
+  modes+='|-rwxr-xr-x root/root .* \./usr/(bin|share/velquon)/[^/]*)$'
   ! dpkg-deb -c "$(the_package)" | grep -vE "$modes" || fail "owners or modes"
 }
 
