@@ -103,13 +103,13 @@ bool possible_jobs(unsigned jobs) {
 }
 
 /// FIRST-LAST as a range, if it is one and does not run backwards.
-std::optional<SeedRange> range_in(const std::string& text) {
+std::optional<SeedRange> range_in(std::string_view text) {
   const std::size_t dash = text.find('-');
-  if (dash == std::string::npos) {
+  if (dash == std::string_view::npos) {
     return std::nullopt;
   }
-  const auto first = number_in<std::uint32_t>(std::string_view(text).substr(0, dash));
-  const auto last = number_in<std::uint32_t>(std::string_view(text).substr(dash + 1));
+  const auto first = number_in<std::uint32_t>(text.substr(0, dash));
+  const auto last = number_in<std::uint32_t>(text.substr(dash + 1));
   if (!first || !last || *first > *last) {
     return std::nullopt;
   }

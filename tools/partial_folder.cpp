@@ -1,9 +1,9 @@
 #include "tools/partial_folder.h"
 
 #include <fcntl.h>
-#include <stdio.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <string>
 
 namespace velquon {

@@ -207,9 +207,9 @@ void SeedRuns::tell_end_of(std::uint32_t seed, int status) {
 int SeedRuns::outcome() const {
   if (stopped_by_ != 0) {
     std::fprintf(messages_,
-                 "velquon-events: ended by signal %d (%s), %llu of %llu seeds are complete\n",
-                 stopped_by_, ::strsignal(stopped_by_), static_cast<unsigned long long>(complete_),
-                 static_cast<unsigned long long>(options_.seeds->size()));
+                 "velquon-events: ended by signal %d (%s), %s of %s seeds are complete\n",
+                 stopped_by_, ::strsignal(stopped_by_), std::to_string(complete_).c_str(),
+                 std::to_string(options_.seeds->size()).c_str());
     return 128 + stopped_by_;
   }
   return failed_ == 0 ? 0 : 1;

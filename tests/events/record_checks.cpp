@@ -37,7 +37,7 @@ Vector3 in_units(const RecordedEvent& event, const Vector3& cm) {
 }
 
 Vector3 point_in_cm(const RecordedEvent& event, std::size_t point) {
-  const double side = static_cast<double>(event.values.sides_cm);
+  const auto side = static_cast<double>(event.values.sides_cm);
   const auto& coords = event.points[point].coords;
   return {coords[0] * side / 800.0, coords[1] * side / 800.0, coords[2] * side / 800.0};
 }
@@ -46,10 +46,11 @@ Vector3 point_in_cm(const RecordedEvent& event, std::size_t point) {
 class ForetoldPath {
  public:
   ForetoldPath(const RecordedEvent& event, const RecordedParticle& row)
-      : start_(in_units(event, row.place_cm)), straight_(event.values.B_field == 0.0F) {
-    const auto& [px, py, pz] = row.momentum;
+      : start_(in_units(event, row.place_cm)),
+        straight_(event.values.B_field == 0.0F),
+        phi_(std::atan2(row.momentum[1], row.momentum[0])) {
+    const double pz = row.momentum[2];
     const double p = length(row.momentum);
-    phi_ = std::atan2(py, px);
     if (straight_) {
       const double theta = std::acos(pz / row.energy);
       advance_ = {std::cos(phi_) * std::sin(theta) * step, std::sin(phi_) * std::sin(theta) * step,
@@ -86,7 +87,7 @@ class ForetoldPath {
  private:
   Vector3 start_;
   bool straight_;
-  double phi_ = 0.0;
+  double phi_;
   double radius_cm_ = 0.0;
   double radius_ = 0.0;
   double dphi_ = 0.0;
@@ -324,8 +325,8 @@ std::string problem_in_circles(const RecordedEvent& event, CircleCount& count) {
     const ForetoldPath path(event, rows[i]);
     // Three points about two radians apart, or as far apart as there are.
     const double apart = std::max(1.0, std::floor(2.0 / std::fabs(path.dphi())));
-    const auto stride =
-        static_cast<std::size_t>(std::min(apart, static_cast<double>((own.size() - 1) / 2)));
+    const std::size_t most_apart = (own.size() - 1) / 2;
+    const auto stride = static_cast<std::size_t>(std::min(apart, static_cast<double>(most_apart)));
     const Vector3 a = position_of(event.points[own[0]]);
     const Vector3 ab = difference(position_of(event.points[own[stride]]), a);
     const Vector3 ac = difference(position_of(event.points[own[2 * stride]]), a);

@@ -6,7 +6,7 @@ set -euo pipefail
 check=$1 source=$2
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-mkdir -p "$work/scripts" "$work/programs" "$work/build/fuzz/tests/fuzz" "$work/build/asan"
+mkdir -p "$work/scripts" "$work/programs" "$work/build/fuzz/tests/fuzz" "$work/build/ci"
 cp "$source/scripts/fuzz" "$source/scripts/lint" "$work/scripts/"
 cd "$work"
 export PATH=$work/programs:$PATH
@@ -89,9 +89,9 @@ lint_tree() {
   touch .clang-tidy engine/one.cpp engine/two.cpp engine/both.h
   local name
   for name in one two; do
-    printf '{\n  "directory": "%s",\n  "command": "c++",\n  "file": "%s"\n},\n' "$PWD/build/asan" \
-      "$PWD/engine/$name.cpp"
-  done >build/asan/compile_commands.json
+    printf '{\n  "directory": "%s",\n  "command": "c++ -include /x/cmake_pch.hxx -c",\n  "file": "%s"\n},\n' \
+      "$PWD/build/ci" "$PWD/engine/$name.cpp"
+  done >build/ci/compile_commands.json
   program programs/ninja <<'END'
 for name in one two; do
   printf '%s.o: #deps 2\n    ../../engine/%s.cpp\n    ../../engine/both.h\n\n' $name $name
@@ -100,8 +100,12 @@ END
   program programs/clang-tidy <<'END'
 [ "$1" = --version ] && { echo 'version 1'; exit; }
 echo '2 warnings generated.' >&2
-for file in "$@"; do :; done
-! grep -H wrong "$file" >&2
+for word in "$@"; do
+  [ "$previous" != -p ] || folder=$word
+  previous=$word
+done
+! grep cmake_pch "$folder/compile_commands.json" >&2 || exit 1
+! grep -H wrong "$word" >&2
 END
 }
 
@@ -134,14 +138,14 @@ check_lint_leaves_out_what_passed() {
   echo '# another rule' >>.clang-tidy
   run 0 scripts/lint "${sources[@]}"
   printed_has 'on 2 of 2 sources'
-  sed -i 's/"command": "c++"/"command": "c++ -O2"/' build/asan/compile_commands.json
+  sed -i 's/"command": "c++ /"command": "c++ -O2 /' build/ci/compile_commands.json
   run 0 scripts/lint "${sources[@]}"
   printed_has 'on 2 of 2 sources'
 }
 
 check_lint_misses_its_database() {
   lint_tree
-  rm build/asan/compile_commands.json
+  rm build/ci/compile_commands.json
   run 2 scripts/lint engine/one.cpp
   printed_has 'compile_commands.json is missing'
 }
@@ -152,7 +156,7 @@ check_lint_misses_a_source() {
   printed_has 'there is no file engine/none.cpp'
   touch engine/new.cpp
   run 2 scripts/lint engine/new.cpp
-  printed_has 'engine/new.cpp is no source of build/asan/compile_commands.json'
+  printed_has 'engine/new.cpp is no source of build/ci/compile_commands.json'
 }
 
 "check_$check"

@@ -155,6 +155,7 @@ using velquon::testing::faulty;
 using velquon::testing::real;
 using velquon::testing::taken_of;
 
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name): the C library's are reserved.
 extern "C" {
 
 int fsync(int file) {
@@ -207,3 +208,4 @@ int openat(int folder, const char* name, int flags, ...) {
 }
 
 }  // extern "C"
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)

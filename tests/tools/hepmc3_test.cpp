@@ -206,7 +206,9 @@ TEST(Hepmc3Files, WithoutEventsAreReadAsSuch) {
       run_tool({"--type", "pi+", "--seed", "1", "--events", "0", "--format", "hepmc3"});
   EXPECT_EQ(tool.status, 0);
   EXPECT_TRUE(tool.out.starts_with("HepMC::Version"));
-  EXPECT_NE(tool.out.find("END_EVENT_LISTING"), std::string::npos);
+  const std::size_t end = tool.out.find("END_EVENT_LISTING");
+  EXPECT_NE(end, std::string::npos);
+  EXPECT_EQ(tool.out.rfind("END_EVENT_LISTING"), end) << "once";
 }
 
 TEST(Hepmc3Files, LeaveOutAnEventThatIsNotHandedOver) {
