@@ -56,12 +56,14 @@ bool wait_until_exposed(const QWidget& window) {
 /// if need be.
 /// \return whether the window became so
 bool make_room_for_picture(QWidget& window, const GLView& view, QSize picture) {
-  const auto fits = [&view, picture] { return view.size() == picture; };
-  if (fits()) {
-    return true;
-  }
-  window.resize(window.size() + picture - view.size());
-  return wait_until(fits);
+  // More than once: a scroll bar that is there takes room from the view until it is gone.
+  return wait_until([&window, &view, picture] {
+    if (view.size() == picture) {
+      return true;
+    }
+    window.resize(window.size() + picture - view.size());
+    return false;
+  });
 }
 
 /// The picture as a PNG file; nothing when there is no picture.
