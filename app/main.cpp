@@ -23,14 +23,13 @@ namespace {
 /// The arguments of a program as C has them. They must outlive the application object.
 class ArgumentVector {
  public:
-  explicit ArgumentVector(const QStringList& words) {
+  explicit ArgumentVector(const QStringList& words) : count_(static_cast<int>(words.size())) {
     for (const QString& word : words) {
       words_.push_back(word.toLocal8Bit());
     }
     for (QByteArray& word : words_) {
       pointers_.push_back(word.data());
     }
-    count_ = static_cast<int>(pointers_.size());
     pointers_.push_back(nullptr);
   }
 
@@ -40,7 +39,7 @@ class ArgumentVector {
  private:
   std::vector<QByteArray> words_;
   std::vector<char*> pointers_;
-  int count_ = 0;
+  int count_;
 };
 
 /// Takes the places of standard streams that are closed, which the next files and connections to be
