@@ -15,6 +15,9 @@ namespace velquon {
 void prepare_desktop() {
   // GLUT needs X, so on a Wayland desktop the windows go through its X server.
   qputenv("QT_QPA_PLATFORM", "xcb");
+  // Nothing is kept between runs, no compiled shaders either.
+  QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
+  qputenv("MESA_SHADER_CACHE_DISABLE", "true");
   use_compatibility_contexts();
 }
 

@@ -94,8 +94,8 @@ void OverlayText::magnify(const std::string& text, double ratio) {
   ratio_ = ratio;
   width_ = qRound(picture.width() * ratio);
   height_ = qRound(picture.height() * ratio);
-  const int row_bytes = (width_ + byte_bits - 1) / byte_bits;
-  bits_.assign(static_cast<std::size_t>(row_bytes * height_), 0);
+  const auto row_bytes = static_cast<std::size_t>((width_ + byte_bits - 1) / byte_bits);
+  bits_.assign(row_bytes * static_cast<std::size_t>(height_), 0);
   const auto source = [ratio](int pixel, int size) {
     return std::min(static_cast<int>((pixel + 0.5) / ratio), size - 1);
   };
@@ -103,7 +103,8 @@ void OverlayText::magnify(const std::string& text, double ratio) {
     const int row = picture.height() - 1 - source(y, picture.height());
     for (int x = 0; x < width_; ++x) {
       if (qRed(picture.pixel(source(x, picture.width()), row)) != 0) {
-        bits_[static_cast<std::size_t>(y * row_bytes + x / byte_bits)] |=
+        const auto byte = static_cast<std::size_t>(x / byte_bits);
+        bits_[static_cast<std::size_t>(y) * row_bytes + byte] |=
             static_cast<std::uint8_t>(first_bit >> (x % byte_bits));
       }
     }

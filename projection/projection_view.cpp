@@ -146,9 +146,9 @@ void ProjectionView::printRect() {
   const QLineF tape = printedTape();
   const auto reaches_header = [](double top) { return top > page_picture.bottom(); };
   const bool is_clipped =
-      reaches_header(frame.bottom()) || std::ranges::any_of(squares, [&](const QRectF& square) {
-        return reaches_header(square.bottom());
-      });
+      reaches_header(frame.bottom()) || reaches_header(std::max(tape.y1(), tape.y2())) ||
+      std::ranges::any_of(squares,
+                          [&](const QRectF& square) { return reaches_header(square.bottom()); });
   if (is_clipped) {
     page_->save();
     page_->setClipRect(page_picture, Qt::IntersectClip);

@@ -1,5 +1,6 @@
 #include "tools/progress.h"
 
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -14,7 +15,14 @@ using Seconds = std::chrono::duration<double>;
 
 constexpr std::chrono::seconds line_period{10};
 constexpr std::chrono::milliseconds bar_period{200};
-constexpr int bar_width = 30;
+constexpr std::size_t widest_bar = 30;
+
+/// Columns of a terminal; 80 when it does not tell.
+std::size_t columns_of(std::FILE* terminal) {
+  winsize size{};
+  const bool told = ::ioctl(::fileno(terminal), TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+  return told ? size.ws_col : 80;
+}
 
 double fraction_of(std::uint64_t done, std::uint64_t total) {
   return total == 0 ? 1.0 : static_cast<double>(done) / static_cast<double>(total);
@@ -79,12 +87,18 @@ std::string Progress::state(Clock::time_point now) const {
 
 void Progress::draw_bar(Clock::time_point now) {
   const double fraction = std::min(fraction_of(done_, total_), 1.0);
-  const auto filled = static_cast<std::size_t>(fraction * bar_width);
-  std::string bar(filled, '#');
-  bar.resize(bar_width, '.');
+  std::array<char, 16> percent{};
+  std::snprintf(percent.data(), percent.size(), " %3.0f %%  ", std::floor(fraction * 100.0));
+  const std::string text = percent.data() + state(now);
+  // A line as wide as the terminal would go on in the next row, from which there is no way back.
+  const std::size_t room = columns_of(messages_) - 1;
+  const std::size_t brackets = 2;
+  const std::size_t taken = text.size() + brackets;
+  const std::size_t width = room > taken ? std::min(room - taken, widest_bar) : 0;
+  std::string bar(static_cast<std::size_t>(fraction * static_cast<double>(width)), '#');
+  bar.resize(width, '.');
   // The end of a longer line before is cleared.
-  std::fprintf(messages_, "\r[%s] %3.0f %%  %s\x1b[K", bar.c_str(), std::floor(fraction * 100.0),
-               state(now).c_str());
+  std::fprintf(messages_, "\r%s\x1b[K", ('[' + bar + ']' + text).substr(0, room).c_str());
   std::fflush(messages_);
 }
 

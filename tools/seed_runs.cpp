@@ -10,6 +10,7 @@
 #include <map>
 #include <string>
 
+#include "files/held_signals.h"
 #include "tools/event_output.h"
 #include "tools/event_run.h"
 #include "tools/partial_folder.h"
@@ -22,14 +23,16 @@ namespace {
 
 constexpr std::uint64_t counting_step = 64;
 
-/// Holds the signals that the run waits for, and gives workers the mask that was before.
+/// Holds the signals that the run waits for, and gives workers the mask that was before. Those that
+/// the process ignores, as under nohup, stay ignored.
 class WaitedSignals {
  public:
   WaitedSignals() {
-    ::sigemptyset(&waited_);
-    for (const int signal : {SIGCHLD, SIGINT, SIGTERM, SIGHUP}) {
-      ::sigaddset(&waited_, signal);
-    }
+    // A parent that ignores the end of its children never hears how they ended.
+    std::signal(SIGCHLD, SIG_DFL);
+    waited_ = ending_signals();
+    ::sigdelset(&waited_, SIGQUIT);
+    ::sigaddset(&waited_, SIGCHLD);
     ::sigprocmask(SIG_BLOCK, &waited_, &before_);
   }
   ~WaitedSignals() { restore(); }
@@ -64,7 +67,7 @@ class SeedRuns {
   int run() {
     std::uint64_t next = options_.seeds->first;
     while (true) {
-      for (; stopped_by_ == 0 && !unwritable_ && next <= options_.seeds->last &&
+      for (; stopped_by_ == 0 && !begins_no_more_ && next <= options_.seeds->last &&
              workers_.size() < options_.jobs;
            ++next) {
         start(static_cast<std::uint32_t>(next));
@@ -96,8 +99,8 @@ class SeedRuns {
   std::uint64_t complete_ = 0;
   std::uint64_t failed_ = 0;
   int stopped_by_ = 0;
-  /// A file could not be written, and the next ones are not tried.
-  bool unwritable_ = false;
+  /// A file could not be written or a worker not started, and the next seeds are not tried.
+  bool begins_no_more_ = false;
 };
 
 void SeedRuns::start(std::uint32_t seed) {
@@ -121,6 +124,7 @@ void SeedRuns::start(std::uint32_t seed) {
     std::fprintf(messages_, "velquon-events: cannot start a worker for seed %u: %s\n", seed,
                  std::strerror(errno));
     ++failed_;
+    begins_no_more_ = true;
     return;
   }
   workers_.emplace(worker, seed);
@@ -191,7 +195,7 @@ void SeedRuns::tell_end_of(std::uint32_t seed, int status) {
   }
   ++failed_;
   if (!WIFSIGNALED(status)) {
-    unwritable_ = true;  // it has said itself what went wrong
+    begins_no_more_ = true;  // it has said itself what went wrong
     return;
   }
   if (options_.format == EventFormat::cwd) {

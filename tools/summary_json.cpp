@@ -1,6 +1,7 @@
 // The JSON form of a summary.
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
@@ -20,6 +21,16 @@ constexpr std::uint64_t format_version = 1;
 struct Unfit : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
+
+int pdg_number(const std::string& text) {
+  int number = 0;
+  const char* const end = text.data() + text.size();
+  const auto [rest, error] = std::from_chars(text.data(), end, number);
+  if (error != std::errc() || rest != end) {
+    throw Unfit("'" + text + "' is no particle's number");
+  }
+  return number;
+}
 
 std::uint64_t count_in(const Json& object, const char* key) {
   const Json& value = object.at(key);
@@ -107,7 +118,8 @@ Summary summary_in(const Json& object) {
   summary.not_handed_over = count_in(object, "not_handed_over");
   summary.points = sums_in(object, "points");
   for (const auto& [number, sums] : object.at("particles").items()) {
-    summary.particles[std::stoi(number)] = particle_sums_in(sums);
+    const int pdg = pdg_number(number);
+    summary.particles[pdg] = particle_sums_in(sums);
   }
   return summary;
 }

@@ -34,14 +34,23 @@ std::chrono::milliseconds milliseconds_of(double seconds) {
 
 NewTrackView::NewTrackView(QWidget* parent) : GLView(parent), clock_(Microseconds) {
   // A new framebuffer is empty, also one of the same size in view units on another screen.
-  connect(this, &QOpenGLWidget::resized, this, [this] { picture_lost_ = true; });
+  connect(this, &QOpenGLWidget::resized, this, [this] {
+    picture_lost_ = true;
+    makeCursors();
+    resetCursorRects();
+  });
 }
 
 NewTrackView::~NewTrackView() = default;
 
 void NewTrackView::awakeFromNib() {
-  cross_hair_cursor_ = cursor_named(QStringLiteral("crosshairs"), hot_spot);
-  black_hair_cursor_ = cursor_named(QStringLiteral("black_crosshairs"), hot_spot);
+  makeCursors();
+}
+
+void NewTrackView::makeCursors() {
+  const double ratio = devicePixelRatioF();
+  cross_hair_cursor_ = cursor_named(QStringLiteral("crosshairs"), hot_spot, ratio);
+  black_hair_cursor_ = cursor_named(QStringLiteral("black_crosshairs"), hot_spot, ratio);
 }
 
 void NewTrackView::setCharge(float charge) {

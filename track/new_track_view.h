@@ -115,6 +115,7 @@ class NewTrackView : public GLView {
   void redrawForStep();
   void notePictureLost();
   void clearColorBuffer();
+  void makeCursors();
   void resetCursorRects();
   void drawTrack() const;
   void drawTape();

@@ -249,6 +249,15 @@ TEST_F(ProjectionPageTest, LeavesItsHeaderFreeOfAPointFarOutsideTheChamber) {
   EXPECT_EQ(ink_in(page, on_a4(0, 662, 500, 12)), 0);
 }
 
+TEST_F(ProjectionPageTest, LeavesItsHeaderFreeOfATapeThatEndsFarAboveTheView) {
+  openEvent({point_at(0, 0, 0, 3)});
+  drag(projection(), {420, 400}, {420, -250});
+  ASSERT_TRUE(projection().tape_visible());
+  const QImage page = printedPicture();
+  EXPECT_EQ(ink_in(page, on_a4(350, 641, 150, 79)), 0);
+  EXPECT_GT(ink_in(page, on_a4(436, 600, 8, 38)), 0) << "the tape up to the header";
+}
+
 TEST_F(ProjectionPageTest, HoldsNothingBeyondItsEdges) {
   openEvent({point_at(0, 0, 0, 3)});
   clickButton("grab_tool");

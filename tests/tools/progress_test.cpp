@@ -63,15 +63,23 @@ TEST(ProgressOnATerminal, IsOneLineThatIsDrawnAnew) {
   EXPECT_EQ(told.text(), "");
   told.show(500, milliseconds(500));
   EXPECT_EQ(told.text(),
-            "\r[###############...............]  50 %  500 of 1000 events, 1000 a second, 0:01 "
+            "\r[############.............]  50 %  500 of 1000 events, 1000 a second, 0:01 "
             "left\x1b[K");
   told.show(600, milliseconds(600));
   EXPECT_EQ(told.text(), "");
   told.show(1000, milliseconds(650));
   told.end(seconds(1));
   EXPECT_EQ(told.text(),
-            "\r[##############################] 100 %  1000 of 1000 events, 1000 a second, 0:00 "
+            "\r[########################] 100 %  1000 of 1000 events, 1000 a second, 0:00 "
             "left\x1b[K\n");
+}
+
+TEST(ProgressOnATerminal, LeavesItsRowForNoNumberOfEvents) {
+  Told told(4'000'000'000'000, true);
+  told.show(1'234'567'890'123, seconds(1000));
+  const std::string line = told.text();
+  EXPECT_EQ(line.find("\r["), 0U);
+  EXPECT_LE(line.find("\x1b[K"), 80U) << line;
 }
 
 TEST(ProgressTimes, HaveHoursWhereThereAreSome) {

@@ -255,6 +255,21 @@ TEST(SeedRuns, AKilledWorkerLeavesNoFolderOfEventFiles) {
   expect_others_to_finish(folder, long_run(folder, "cwd", "1-2", some_event_files), {"seed-2"});
 }
 
+TEST(SeedRuns, AreNotDisturbedByWhatTheirParentIgnores) {
+  const TemporaryFolder folder;
+  const TemporaryFolder other;
+  std::signal(SIGCHLD, SIG_IGN);
+  std::signal(SIGHUP, SIG_IGN);
+  const RunningTool tool(long_run(folder, "summary", "1-3", "20000"), other.path() / "messages");
+  std::signal(SIGCHLD, SIG_DFL);
+  std::signal(SIGHUP, SIG_DFL);
+  ASSERT_EQ(tool.wait_for_workers(2).size(), 2U);
+  ::kill(tool.process(), SIGHUP);
+  EXPECT_EQ(tool.status(), 0);
+  EXPECT_EQ(testing::file_text(other.path() / "messages"), "");
+  EXPECT_EQ(folder.names().size(), 3U);
+}
+
 TEST(SeedRuns, AnInterruptEndsAllWorkersAndLeavesOnlyWholeFiles) {
   for (const int signal : {SIGINT, SIGTERM}) {
     for (const char* format : {"summary", "cwd"}) {

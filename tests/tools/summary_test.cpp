@@ -166,6 +166,8 @@ TEST(AddedSummaries, RefuseWhatIsNoneByNameAndReason) {
       {changed("\"events\": 300", "\"events\": -3"), "'events' is no count"},
       {changed("\"without_points\": ", "\"without_points\": \"x\", \"y\": "),
        "'without_points' is no count"},
+      {changed("\"particles\": {", "\"particles\": {\"13abc\": {}, "),
+       "'13abc' is no particle's number"},
       {changed("\"side_cm\": 300.0", "\"side_cm\": null"), "'side_cm' is no number"},
       {changed("\"side_cm\": 300.0", "\"side_cm\": 301.0"),
        "its events are of another type or made under other values"},
