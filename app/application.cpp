@@ -4,16 +4,16 @@
 #include <QOpenGLContext>
 
 #include "app/chamber_controller.h"
-#include "app/chamber_window.h"
+#include "chamber/chamber_window.h"
 #include "app/choices.h"
 #include "app/event_documents.h"
 #include "app/guide_window.h"
 #include "app/menus.h"
-#include "app/projector_window.h"
-#include "app/track_window.h"
+#include "projection/projector_window.h"
+#include "track/track_window.h"
 #include "chamber/chamber_view.h"
-#include "platform/readable_style.h"
-#include "platform/screen_room.h"
+#include "app/readable_style.h"
+#include "widgets/screen_room.h"
 #include "projection/projection_view.h"
 #include "ui_menus.h"
 

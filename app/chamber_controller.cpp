@@ -9,14 +9,14 @@
 
 #include "app/choices.h"
 #include "app/command_line.h"
-#include "app/gl_panel.h"
-#include "app/print_panel.h"
-#include "app/print_view.h"
+#include "widgets/gl_panel.h"
+#include "printing/print_panel.h"
+#include "printing/print_view.h"
 #include "chamber/chamber_view.h"
 #include "events/lambda_decay.h"
 #include "events/lepton_decays.h"
 #include "events/neutral_pion_decay.h"
-#include "platform/view_scroll_area.h"
+#include "widgets/view_scroll_area.h"
 #include "projection/projection_view.h"
 #include "ui_menus.h"
 

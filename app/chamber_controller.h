@@ -5,7 +5,7 @@
 #include <memory>
 #include <span>
 
-#include "app/chamber_settings.h"
+#include "chamber/chamber_settings.h"
 #include "engine/event_record.h"
 #include "events/event_types.h"
 

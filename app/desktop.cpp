@@ -7,8 +7,8 @@
 #include <array>
 #include <clocale>
 
-#include "platform/accessible_value_slider.h"
-#include "platform/surface_format.h"
+#include "widgets/accessible_value_slider.h"
+#include "widgets/surface_format.h"
 
 namespace velquon {
 

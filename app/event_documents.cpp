@@ -9,7 +9,7 @@
 #include <sys/stat.h>
 
 #include "app/chamber_controller.h"
-#include "app/user_dialogs.h"
+#include "widgets/user_dialogs.h"
 #include "app/whole_file.h"
 #include "chamber/chamber_view.h"
 

@@ -4,8 +4,8 @@
 #include <QMainWindow>
 #include <QMenuBar>
 
-#include "platform/held_keys.h"
-#include "platform/palette_icon.h"
+#include "app/held_keys.h"
+#include "widgets/palette_icon.h"
 #include "ui_menus.h"
 
 namespace velquon {

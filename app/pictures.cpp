@@ -13,12 +13,12 @@
 #include <optional>
 
 #include "app/application.h"
-#include "app/chamber_window.h"
+#include "chamber/chamber_window.h"
 #include "app/command_line.h"
 #include "app/menus.h"
-#include "app/projector_window.h"
+#include "projection/projector_window.h"
 #include "app/whole_file.h"
-#include "chamber/chamber_scene.h"
+#include "render/chamber_scene.h"
 #include "chamber/chamber_view.h"
 #include "events/event_types.h"
 #include "projection/projection_view.h"

@@ -5,7 +5,7 @@
 
 #include "app/command_line.h"
 #include "app/event_documents.h"
-#include "app/user_dialogs.h"
+#include "widgets/user_dialogs.h"
 
 namespace velquon {
 

@@ -15,9 +15,9 @@
 
 #include "bench/requirement.h"
 #include "bench/tracks.h"
-#include "chamber/chamber_scene.h"
-#include "chamber/cube_array.h"
-#include "platform/surface_format.h"
+#include "render/chamber_scene.h"
+#include "render/cube_array.h"
+#include "widgets/surface_format.h"
 
 namespace velquon::bench {
 

@@ -12,11 +12,11 @@
 #include <cstdio>
 
 #include "app/application.h"
-#include "app/chamber_window.h"
+#include "chamber/chamber_window.h"
 #include "app/desktop.h"
 #include "app/menus.h"
-#include "app/projector_window.h"
-#include "app/user_dialogs.h"
+#include "projection/projector_window.h"
+#include "widgets/user_dialogs.h"
 #include "app/x_display.h"
 #include "bench/event_loop.h"
 #include "bench/processor_time.h"

@@ -5,9 +5,9 @@
 #include <QPainter>
 #include <cstdio>
 
-#include "chamber/chamber_scene.h"
+#include "render/chamber_scene.h"
 #include "chamber/chamber_view.h"
-#include "chamber/feedback.h"
+#include "render/feedback.h"
 
 namespace velquon {
 

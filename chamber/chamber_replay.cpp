@@ -3,8 +3,8 @@
 #include <QWindow>
 
 #include "chamber/chamber_view.h"
-#include "platform/delayed_message.h"
-#include "platform/input_watch.h"
+#include "widgets/delayed_message.h"
+#include "chamber/input_watch.h"
 
 namespace velquon {
 

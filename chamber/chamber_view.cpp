@@ -7,10 +7,10 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "chamber/chamber_scene.h"
-#include "platform/clock.h"
-#include "platform/input_watch.h"
-#include "platform/page.h"
+#include "render/chamber_scene.h"
+#include "model/clock.h"
+#include "chamber/input_watch.h"
+#include "printing/page.h"
 
 namespace velquon {
 

@@ -8,15 +8,15 @@
 #include <string>
 #include <vector>
 
-#include "chamber/cube_array.h"
-#include "chamber/overlay_text.h"
+#include "render/cube_array.h"
+#include "render/overlay_text.h"
 #include "engine/chamber_values.h"
 #include "engine/event_record.h"
-#include "platform/clock.h"
-#include "platform/gl_view.h"
-#include "platform/late_input.h"
-#include "platform/page.h"
-#include "platform/step_pace.h"
+#include "model/clock.h"
+#include "widgets/gl_view.h"
+#include "chamber/late_input.h"
+#include "printing/page.h"
+#include "model/step_pace.h"
 
 class QAction;
 class QPainter;

@@ -1,7 +1,6 @@
 # Compiler settings that every target of this project links PRIVATE.
 
 add_library(project_options INTERFACE)
-target_include_directories(project_options INTERFACE ${PROJECT_SOURCE_DIR})
 
 target_compile_options(project_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wdouble-promotion
@@ -66,5 +65,6 @@ target_link_libraries(qt_options INTERFACE
 
 # Tests spend their time in the libraries that they test, not in their own code.
 add_library(test_options INTERFACE)
+target_include_directories(test_options INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(test_options INTERFACE $<$<CONFIG:Release,RelWithDebInfo>:-O1>)
 target_link_libraries(test_options INTERFACE project_options)

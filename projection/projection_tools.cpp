@@ -5,8 +5,8 @@
 #include <QMouseEvent>
 #include <cmath>
 
-#include "platform/cursors.h"
-#include "platform/number_text.h"
+#include "widgets/cursors.h"
+#include "widgets/number_text.h"
 #include "projection/projection_view.h"
 
 namespace velquon {

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "engine/event_record.h"
-#include "platform/gl_view.h"
-#include "platform/page.h"
-#include "projection/projection_mapping.h"
+#include "widgets/gl_view.h"
+#include "printing/page.h"
+#include "model/projection_mapping.h"
 
 class QAbstractButton;
 class QLabel;

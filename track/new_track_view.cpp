@@ -8,9 +8,9 @@
 #include <chrono>
 #include <cmath>
 
-#include "platform/clock.h"
-#include "platform/cursors.h"
-#include "platform/value_slider.h"
+#include "model/clock.h"
+#include "widgets/cursors.h"
+#include "widgets/value_slider.h"
 #include "track/track_controller.h"
 
 namespace velquon {

@@ -6,9 +6,9 @@
 #include <functional>
 #include <memory>
 
-#include "platform/gl_view.h"
-#include "platform/step_pace.h"
-#include "track/track_simulation.h"
+#include "widgets/gl_view.h"
+#include "model/step_pace.h"
+#include "model/track_simulation.h"
 
 class QAction;
 class QLabel;

@@ -6,8 +6,8 @@
 #include <initializer_list>
 #include <utility>
 
-#include "platform/value_slider.h"
-#include "platform/window_order.h"
+#include "widgets/value_slider.h"
+#include "widgets/window_order.h"
 #include "track/new_track_view.h"
 
 namespace velquon {

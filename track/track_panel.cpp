@@ -2,7 +2,7 @@
 
 #include <QAction>
 
-#include "platform/number_text.h"
+#include "widgets/number_text.h"
 #include "track/new_track_view.h"
 #include "ui_track_window.h"
 

@@ -6,7 +6,7 @@
 #include <QMouseEvent>
 #include <cmath>
 
-#include "platform/number_text.h"
+#include "widgets/number_text.h"
 #include "track/new_track_view.h"
 
 namespace velquon {

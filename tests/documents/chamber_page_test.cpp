@@ -6,7 +6,7 @@
 
 #include "gui/support/matrices.h"
 #include "gui/support/waiting.h"
-#include "platform/view_scroll_area.h"
+#include "widgets/view_scroll_area.h"
 #include "support/documents_fixture.h"
 #include "support/event_bytes.h"
 #include "support/printing.h"

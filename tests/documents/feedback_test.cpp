@@ -9,7 +9,7 @@
 #include <limits>
 #include <vector>
 
-#include "chamber/feedback.h"
+#include "render/feedback.h"
 #include "support/event_bytes.h"
 #include "support/other_program.h"
 #include "support/pdf_page.h"

@@ -11,7 +11,7 @@
 #include <set>
 
 #include "gui/support/waiting.h"
-#include "platform/cursors.h"
+#include "widgets/cursors.h"
 #include "support/environment.h"
 #include "support/other_program.h"
 

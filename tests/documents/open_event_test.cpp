@@ -5,7 +5,7 @@
 
 #include "gui/support/pictures.h"
 #include "gui/support/waiting.h"
-#include "platform/value_slider.h"
+#include "widgets/value_slider.h"
 #include "support/documents_fixture.h"
 #include "support/event_bytes.h"
 

@@ -1,6 +1,6 @@
 #include <QLabel>
 
-#include "platform/value_slider.h"
+#include "widgets/value_slider.h"
 #include "support/documents_fixture.h"
 #include "support/event_bytes.h"
 

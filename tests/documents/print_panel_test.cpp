@@ -1,4 +1,4 @@
-#include "app/print_panel.h"
+#include "printing/print_panel.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -11,7 +11,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "app/page_preview.h"
+#include "printing/page_preview.h"
 #include "gui/support/waiting.h"
 #include "support/documents_fixture.h"
 #include "support/event_bytes.h"

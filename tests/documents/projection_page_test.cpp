@@ -5,7 +5,7 @@
 
 #include "gui/support/input.h"
 #include "gui/support/waiting.h"
-#include "platform/view_scroll_area.h"
+#include "widgets/view_scroll_area.h"
 #include "support/documents_fixture.h"
 #include "support/event_bytes.h"
 #include "support/printing.h"

@@ -1,7 +1,7 @@
 #include <QAction>
 #include <array>
 
-#include "platform/value_slider.h"
+#include "widgets/value_slider.h"
 #include "support/documents_fixture.h"
 #include "support/event_bytes.h"
 #include "support/printing.h"

@@ -6,7 +6,7 @@
 #include <array>
 
 #include "app/start_file.h"
-#include "app/track_window.h"
+#include "track/track_window.h"
 #include "gui/support/pictures.h"
 #include "gui/support/waiting.h"
 #include "support/documents_fixture.h"

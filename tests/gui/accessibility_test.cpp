@@ -10,7 +10,7 @@
 #include <QToolButton>
 #include <cmath>
 
-#include "platform/value_slider.h"
+#include "widgets/value_slider.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <random>
 
-#include "platform/clock.h"
+#include "model/clock.h"
 
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/matrices.h"

@@ -9,8 +9,8 @@
 #include <cmath>
 #include <limits>
 
-#include "platform/value_label.h"
-#include "platform/value_slider.h"
+#include "widgets/value_label.h"
+#include "widgets/value_slider.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/waiting.h"
 

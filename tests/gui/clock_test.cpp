@@ -1,6 +1,6 @@
 // The wait of the replay, by a clock that is moved by hand.
 
-#include "platform/clock.h"
+#include "model/clock.h"
 
 #include <gtest/gtest.h>
 

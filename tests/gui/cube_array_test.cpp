@@ -5,7 +5,7 @@
 #include <QOpenGLFramebufferObject>
 #include <random>
 
-#include "chamber/chamber_scene.h"
+#include "render/chamber_scene.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/pictures.h"
 #include "tests/gui/support/waiting.h"

@@ -7,8 +7,8 @@
 #include <QStyle>
 #include <QToolBar>
 
-#include "platform/contrast.h"
-#include "platform/value_slider.h"
+#include "widgets/contrast.h"
+#include "widgets/value_slider.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/waiting.h"
 

@@ -1,6 +1,6 @@
 // When a view draws and when its picture comes to the screen.
 
-#include "platform/gl_view.h"
+#include "widgets/gl_view.h"
 
 #include <GL/gl.h>
 #include <gtest/gtest.h>

@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QTest>
 
-#include "platform/cursors.h"
+#include "widgets/cursors.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
 #include "tests/gui/support/pictures.h"

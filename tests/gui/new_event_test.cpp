@@ -11,7 +11,7 @@
 #include <cstdlib>
 
 #include "events/event_types.h"
-#include "platform/value_slider.h"
+#include "widgets/value_slider.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/matrices.h"
 #include "tests/gui/support/pictures.h"

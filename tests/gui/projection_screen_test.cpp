@@ -4,7 +4,7 @@
 #include <QScrollBar>
 #include <QTest>
 
-#include "platform/view_scroll_area.h"
+#include "widgets/view_scroll_area.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
 #include "tests/gui/support/pictures.h"

@@ -5,8 +5,8 @@
 
 #include <QOpenGLFramebufferObject>
 
-#include "chamber/chamber_scene.h"
-#include "chamber/overlay_text.h"
+#include "render/chamber_scene.h"
+#include "render/overlay_text.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/matrices.h"
 #include "tests/gui/support/pictures.h"

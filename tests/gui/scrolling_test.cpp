@@ -3,7 +3,7 @@
 #include <QAbstractScrollArea>
 #include <QScrollBar>
 
-#include "platform/view_scroll_area.h"
+#include "widgets/view_scroll_area.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
 #include "tests/gui/support/matrices.h"

@@ -7,7 +7,7 @@
 #include <QTest>
 #include <cmath>
 
-#include "platform/value_slider.h"
+#include "widgets/value_slider.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
 #include "tests/gui/support/waiting.h"

@@ -11,8 +11,8 @@
 #include <QWindow>
 #include <array>
 
-#include "app/track_window.h"
-#include "platform/view_scroll_area.h"
+#include "track/track_window.h"
+#include "widgets/view_scroll_area.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/waiting.h"
 

@@ -9,7 +9,7 @@
 
 #include "app/event_documents.h"
 #include "files/event_file.h"
-#include "platform/value_label.h"
+#include "widgets/value_label.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
 #include "tests/gui/support/pictures.h"

@@ -9,7 +9,7 @@
 #include <QToolBar>
 #include <csignal>
 
-#include "app/track_window.h"
+#include "track/track_window.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/pictures.h"
 #include "tests/gui/support/waiting.h"

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <clocale>
 
-#include "platform/surface_format.h"
+#include "widgets/surface_format.h"
 #include "tests/support/leaks.h"
 
 int main(int argc, char** argv) {

@@ -1,4 +1,4 @@
-#include "platform/step_pace.h"
+#include "model/step_pace.h"
 
 #include <gtest/gtest.h>
 

@@ -9,7 +9,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/value_slider.h"
+#include "widgets/value_slider.h"
 #include "track/new_track_view.h"
 #include "track/track_controller.h"
 #include "track/track_panel.h"

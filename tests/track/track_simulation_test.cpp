@@ -1,4 +1,4 @@
-#include "track/track_simulation.h"
+#include "model/track_simulation.h"
 
 #include <gtest/gtest.h>
 

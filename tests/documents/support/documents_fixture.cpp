@@ -6,7 +6,7 @@
 #include <array>
 
 #include "gui/support/pictures.h"
-#include "platform/value_slider.h"
+#include "widgets/value_slider.h"
 
 namespace velquon::test {
 

@@ -7,7 +7,7 @@
 #include <QPdfWriter>
 #include <cmath>
 
-#include "app/print_view.h"
+#include "printing/print_view.h"
 #include "chamber/chamber_view.h"
 
 namespace velquon::test {

@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-#include "app/user_dialogs.h"
+#include "widgets/user_dialogs.h"
 
 namespace velquon::test {
 

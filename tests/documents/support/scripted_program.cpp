@@ -9,10 +9,10 @@
 
 #include "app/application.h"
 #include "app/chamber_controller.h"
-#include "app/chamber_window.h"
+#include "chamber/chamber_window.h"
 #include "app/desktop.h"
 #include "app/event_documents.h"
-#include "app/projector_window.h"
+#include "projection/projector_window.h"
 #include "chamber/chamber_view.h"
 #include "projection/projection_view.h"
 #include "support/event_bytes.h"

@@ -13,9 +13,9 @@
 
 #include "app/application.h"
 #include "app/chamber_controller.h"
-#include "app/chamber_window.h"
-#include "app/projector_window.h"
-#include "app/user_dialogs.h"
+#include "chamber/chamber_window.h"
+#include "projection/projector_window.h"
+#include "widgets/user_dialogs.h"
 #include "chamber/chamber_view.h"
 #include "engine/event_record.h"
 #include "projection/projection_view.h"

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "platform/gl_view.h"
+#include "widgets/gl_view.h"
 
 namespace velquon::test {
 

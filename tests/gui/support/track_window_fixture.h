@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/track_window.h"
+#include "track/track_window.h"
 #include "tests/gui/support/application_fixture.h"
 #include "track/new_track_view.h"
 

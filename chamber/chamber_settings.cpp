@@ -1,0 +1,125 @@
+#include "chamber/chamber_settings.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <array>
+#include <cmath>
+#include <cstddef>
+
+#include "widgets/number_text.h"
+#include "widgets/value_slider.h"
+
+namespace velquon {
+
+namespace {
+
+// Bounds of the energy ranges in MeV: range i reaches from entry i + 1 up to entry i.
+constexpr std::array<float, 8> evalues{10000.0F, 1000.0F, 100.0F, 10.0F, 1.0F, 0.1F, 0.01F, 0.0F};
+constexpr std::size_t last_range = evalues.size() - 2;
+
+// The ticks stand at 1, 2 ... 10 times the lower end of a range, in the range from 0 at 0, 1 ... 10
+// tenths of its upper end.
+constexpr int ticks_of_a_decade = 10;
+constexpr int ticks_from_zero = 11;
+
+// A label shows the nearest tick when the value is closer than that: a share of the energy's
+// greatest value, and the same number of kG and of metres.
+constexpr double energy_tolerance_share = 0.004;
+constexpr double tick_tolerance = 0.0065;
+
+struct EnergyPrecision {
+  double below;  ///< MeV
+  int decimals;
+};
+constexpr std::array<EnergyPrecision, 4> energy_precisions{
+    {{0.1, 4}, {10.0, 3}, {100.0, 2}, {HUGE_VAL, 1}}};
+
+double snapped_value(const ValueSlider& slider, double tolerance) {
+  const double value = slider.doubleValue();
+  const double tick = slider.closestTickMarkValueToValue(value);
+  return std::fabs(tick - value) < tolerance ? tick : value;
+}
+
+int energy_decimals(double energy_MeV) {
+  for (const auto& [below, decimals] : energy_precisions) {
+    if (energy_MeV < below) {
+      return decimals;
+    }
+  }
+  return energy_precisions.back().decimals;
+}
+
+void show_value(QLabel& label, const QString& text, double value, int decimals) {
+  constexpr int width = 5;
+  label.setText(text.arg(fixed_text(value, width, decimals)));
+}
+
+}  // namespace
+
+ChamberSettings::ChamberSettings(const ChamberSettingsOutlets& outlets) : outlets_(outlets) {
+  QObject::connect(outlets_.efactor_popup, &QComboBox::currentIndexChanged, outlets_.efactor_popup,
+                   [this] { reset_energy_range(outlets_.efactor_popup); });
+  QObject::connect(outlets_.energy_slider, &ValueSlider::moved, outlets_.energy_slider,
+                   [this] { reset_energy(outlets_.energy_slider); });
+  QObject::connect(outlets_.magfield_slider, &ValueSlider::moved, outlets_.magfield_slider,
+                   [this] { reset_field(outlets_.magfield_slider); });
+  QObject::connect(outlets_.size_slider, &ValueSlider::moved, outlets_.size_slider,
+                   [this] { reset_sides(outlets_.size_slider); });
+}
+
+void ChamberSettings::setEnergyControl(float energy_MeV) {
+  setEnergyRange(energy_MeV);
+  outlets_.energy_slider->setFloatValue(energy_MeV);
+  reset_energy(outlets_.energy_slider);
+}
+
+void ChamberSettings::setEnergyRange(float energy_MeV) {
+  std::size_t range = 0;
+  while (range < last_range && evalues[range + 1] > energy_MeV) {
+    ++range;
+  }
+  outlets_.efactor_popup->setCurrentIndex(static_cast<int>(range));
+  reset_energy_range(outlets_.efactor_popup);
+}
+
+void ChamberSettings::reset_energy_range(const QComboBox* sender) {
+  const auto range = static_cast<std::size_t>(sender->currentIndex());
+  outlets_.energy_slider->setTickMarks(range == last_range ? ticks_from_zero : ticks_of_a_decade);
+  outlets_.energy_slider->setMinValue(static_cast<double>(evalues.at(range + 1)));
+  outlets_.energy_slider->setMaxValue(static_cast<double>(evalues.at(range)));
+  reset_energy(outlets_.energy_slider);
+}
+
+void ChamberSettings::reset_energy(const ValueSlider* sender) {
+  const double shown = snapped_value(*sender, energy_tolerance_share * sender->maxValue());
+  show_value(*outlets_.kinetic_energy_text, QStringLiteral("T = %1 MeV"), shown,
+             energy_decimals(shown));
+}
+
+void ChamberSettings::setFieldControl(float field_kG) {
+  outlets_.magfield_slider->setFloatValue(field_kG);
+  reset_field(outlets_.magfield_slider);
+}
+
+void ChamberSettings::reset_field(const ValueSlider* sender) {
+  show_value(*outlets_.magfield_text, QStringLiteral("B = %1 kG"),
+             snapped_value(*sender, tick_tolerance), 3);
+}
+
+void ChamberSettings::setSidesControl(float side_cm) {
+  outlets_.size_slider->setFloatValue(metres_from_cm(side_cm));
+  reset_sides(outlets_.size_slider);
+}
+
+void ChamberSettings::reset_sides(const ValueSlider* sender) {
+  show_value(*outlets_.sides_text, QStringLiteral("L = %1 m"),
+             snapped_value(*sender, tick_tolerance), 3);
+}
+
+void ChamberSettings::setNextChamberValues() {
+  setNextBField(outlets_.magfield_slider->floatValue());
+  setNextMev(outlets_.energy_slider->floatValue());
+  setNextSidesCm(cm_from_metres(outlets_.size_slider->floatValue()));
+}
+
+}  // namespace velquon

@@ -1,0 +1,120 @@
+#include "widgets/gl_view.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QMouseEvent>
+#include <QScreen>
+#include <algorithm>
+#include <cmath>
+
+#include "widgets/delayed_message.h"
+
+namespace velquon {
+
+GLView::GLView(QWidget* parent) : QOpenGLWidget(parent) {
+  setUpdateBehavior(QOpenGLWidget::PartialUpdate);
+  present_soon_.setSingleShot(true);
+  present_soon_.setTimerType(Qt::PreciseTimer);
+  connect(&present_soon_, &QTimer::timeout, this, &GLView::present);
+  // On a screen with another ratio of pixels the view gets an empty framebuffer and no `resizeGL`.
+  connect(this, &QOpenGLWidget::resized, this, [this] {
+    stale_ = true;
+    update();
+  });
+}
+
+void GLView::display() {
+  if (!isValid() || !isVisible()) {
+    stale_ = true;
+    update();
+    return;
+  }
+  makeCurrent();
+  runDrawingPass();
+  present();
+}
+
+void GLView::displaySoon() {
+  stale_ = true;
+  if (display_pending_) {
+    return;
+  }
+  display_pending_ = true;
+  perform_after(secondsToNextFrame(), this, [this] {
+    display_pending_ = false;
+    if (stale_) {
+      display();
+    }
+  });
+}
+
+void GLView::drawAndPresentSoon() {
+  if (!isValid() || !isVisible() || secondsToNextFrame() <= 0.0) {
+    display();
+    return;
+  }
+  makeCurrent();
+  runDrawingPass();
+  if (!present_soon_.isActive()) {
+    // The pass may have taken longer than a frame.
+    present_soon_.start(static_cast<int>(std::ceil(std::max(secondsToNextFrame(), 0.0) * 1000.0)));
+  }
+}
+
+QRectF GLView::visibleRect() const {
+  return {visible_origin_, QSizeF(size())};
+}
+
+bool GLView::makeContextCurrent() {
+  if (!isValid()) {
+    return false;
+  }
+  makeCurrent();
+  return true;
+}
+
+QPointF GLView::locationOf(const QMouseEvent& event) const {
+  const QPointF place = event.position();
+  return visible_origin_ + QPointF(place.x(), height() - place.y());
+}
+
+void GLView::initializeGL() {
+  stale_ = true;
+}
+
+void GLView::resizeGL(int /*width*/, int /*height*/) {
+  stale_ = true;
+  reshape();
+}
+
+void GLView::paintGL() {
+  if (stale_) {
+    runDrawingPass();
+  }
+}
+
+void GLView::runDrawingPass() {
+  stale_ = false;
+  ++passes_;
+  drawRect();
+}
+
+double GLView::secondsToNextFrame() const {
+  if (!since_presented_.isValid()) {
+    return 0.0;
+  }
+  const double frame = 1.0 / std::max(screen()->refreshRate(), 1.0);
+  return frame - static_cast<double>(since_presented_.nsecsElapsed()) * 1e-9;
+}
+
+void GLView::present() {
+  // Qt holds a repaint to the screen's refresh rate; sending the request that it would post gets
+  // the picture out now.
+  present_soon_.stop();
+  since_presented_.start();
+  update();
+  QEvent request(QEvent::UpdateRequest);
+  QCoreApplication::sendEvent(window(), &request);
+}
+
+}  // namespace velquon

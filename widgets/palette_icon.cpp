@@ -1,0 +1,54 @@
+#include "widgets/palette_icon.h"
+
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
+
+#include "widgets/contrast.h"
+
+namespace velquon {
+
+namespace {
+
+class PaletteIconEngine : public QIconEngine {
+ public:
+  explicit PaletteIconEngine(const QString& name)
+      : dark_(QStringLiteral(":/icons/%1.png").arg(name)),
+        light_(QStringLiteral(":/icons/light/%1.png").arg(name)) {}
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
+    lines().paint(painter, rect, Qt::AlignCenter, mode, state);
+  }
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    constexpr qreal size_is_in_pixels = 1.0;
+    return lines().pixmap(size, size_is_in_pixels, mode, state);
+  }
+  QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    return dark_.actualSize(size, mode, state);
+  }
+  QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) override {
+    return dark_.availableSizes(mode, state);
+  }
+  [[nodiscard]] QIconEngine* clone() const override { return new PaletteIconEngine(*this); }
+
+ private:
+  PaletteIconEngine(const PaletteIconEngine&) = default;
+
+  /// The icon whose lines can be seen on the buttons of now.
+  [[nodiscard]] const QIcon& lines() const {
+    const QColor button = QGuiApplication::palette().color(QPalette::Button);
+    return contrast(Qt::black, button) >= contrast(Qt::white, button) ? dark_ : light_;
+  }
+
+  QIcon dark_;
+  QIcon light_;
+};
+
+}  // namespace
+
+QIcon palette_icon(const QString& name) {
+  return QIcon(new PaletteIconEngine(name));
+}
+
+}  // namespace velquon

@@ -1,0 +1,23 @@
+#include "widgets/scrolling_content.h"
+
+namespace velquon {
+
+ScrollingContent::ScrollingContent(QWidget* content) {
+  setFrameShape(QFrame::NoFrame);
+  setWidgetResizable(true);
+  // The keys go to what is in it; a control that gets them is scrolled into sight.
+  setFocusPolicy(Qt::NoFocus);
+  setWidget(content);
+}
+
+QSize ScrollingContent::sizeHint() const {
+  return widget()->sizeHint();
+}
+
+QSize ScrollingContent::minimumSizeHint() const {
+  // With menus, tool bar and frame that is still within any screen.
+  constexpr QSize small_enough(400, 240);
+  return widget()->minimumSizeHint().boundedTo(small_enough);
+}
+
+}  // namespace velquon

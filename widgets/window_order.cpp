@@ -1,0 +1,14 @@
+#include "widgets/window_order.h"
+
+#include <QWidget>
+
+namespace velquon {
+
+void bring_to_front(QWidget& window) {
+  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+  window.show();
+  window.raise();
+  window.activateWindow();
+}
+
+}  // namespace velquon
