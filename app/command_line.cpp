@@ -6,6 +6,8 @@
 #include <array>
 #include <string_view>
 
+#include "files/one_line.h"
+
 namespace velquon {
 
 namespace {
@@ -74,10 +76,8 @@ ToldApart tell_apart(const QStringList& arguments) {
 
 }  // namespace
 
-QString as_one_line(QString text) {
-  std::ranges::replace_if(
-      text, [](QChar c) { return c.category() == QChar::Other_Control; }, QLatin1Char('?'));
-  return text;
+QString as_one_line(const QString& text) {
+  return QString::fromStdString(as_one_line(text.toStdString()));
 }
 
 ParsedCommandLine parse_command_line(const QStringList& arguments) {

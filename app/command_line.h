@@ -23,9 +23,8 @@ struct ParsedCommandLine {
   int status = 0;
 };
 
-/// The text with a question mark for every control character: what a terminal can show as one line
-/// of a name that may hold anything.
-[[nodiscard]] QString as_one_line(QString text);
+/// The text with a question mark for every control character.
+[[nodiscard]] QString as_one_line(const QString& text);
 
 /// Reads the command line. Needs no application object. Options that Qt takes, with one dash or
 /// two, are left to it.

@@ -10,7 +10,7 @@
 
 #include "app/chamber_controller.h"
 #include "widgets/user_dialogs.h"
-#include "app/whole_file.h"
+#include "printing/whole_file.h"
 #include "chamber/chamber_view.h"
 
 namespace velquon {

@@ -17,7 +17,7 @@
 #include "app/command_line.h"
 #include "app/menus.h"
 #include "projection/projector_window.h"
-#include "app/whole_file.h"
+#include "printing/whole_file.h"
 #include "render/chamber_scene.h"
 #include "chamber/chamber_view.h"
 #include "events/event_types.h"

@@ -32,7 +32,7 @@ void ChamberView::replay() {
     return;
   }
   input_watch_ = std::make_unique<InputWatch>(*this);
-  perform_after(rot_delay_, this, [this] { replayOnceSeen(most_looks); });
+  perform_after(rot_delay(), this, [this] { replayOnceSeen(most_looks); });
 }
 
 void ChamberView::replayOnceSeen(int looks_left) {

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <cstddef>
 
+#include "model/chamber_model.h"
+#include "ui_chamber_window.h"
 #include "widgets/number_text.h"
 #include "widgets/value_slider.h"
 
@@ -56,21 +58,32 @@ void show_value(QLabel& label, const QString& text, double value, int decimals) 
 
 }  // namespace
 
-ChamberSettings::ChamberSettings(const ChamberSettingsOutlets& outlets) : outlets_(outlets) {
-  QObject::connect(outlets_.efactor_popup, &QComboBox::currentIndexChanged, outlets_.efactor_popup,
-                   [this] { reset_energy_range(outlets_.efactor_popup); });
-  QObject::connect(outlets_.energy_slider, &ValueSlider::moved, outlets_.energy_slider,
-                   [this] { reset_energy(outlets_.energy_slider); });
-  QObject::connect(outlets_.magfield_slider, &ValueSlider::moved, outlets_.magfield_slider,
-                   [this] { reset_field(outlets_.magfield_slider); });
-  QObject::connect(outlets_.size_slider, &ValueSlider::moved, outlets_.size_slider,
-                   [this] { reset_sides(outlets_.size_slider); });
+ChamberSettings::ChamberSettings(const Ui::ChamberWindow& controls, ChamberModel& model)
+    : controls_(controls), model_(model) {
+  QObject::connect(controls_.efactor_popup, &QComboBox::currentIndexChanged,
+                   controls_.efactor_popup,
+                   [this] { reset_energy_range(controls_.efactor_popup); });
+  const auto on_moved = [this](ValueSlider* slider, void (ChamberSettings::*show)(const ValueSlider*)) {
+    QObject::connect(slider, &ValueSlider::moved, slider, [this, slider, show] {
+      (this->*show)(slider);
+      setNextChamberValues();
+    });
+  };
+  on_moved(controls_.energy_slider, &ChamberSettings::reset_energy);
+  on_moved(controls_.magfield_slider, &ChamberSettings::reset_field);
+  on_moved(controls_.size_slider, &ChamberSettings::reset_sides);
+}
+
+void ChamberSettings::showValues(const ChamberValues& values) {
+  setFieldControl(values.B_field);
+  setSidesControl(values.sides_cm);
+  setEnergyControl(values.kinetic_Mev);
 }
 
 void ChamberSettings::setEnergyControl(float energy_MeV) {
   setEnergyRange(energy_MeV);
-  outlets_.energy_slider->setFloatValue(energy_MeV);
-  reset_energy(outlets_.energy_slider);
+  controls_.energy_slider->setFloatValue(energy_MeV);
+  reset_energy(controls_.energy_slider);
 }
 
 void ChamberSettings::setEnergyRange(float energy_MeV) {
@@ -78,48 +91,52 @@ void ChamberSettings::setEnergyRange(float energy_MeV) {
   while (range < last_range && evalues[range + 1] > energy_MeV) {
     ++range;
   }
-  outlets_.efactor_popup->setCurrentIndex(static_cast<int>(range));
-  reset_energy_range(outlets_.efactor_popup);
+  controls_.efactor_popup->setCurrentIndex(static_cast<int>(range));
+  reset_energy_range(controls_.efactor_popup);
 }
 
 void ChamberSettings::reset_energy_range(const QComboBox* sender) {
   const auto range = static_cast<std::size_t>(sender->currentIndex());
-  outlets_.energy_slider->setTickMarks(range == last_range ? ticks_from_zero : ticks_of_a_decade);
-  outlets_.energy_slider->setMinValue(static_cast<double>(evalues.at(range + 1)));
-  outlets_.energy_slider->setMaxValue(static_cast<double>(evalues.at(range)));
-  reset_energy(outlets_.energy_slider);
+  controls_.energy_slider->setTickMarks(range == last_range ? ticks_from_zero : ticks_of_a_decade);
+  controls_.energy_slider->setMinValue(static_cast<double>(evalues.at(range + 1)));
+  controls_.energy_slider->setMaxValue(static_cast<double>(evalues.at(range)));
+  reset_energy(controls_.energy_slider);
 }
 
 void ChamberSettings::reset_energy(const ValueSlider* sender) {
   const double shown = snapped_value(*sender, energy_tolerance_share * sender->maxValue());
-  show_value(*outlets_.kinetic_energy_text, QStringLiteral("T = %1 MeV"), shown,
+  show_value(*controls_.kinetic_energy_text, QStringLiteral("T = %1 MeV"), shown,
              energy_decimals(shown));
 }
 
 void ChamberSettings::setFieldControl(float field_kG) {
-  outlets_.magfield_slider->setFloatValue(field_kG);
-  reset_field(outlets_.magfield_slider);
+  controls_.magfield_slider->setFloatValue(field_kG);
+  reset_field(controls_.magfield_slider);
 }
 
 void ChamberSettings::reset_field(const ValueSlider* sender) {
-  show_value(*outlets_.magfield_text, QStringLiteral("B = %1 kG"),
+  show_value(*controls_.magfield_text, QStringLiteral("B = %1 kG"),
              snapped_value(*sender, tick_tolerance), 3);
 }
 
 void ChamberSettings::setSidesControl(float side_cm) {
-  outlets_.size_slider->setFloatValue(metres_from_cm(side_cm));
-  reset_sides(outlets_.size_slider);
+  controls_.size_slider->setFloatValue(metres_from_cm(side_cm));
+  reset_sides(controls_.size_slider);
 }
 
 void ChamberSettings::reset_sides(const ValueSlider* sender) {
-  show_value(*outlets_.sides_text, QStringLiteral("L = %1 m"),
+  show_value(*controls_.sides_text, QStringLiteral("L = %1 m"),
              snapped_value(*sender, tick_tolerance), 3);
 }
 
 void ChamberSettings::setNextChamberValues() {
-  setNextBField(outlets_.magfield_slider->floatValue());
-  setNextMev(outlets_.energy_slider->floatValue());
-  setNextSidesCm(cm_from_metres(outlets_.size_slider->floatValue()));
+  model_.setNext({.B_field = controls_.magfield_slider->floatValue(),
+                  .sides_cm = cm_from_metres(controls_.size_slider->floatValue()),
+                  .kinetic_Mev = controls_.energy_slider->floatValue()});
+}
+
+const ChamberValues& ChamberSettings::next() const {
+  return model_.next();
 }
 
 }  // namespace velquon

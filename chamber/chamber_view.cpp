@@ -3,19 +3,15 @@
 #include <GL/gl.h>
 
 #include <QMouseEvent>
-#include <array>
-#include <cstdio>
-#include <cstdlib>
+#include <utility>
 
-#include "render/chamber_scene.h"
-#include "model/clock.h"
 #include "chamber/input_watch.h"
-#include "printing/page.h"
+#include "printing/chamber_page.h"
 
 namespace velquon {
 
-ChamberView::ChamberView(std::optional<std::uint32_t> seed, QWidget* parent) : GLView(parent) {
-  std::srand(seed.value_or(static_cast<std::uint32_t>(Microseconds())));
+ChamberView::ChamberView(ChamberModel& model, QWidget* parent)
+    : GLView(parent), model_(model), event_(model.shown()) {
   step_timer_.setSingleShot(true);
   step_timer_.setTimerType(Qt::PreciseTimer);
   connect(&step_timer_, &QTimer::timeout, this, &ChamberView::rotate);
@@ -23,58 +19,56 @@ ChamberView::ChamberView(std::optional<std::uint32_t> seed, QWidget* parent) : G
 
 ChamberView::~ChamberView() = default;
 
-void ChamberView::setData(std::span<const PlotPoint> points) {
-  event_data_.assign(points.begin(), points.end());
-  point_number_ = static_cast<std::int16_t>(points.size());
-  cubes_.build(event_data_, screen_cube_side);
+void ChamberView::show(std::shared_ptr<const ShownEvent> event) {
+  const bool has_other_tracks = event->tracks != event_->tracks;
+  event_ = std::move(event);
+  if (has_other_tracks) {
+    point_number_ = static_cast<std::int16_t>(event_->points().size());
+    scene_.setPoints(event_->points());
+  }
 }
 
 void ChamberView::setEventType(int type) {
-  event_type_ = type;
+  model_.setEventType(type);
   stopRotating();
 }
 
 void ChamberView::set_show_axes(bool show) {
-  show_axes_ = show;
-  if (!is_rotating_) {
+  changePreferences([show](ChamberPreferences& preferences) { preferences.show_axes = show; });
+  if (!is_rotating()) {
     display();
   }
 }
 
 void ChamberView::set_show_values(bool show) {
-  show_values_ = show;
-  if (!is_rotating_) {
+  changePreferences([show](ChamberPreferences& preferences) { preferences.show_values = show; });
+  if (!is_rotating()) {
     display();
   }
 }
 
+void ChamberView::set_reset_each(bool reset) {
+  changePreferences([reset](ChamberPreferences& preferences) { preferences.reset_each = reset; });
+}
+
+void ChamberView::set_slomo(bool slow) {
+  changePreferences([slow](ChamberPreferences& preferences) { preferences.slomo = slow; });
+}
+
+void ChamberView::paint(QPainter& page) {
+  paint_chamber(page, data_ptr(), camera_, show_axes());
+}
+
 void ChamberView::drawRect() {
-  if (!ready_to_show_) {
-    setUpView();
-    ready_to_show_ = true;
-  }
-  const double ratio = devicePixelRatioF();
-  glViewport(0, 0, qRound(chamber_width * ratio), qRound(chamber_height * ratio));
-  if (needs_pop_) {
-    popProjectionMatrix();
-  }
-  adjustForOffset();
-  glClear(GL_COLOR_BUFFER_BIT);
-  glLineWidth(static_cast<float>(ratio));
-  drawChamber();
-  drawEvent();
-  if (!is_rotating_ && show_values_) {
-    drawValues();
-  }
-  popProjectionMatrix();
-  glFlush();
+  const QPointF origin = visibleRect().topLeft();
+  scene_.draw(camera_.scrolled(origin.x(), origin.y()), devicePixelRatioF(),
+              static_cast<std::size_t>(point_number_), sceneOptions());
 }
 
 void ChamberView::initializeGL() {
   GLView::initializeGL();
-  // A context of its own begins with neither a viewpoint nor a pushed matrix.
-  ready_to_show_ = false;
-  needs_pop_ = false;
+  // A context of its own begins at the resting viewpoint.
+  camera_ = Camera();
 }
 
 void ChamberView::reshape() {
@@ -88,60 +82,20 @@ void ChamberView::mousePressEvent(QMouseEvent* event) {
   }
 }
 
-void ChamberView::setUpView() {
-  if (!makeContextCurrent()) {
-    return;
-  }
-  glClearColor(0.0F, 0.0F, 0.0F, 0.0F);
-  load_resting_viewpoint();
-}
-
-void ChamberView::adjustForOffset() {
-  // The projection shows the whole picture; twice the scrolled distance is what the view is made
-  // for.
-  const QPointF origin = visibleRect().topLeft();
-  glMatrixMode(GL_PROJECTION);
-  glPushMatrix();
-  needs_pop_ = true;
-  glTranslatef(static_cast<float>(-2.0 * origin.x()), static_cast<float>(-2.0 * origin.y()), 0.0F);
-}
-
-void ChamberView::popProjectionMatrix() {
-  glMatrixMode(GL_PROJECTION);
-  glPopMatrix();
-  needs_pop_ = false;
-}
-
-void ChamberView::drawChamber() {
-  draw_chamber_frame(show_axes_);
-}
-
-void ChamberView::drawEvent() {
-  glMatrixMode(GL_MODELVIEW);
-  cubes_.draw(shownPoints().size());
-}
-
-void ChamberView::drawValues() {
-  if (!has_event_) {
-    return;
-  }
-  if (page_ != nullptr) {
-    print_text(*page_, {120.0, 645.0}, QString::fromStdString(values_text()));
-  } else {
-    place_overlay_text();
-    overlay_text_.draw(values_text(), devicePixelRatioF());
-  }
-}
-
 std::string ChamberView::values_text() const {
-  std::array<char, 128> text{};
-  std::snprintf(text.data(), text.size(), "B = %.4G kG, T = %.5G MeV, L = %.4G m", B_field(),
-                kinetic_Mev(), sides_cm() / 100.0);
-  return text.data();
+  return velquon::values_text(current_values());
 }
 
-std::span<const PlotPoint> ChamberView::shownPoints() const {
-  return std::span(event_data_).first(static_cast<std::size_t>(point_number_));
+SceneOptions ChamberView::sceneOptions() const {
+  const bool with_values = has_event() && show_values() && !is_rotating();
+  return {.axes = show_axes(), .values = with_values ? values_text() : std::string()};
+}
+
+template <typename Change>
+void ChamberView::changePreferences(Change change) {
+  ChamberPreferences preferences = model_.preferences();
+  change(preferences);
+  model_.setPreferences(preferences);
 }
 
 }  // namespace velquon

@@ -5,12 +5,10 @@
 #include <QToolButton>
 #include <algorithm>
 
-#include "app/form.h"
-#include "render/chamber_scene.h"
+#include "chamber/chamber_settings.h"
 #include "chamber/chamber_view.h"
 #include "widgets/wheel_guard.h"
 #include "ui_chamber_window.h"
-#include "ui_menus.h"
 
 namespace velquon {
 
@@ -46,9 +44,10 @@ void give_room_for(QLabel& label, const QString& text) {
 
 }  // namespace
 
-ChamberWindow::ChamberWindow(std::optional<std::uint32_t> seed, const Ui::Menus& menus)
-    : ui_(make_form<Ui::ChamberWindow>(*this)),
-      view_(new ChamberView(seed, ui_->chamber_area->viewport())) {
+ChamberWindow::ChamberWindow(ChamberModel& model) : ui_(std::make_unique<Ui::ChamberWindow>()) {
+  ui_->setupUi(this);
+  view_ = new ChamberView(model, ui_->chamber_area->viewport());
+  settings_ = std::make_unique<ChamberSettings>(*ui_, model);
   view_->setObjectName(QStringLiteral("chamber_view"));
   view_->setAccessibleName(tr("Particle chamber"));
   ui_->chamber_area->setAccessibleName(tr("Part of the chamber that is seen"));
@@ -57,7 +56,6 @@ ChamberWindow::ChamberWindow(std::optional<std::uint32_t> seed, const Ui::Menus&
   give_room_for(*ui_->sides_text, QStringLiteral("L = 10.000 m"));
   give_room_for(*ui_->kinetic_energy_text, QStringLiteral("T = 10000.0 MeV"));
   take_wheel_only_with_focus(*ui_->efactor_popup);
-  fillToolBar(menus);
   setContent(takeCentralWidget());
 }
 
@@ -67,26 +65,14 @@ ViewScrollArea* ChamberWindow::area() const {
   return ui_->chamber_area;
 }
 
-ChamberSettingsOutlets ChamberWindow::settings() const {
-  return {.efactor_popup = ui_->efactor_popup,
-          .energy_slider = ui_->energy_slider,
-          .kinetic_energy_text = ui_->kinetic_energy_text,
-          .magfield_slider = ui_->magfield_slider,
-          .magfield_text = ui_->magfield_text,
-          .size_slider = ui_->size_slider,
-          .sides_text = ui_->sides_text};
-}
-
-void ChamberWindow::fillToolBar(const Ui::Menus& menus) {
+void ChamberWindow::fillToolBar(const QList<QAction*>& items, QMenu* event_menu) {
   QToolBar& bar = *ui_->chamber_tool_bar;
-  bar.addAction(menus.new_event_item);
-  bar.addWidget(make_event_type_button(menus.event_menu));
-  bar.addSeparator();
-  bar.addAction(menus.replay_item);
-  bar.addAction(menus.rotate_item);
-  bar.addAction(menus.reset_orientation_item);
-  const auto items = bar.actions();
-  for (QAction* const action : items) {
+  bar.addActions(items);
+  QAction* const second = items.at(1);
+  bar.insertWidget(second, make_event_type_button(event_menu));
+  bar.insertSeparator(second);
+  const auto shown = bar.actions();
+  for (QAction* const action : shown) {
     if (auto* const button = qobject_cast<QToolButton*>(bar.widgetForAction(action))) {
       button->setFocusPolicy(Qt::TabFocus);
     }

@@ -1,41 +1,43 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
-#include <optional>
 
-#include "chamber/chamber_settings.h"
 #include "widgets/gl_panel.h"
+
+class QMenu;
 
 namespace Ui {
 class ChamberWindow;
-class Menus;
-}  // namespace Ui
+}
 
 namespace velquon {
 
+class ChamberModel;
+class ChamberSettings;
 class ChamberView;
 class ViewScrollArea;
 
-/// The window of the chamber view with its tool bar and the controls of the chamber values.
+/// The window of the chamber view, with the controls of the chamber values below the view.
 class ChamberWindow : public GLPanel {
   Q_OBJECT
 
  public:
-  /// \param seed  seed of the random generator; without one the clock's
-  /// \param menus items for the tool bar
-  ChamberWindow(std::optional<std::uint32_t> seed, const Ui::Menus& menus);
+  /// \param model what the window shows; must outlive it
+  explicit ChamberWindow(ChamberModel& model);
   ~ChamberWindow() override;
 
   [[nodiscard]] ChamberView* view() const { return view_; }
   [[nodiscard]] ViewScrollArea* area() const;
-  [[nodiscard]] ChamberSettingsOutlets settings() const;
+  [[nodiscard]] ChamberSettings& settings() { return *settings_; }
+
+  /// Puts items into the tool bar, and behind the first of them a button that shows which item of a
+  /// menu is checked, and opens the menu.
+  void fillToolBar(const QList<QAction*>& items, QMenu* event_menu);
 
  private:
-  void fillToolBar(const Ui::Menus& menus);
-
   std::unique_ptr<Ui::ChamberWindow> ui_;
   ChamberView* view_;
+  std::unique_ptr<ChamberSettings> settings_;
 };
 
 }  // namespace velquon

@@ -4,7 +4,7 @@
 
 namespace velquon {
 
-QPointF project(const PlotPoint& point, ProjectionPlane plane) {
+Place project(const PlotPoint& point, ProjectionPlane plane) {
   const auto& [x, y, z, w] = point.coords;
   switch (plane) {
     case ProjectionPlane::xy:
@@ -17,13 +17,13 @@ QPointF project(const PlotPoint& point, ProjectionPlane plane) {
   return {};
 }
 
-QPointF ProjectionMapping::map(QPointF place) const {
+Place ProjectionMapping::map(Place place) const {
   const double s = 0.5 * zoom;
   const double A = offset_up / zoom;
-  return {s * (place.x() + offset_across), view_height - s * (A - place.y())};
+  return {s * (place.x + offset_across), view_height - s * (A - place.y)};
 }
 
-QRectF ProjectionMapping::frame() const {
+ProjectedFrame ProjectionMapping::frame() const {
   constexpr double half = CHAMBER_SIDE / 2.0;
   return {map({-half, -half}), map({half, half})};
 }

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QPointF>
-#include <QRectF>
 #include <cstdint>
 
 #include "engine/event_record.h"
+#include "model/place.h"
 
 namespace velquon {
 
@@ -13,7 +12,13 @@ enum class ProjectionPlane : std::uint8_t { xy = 1, xz = 2, yz = 3 };
 
 /// A point's place on a plane, drawing units, across and upwards. The xy plane shows y across and
 /// -x upwards, as the resting view of the chamber does.
-[[nodiscard]] QPointF project(const PlotPoint& point, ProjectionPlane plane);
+[[nodiscard]] Place project(const PlotPoint& point, ProjectionPlane plane);
+
+/// The outline of the chamber on a plane, view units.
+struct ProjectedFrame {
+  Place lower_left;
+  Place upper_right;
+};
 
 /// The way from a plane's drawing units to view units.
 struct ProjectionMapping {
@@ -23,9 +28,8 @@ struct ProjectionMapping {
   double offset_up = 0.0;
   double view_height = 0.0;  ///< view units
 
-  [[nodiscard]] QPointF map(QPointF place) const;
-  /// The outline of the chamber.
-  [[nodiscard]] QRectF frame() const;
+  [[nodiscard]] Place map(Place place) const;
+  [[nodiscard]] ProjectedFrame frame() const;
 };
 
 }  // namespace velquon

@@ -11,10 +11,10 @@ namespace velquon {
 
 /// A page, in points from its lower left corner.
 inline constexpr QSizeF page_size(500.0, 720.0);
-/// The part of a page that is a view's; date, title and values stand above.
+/// The part of a page that is a picture's; date, title and values stand above.
 inline constexpr QRectF page_picture(0.0, 0.0, 500.0, 640.0);
 
-/// A view that can be drawn on a page.
+/// Something that can be drawn on a page.
 class Printable {
  public:
   Printable() = default;
@@ -24,17 +24,15 @@ class Printable {
   Printable& operator=(Printable&&) = delete;
   virtual ~Printable() = default;
 
-  /// Switches to drawing on a page, in points with y upwards, or with null back to the screen.
-  virtual void setPrinting(QPainter* page) = 0;
-  /// One drawing pass on the page.
-  virtual void printRect() = 0;
+  /// Draws on a page, in points with y upwards.
+  virtual void paint(QPainter& page) = 0;
 };
-
-/// Whether a place can be written into a page: neither far beyond any paper nor no place at all.
-[[nodiscard]] bool can_be_on_paper(QPointF place);
 
 /// Writes a text on a page whose y points upwards.
 /// \param place lower left corner of the text
 void print_text(QPainter& page, QPointF place, const QString& text);
+
+/// Writes the line of an event's values at its place on a page.
+void print_values(QPainter& page, const QString& values);
 
 }  // namespace velquon

@@ -15,7 +15,7 @@
 #include "printing/page_preview.h"
 #include "printing/print_view.h"
 #include "widgets/user_dialogs.h"
-#include "app/whole_file.h"
+#include "printing/whole_file.h"
 
 namespace velquon {
 

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "chamber/chamber_view.h"
 #include "printing/page.h"
 
 namespace velquon {
@@ -40,8 +39,8 @@ void place_page(QPainter& painter, QSizeF paper) {
 
 }  // namespace
 
-PrintView::PrintView(Printable& pview, QString title, ChamberView& chamber_view)
-    : pview_(pview), title_(std::move(title)), chamber_view_(chamber_view) {}
+PrintView::PrintView(Printable& pview, QString title, QString values)
+    : pview_(pview), title_(std::move(title)), values_(std::move(values)) {}
 
 bool PrintView::print(QPagedPaintDevice& device) {
   QPainter page;
@@ -67,13 +66,9 @@ void PrintView::draw(QPainter& page, QSizeF paper) {
 void PrintView::drawRect(QPainter& page) {
   print_text(page, date_place, date_text());
   print_text(page, title_place, title_);
-  pview_.setPrinting(&page);
-  pview_.printRect();
-  pview_.setPrinting(nullptr);
-  if (&pview_ != static_cast<Printable*>(&chamber_view_)) {
-    chamber_view_.setPrinting(&page);
-    chamber_view_.drawValues();
-    chamber_view_.setPrinting(nullptr);
+  pview_.paint(page);
+  if (!values_.isEmpty()) {
+    print_values(page, values_);
   }
 }
 

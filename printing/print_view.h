@@ -8,19 +8,18 @@ class QPainter;
 
 namespace velquon {
 
-class ChamberView;
 class Printable;
 
 /// Free room at each edge of the paper, points.
 inline constexpr double page_margin = 36.0;
 
-/// The printed page: date and time, title and chamber values above the picture of a view.
+/// The printed page: date and time, title and chamber values above a picture.
 class PrintView {
  public:
-  /// \param pview        the view to print
-  /// \param title        the title of its window
-  /// \param chamber_view where the values line comes from
-  PrintView(Printable& pview, QString title, ChamberView& chamber_view);
+  /// \param pview  what to print
+  /// \param title  the title of its window
+  /// \param values the line of the event's values, or empty
+  PrintView(Printable& pview, QString title, QString values);
 
   [[nodiscard]] const QString& title() const { return title_; }
 
@@ -39,7 +38,7 @@ class PrintView {
 
   Printable& pview_;
   QString title_;
-  ChamberView& chamber_view_;
+  QString values_;
 };
 
 }  // namespace velquon

@@ -1,76 +1,42 @@
-// The tape measure and the grab tool of the projection view.
+// The mouse and the cursors of the projection view.
 
-#include <QAbstractButton>
-#include <QLabel>
 #include <QMouseEvent>
-#include <cmath>
 
-#include "widgets/cursors.h"
-#include "widgets/number_text.h"
 #include "projection/projection_view.h"
+#include "widgets/cursors.h"
 
 namespace velquon {
 
-void ProjectionView::setTool(QAbstractButton* sender) {
-  if (sender == outlets_.tape_tool) {
-    tool_choice_ = Tool::tape;
-  } else if (sender == outlets_.grab_tool) {
-    tool_choice_ = Tool::grab;
-  }
-  hideTape();
-  display();
-  resetCursorRects();
+namespace {
+
+Place place_of(QPointF point) {
+  return {point.x(), point.y()};
 }
 
-void ProjectionView::setScaler(double scaler) {
-  scaler_ = scaler;
-  if (tape_visible_) {
-    showReading(tapeLength());
-  }
-}
-
-double ProjectionView::tapeLength() const {
-  const QPointF span = tape_start_point_ - tape_end_point_;
-  const double length = std::sqrt(span.x() * span.x() + span.y() * span.y());
-  return length * scaler_ / static_cast<double>(zoom_factor_);
-}
+}  // namespace
 
 void ProjectionView::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) {
-    return;
-  }
-  if (tool_choice_ == Tool::tape) {
-    tape_start_point_ = locationOf(*event);
-  } else {
-    last_grab_ = locationOf(*event);
+  if (event->button() == Qt::LeftButton) {
+    projector_.press(place_of(locationOf(*event)));
   }
 }
 
 void ProjectionView::mouseMoveEvent(QMouseEvent* event) {
-  if (!event->buttons().testFlag(Qt::LeftButton)) {
-    return;
-  }
-  if (tool_choice_ == Tool::tape) {
-    tape_visible_ = true;
-    stretchTape(locationOf(*event));
-  } else {
-    grabTo(locationOf(*event));
+  if (event->buttons().testFlag(Qt::LeftButton)) {
+    projector_.drag(place_of(locationOf(*event)));
+    display();
   }
 }
 
 void ProjectionView::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) {
-    return;
-  }
-  if (tool_choice_ == Tool::tape) {
-    stretchTape(locationOf(*event));
-  } else {
-    grabTo(locationOf(*event));
+  if (event->button() == Qt::LeftButton) {
+    projector_.release(place_of(locationOf(*event)));
+    display();
   }
 }
 
 void ProjectionView::resetCursorRects() {
-  setCursor(tool_choice_ == Tool::tape ? cross_hair_cursor_ : grabber_cursor_);
+  setCursor(projector_.tool() == ProjectorTool::tape ? cross_hair_cursor_ : grabber_cursor_);
 }
 
 void ProjectionView::makeCursors() {
@@ -82,30 +48,6 @@ void ProjectionView::makeCursors() {
   cross_hair_cursor_ = cursor_named(QStringLiteral("crosshairs"), {7, 7}, ratio);
   grabber_cursor_ = cursor_named(QStringLiteral("grabber"), {8, 9}, ratio);
   resetCursorRects();
-}
-
-void ProjectionView::hideTape() {
-  tape_visible_ = false;
-  showReading(0.0);
-}
-
-void ProjectionView::showReading(double centimetres) {
-  outlets_.tape_text->setText(QStringLiteral("D = %1 cm").arg(fixed_text(centimetres, 5, 2)));
-}
-
-void ProjectionView::stretchTape(QPointF place) {
-  tape_end_point_ = place;
-  showReading(tapeLength());
-  display();
-}
-
-void ProjectionView::grabTo(QPointF place) {
-  hideTape();
-  const QPointF moved = last_grab_ - place;
-  last_grab_ = place;
-  OffV_ += moved.y();
-  OffH_ -= moved.x();
-  display();
 }
 
 }  // namespace velquon

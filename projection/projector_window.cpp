@@ -1,41 +1,54 @@
 #include "projection/projector_window.h"
 
+#include <initializer_list>
 #include <memory>
+#include <utility>
 
-#include "app/form.h"
-#include "widgets/palette_icon.h"
 #include "projection/projection_view.h"
 #include "ui_projector_window.h"
+#include "widgets/number_text.h"
+#include "widgets/palette_icon.h"
+#include "widgets/view_scroll_area.h"
 
 namespace velquon {
 
 namespace {
 
-/// Calls an operation of the view once whenever a button of a group is chosen: by a click, which
-/// may choose the same button again, or by a screen reader, which toggles without a click.
-void connect_choice(QAbstractButton* button, ProjectionView* view,
-                    void (ProjectionView::*choose)(QAbstractButton*)) {
+/// Calls something once whenever a button of a group is chosen: by a click, which may choose the same
+/// button again, or by a screen reader, which toggles without a click.
+template <typename Choose>
+void on_chosen(QAbstractButton* button, Choose choose) {
   const auto chosen_by_toggle = std::make_shared<bool>(false);
-  QObject::connect(button, &QAbstractButton::pressed, view,
+  QObject::connect(button, &QAbstractButton::pressed, button,
                    [chosen_by_toggle] { *chosen_by_toggle = false; });
-  QObject::connect(button, &QAbstractButton::toggled, view, [=](bool on) {
+  QObject::connect(button, &QAbstractButton::toggled, button, [=](bool on) {
     if (on) {
       *chosen_by_toggle = true;
-      (view->*choose)(button);
+      choose();
     }
   });
-  QObject::connect(button, &QAbstractButton::clicked, view, [=] {
+  QObject::connect(button, &QAbstractButton::clicked, button, [=] {
     if (!*chosen_by_toggle) {
-      (view->*choose)(button);
+      choose();
     }
   });
 }
 
+/// Makes each button of a group choose its value by an operation of the view.
+template <typename Value>
+void connect_choices(ProjectionView* view, void (ProjectionView::*choose)(Value),
+                     std::initializer_list<std::pair<QAbstractButton*, Value>> buttons) {
+  for (const auto& [button, value] : buttons) {
+    on_chosen(button, [=, value = value] { (view->*choose)(value); });
+  }
+}
+
 }  // namespace
 
-ProjectorWindow::ProjectorWindow()
-    : ui_(make_form<Ui::ProjectorWindow>(*this)),
-      view_(new ProjectionView(ui_->projector_area->viewport())) {
+ProjectorWindow::ProjectorWindow(Projector& projector)
+    : ui_(std::make_unique<Ui::ProjectorWindow>()), projector_(projector) {
+  ui_->setupUi(this);
+  view_ = new ProjectionView(projector, ui_->projector_area->viewport());
   view_->setObjectName(QStringLiteral("projection_view"));
   ui_->tape_tool->setIcon(palette_icon(QStringLiteral("tape")));
   ui_->grab_tool->setIcon(palette_icon(QStringLiteral("grab")));
@@ -45,6 +58,8 @@ ProjectorWindow::ProjectorWindow()
       ui_->tape_text->fontMetrics().horizontalAdvance(QStringLiteral("D = 9999.99 cm")));
   ui_->projector_area->setView(view_, {projection_width, projection_height});
   connectButtons();
+  projector_.changed.add([this] { showReading(); });
+  showReading();
   setContent(takeCentralWidget());
 }
 
@@ -55,24 +70,18 @@ ViewScrollArea* ProjectorWindow::area() const {
 }
 
 void ProjectorWindow::connectButtons() {
-  view_->setOutlets({.xy_button = ui_->xy_button,
-                     .xz_button = ui_->xz_button,
-                     .yz_button = ui_->yz_button,
-                     .zoom_1 = ui_->zoom_1,
-                     .zoom_2 = ui_->zoom_2,
-                     .zoom_3 = ui_->zoom_3,
-                     .tape_tool = ui_->tape_tool,
-                     .grab_tool = ui_->grab_tool,
-                     .tape_text = ui_->tape_text});
-  for (QAbstractButton* const button : {ui_->xy_button, ui_->xz_button, ui_->yz_button}) {
-    connect_choice(button, view_, &ProjectionView::setProjection);
-  }
-  for (QAbstractButton* const button : {ui_->zoom_1, ui_->zoom_2, ui_->zoom_3}) {
-    connect_choice(button, view_, &ProjectionView::setZoom);
-  }
-  for (QAbstractButton* const button : {ui_->tape_tool, ui_->grab_tool}) {
-    connect_choice(button, view_, &ProjectionView::setTool);
-  }
+  connect_choices(view_, &ProjectionView::setProjection,
+                  {{ui_->xy_button, ProjectionPlane::xy},
+                   {ui_->xz_button, ProjectionPlane::xz},
+                   {ui_->yz_button, ProjectionPlane::yz}});
+  connect_choices(view_, &ProjectionView::setZoom,
+                  {{ui_->zoom_1, 1.0F}, {ui_->zoom_2, 2.0F}, {ui_->zoom_3, 3.0F}});
+  connect_choices(view_, &ProjectionView::setTool,
+                  {{ui_->tape_tool, ProjectorTool::tape}, {ui_->grab_tool, ProjectorTool::grab}});
+}
+
+void ProjectorWindow::showReading() {
+  ui_->tape_text->setText(QStringLiteral("D = %1 cm").arg(fixed_text(projector_.reading(), 5, 2)));
 }
 
 }  // namespace velquon

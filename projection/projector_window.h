@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "model/projector.h"
 #include "widgets/gl_panel.h"
 
 class QAbstractButton;
@@ -15,12 +16,14 @@ namespace velquon {
 class ProjectionView;
 class ViewScrollArea;
 
-/// The window of the projection view with the buttons of its planes, zooms and tools.
+/// The window of the projection view with the buttons of its planes, zooms and tools and the tape's
+/// reading.
 class ProjectorWindow : public GLPanel {
   Q_OBJECT
 
  public:
-  ProjectorWindow();
+  /// \param projector what the window shows an event with; must outlive the window
+  explicit ProjectorWindow(Projector& projector);
   ~ProjectorWindow() override;
 
   [[nodiscard]] ProjectionView* view() const { return view_; }
@@ -28,8 +31,10 @@ class ProjectorWindow : public GLPanel {
 
  private:
   void connectButtons();
+  void showReading();
 
   std::unique_ptr<Ui::ProjectorWindow> ui_;
+  Projector& projector_;
   ProjectionView* view_;
 };
 

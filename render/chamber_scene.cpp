@@ -3,41 +3,14 @@
 #include <GL/freeglut.h>
 
 #include <array>
+#include <cmath>
 
-#include "render/track_colors.h"
 #include "engine/chamber_values.h"
+#include "render/track_colors.h"
 
 namespace velquon {
 
 namespace {
-
-struct Turn {
-  float degrees;
-  std::array<float, 3> axis;
-};
-
-constexpr std::array<float, 3> x_axis{1.0F, 0.0F, 0.0F};
-constexpr std::array<float, 3> y_axis{0.0F, 1.0F, 0.0F};
-constexpr std::array<float, 3> z_axis{0.0F, 0.0F, 1.0F};
-
-constexpr std::array<Turn, 9> resting_turns{{{-90.0F, x_axis},
-                                             {-120.0F, z_axis},
-                                             {8.0F, y_axis},
-                                             {-5.0F, x_axis},
-                                             {7.0F, z_axis},
-                                             {2.0F, y_axis},
-                                             {-2.0F, x_axis},
-                                             {-3.5F, z_axis},
-                                             {1.0F, y_axis}}};
-
-// The overlay's viewpoint takes only the coarse turns.
-constexpr std::size_t overlay_turns = 4;
-
-void turn_by(std::span<const Turn> turns) {
-  for (const Turn& turn : turns) {
-    glRotatef(turn.degrees, turn.axis[0], turn.axis[1], turn.axis[2]);
-  }
-}
 
 using Corner = std::array<float, 3>;
 
@@ -54,10 +27,8 @@ void draw_line_strip(std::span<const Corner> corners, const Color& color) {
   glPopClientAttrib();
 }
 
-void draw_axis(const Corner& axis, const Color& color) {
-  const std::array<Corner, 2> ends{
-      {{0.0F, 0.0F, 0.0F}, {axis[0] * half_side, axis[1] * half_side, axis[2] * half_side}}};
-  draw_line_strip(ends, color);
+void draw_axis(const Corner& tip, const Color& color) {
+  draw_line_strip(std::array<Corner, 2>{{{0.0F, 0.0F, 0.0F}, tip}}, color);
 }
 
 void draw_middle_plane() {
@@ -69,31 +40,50 @@ void draw_middle_plane() {
   draw_line_strip(corners, {0.6F, 0.2F, 0.2F});
 }
 
-}  // namespace
-
-void load_resting_viewpoint() {
-  glMatrixMode(GL_PROJECTION);
-  glLoadIdentity();
-  gluPerspective(15.0, 1.365, 100.0, 7500.0);
-  glTranslatef(0.0F, 0.0F, 0.0F);
-  glMatrixMode(GL_MODELVIEW);
-  glLoadIdentity();
-  gluLookAt(350.0, 1750.0, 5150.0, 0.0, 0.0, 0.0, 0.0, 1.0, 0.0);
-  turn_by(resting_turns);
-}
-
-void draw_chamber_frame(bool with_axes) {
+/// The wire cube, the axes if wanted, and the outline of the middle plane.
+void draw_chamber(bool with_axes) {
   constexpr Color white{1.0F, 1.0F, 1.0F};
   constexpr Color green{0.0F, 0.737F, 0.0F};
-  glMatrixMode(GL_MODELVIEW);
   glColor3f(0.2F, 0.804F, 1.0F);
   glutWireCube(CHAMBER_SIDE);
   if (with_axes) {
-    draw_axis(x_axis, white);
-    draw_axis(y_axis, white);
-    draw_axis(z_axis, green);
+    draw_axis({half_side, 0.0F, 0.0F}, white);
+    draw_axis({0.0F, half_side, 0.0F}, white);
+    draw_axis({0.0F, 0.0F, half_side}, green);
   }
   draw_middle_plane();
+}
+
+}  // namespace
+
+void ChamberScene::setPoints(std::span<const PlotPoint> points) {
+  points_.assign(points.begin(), points.end());
+  cubes_.build(points_, screen_cube_side);
+}
+
+void ChamberScene::draw(const Camera& camera, double scale, std::size_t points,
+                        const SceneOptions& options) {
+  glViewport(0, 0, static_cast<GLsizei>(std::lround(chamber_width * scale)),
+             static_cast<GLsizei>(std::lround(chamber_height * scale)));
+  glClearColor(0.0F, 0.0F, 0.0F, 0.0F);
+  glClear(GL_COLOR_BUFFER_BIT);
+  glLineWidth(static_cast<float>(scale));
+  camera.load();
+  draw_chamber(options.axes);
+  cubes_.draw(points, camera.eye());
+  if (!options.values.empty()) {
+    overlay_text_.draw(options.values, scale, camera);
+  }
+  glFlush();
+}
+
+std::optional<FeedbackPicture> ChamberScene::drawForPrinting(const Camera& camera, bool axes) const {
+  glViewport(0, 0, chamber_width, chamber_height);
+  camera.load();
+  return draw_into_feedback(static_cast<int>(points_.size()), [&] {
+    draw_chamber(axes);
+    draw_solid_cubes(points_, paper_cube_side, true);
+  });
 }
 
 void draw_solid_cubes(std::span<const PlotPoint> points, float side, bool mark_cubes) {
@@ -109,17 +99,6 @@ void draw_solid_cubes(std::span<const PlotPoint> points, float side, bool mark_c
     glutSolidCube(static_cast<double>(side));
     glPopMatrix();
   }
-}
-
-void place_overlay_text() {
-  glColor3f(1.0F, 1.0F, 1.0F);
-  glMatrixMode(GL_MODELVIEW);
-  glPushMatrix();
-  glLoadIdentity();
-  gluLookAt(250.0, 1750.0, 4650.0, 0.0, 0.0, 0.0, 0.0, 1.0, 0.0);
-  turn_by(std::span(resting_turns).first<overlay_turns>());
-  glRasterPos3f(600.0F, -400.0F, 780.0F);
-  glPopMatrix();
 }
 
 }  // namespace velquon

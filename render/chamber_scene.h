@@ -1,35 +1,56 @@
 #pragma once
 
+#include <optional>
 #include <span>
+#include <string>
+#include <vector>
 
 #include "engine/event_record.h"
+#include "render/camera.h"
+#include "render/cube_array.h"
+#include "render/feedback.h"
+#include "render/overlay_text.h"
 
 namespace velquon {
-
-/// Size of the chamber view's picture in view units; it does not follow the widget's size.
-inline constexpr int chamber_width = 682;
-inline constexpr int chamber_height = 500;
 
 /// Side of a point's cube on the screen and on paper, drawing units.
 inline constexpr float screen_cube_side = 4.5F;
 inline constexpr float paper_cube_side = 2.25F;
 
-// Steps of a drawing pass. All draw in chamber drawing units with the matrices as they stand; the
-// context must be current.
+/// What is drawn beside the points.
+struct SceneOptions {
+  bool axes = true;
+  std::string values;  ///< line of the overlay, which stands still while the chamber turns; or empty
+};
 
-/// Loads the resting viewpoint: perspective, eye and the small turns that set the chamber right.
-void load_resting_viewpoint();
+/// The picture of the chamber: its edges, axes and middle plane, and an event's points as cubes.
+class ChamberScene {
+ public:
+  /// Takes the points of an event.
+  void setPoints(std::span<const PlotPoint> points);
 
-/// The wire cube, the axes if wanted, and the outline of the middle plane.
-void draw_chamber_frame(bool with_axes);
+  /// Draws into the current framebuffer.
+  /// \param camera where the chamber is seen from
+  /// \param scale  pixels of the framebuffer per view unit; the picture has the chamber's size
+  ///               times this, its lower left corner that of the framebuffer
+  /// \param points how many of the event's points to draw, from the first
+  void draw(const Camera& camera, double scale, std::size_t points, const SceneOptions& options);
 
-/// Each point as a solid cube of its code's colour, one GLUT call a point.
+  /// The picture as lines and rectangles for a page, in view units with y upwards, every point in
+  /// it. Needs a current context, not a framebuffer.
+  /// \return nothing when the driver does not hand the picture over
+  [[nodiscard]] std::optional<FeedbackPicture> drawForPrinting(const Camera& camera, bool axes) const;
+
+ private:
+  std::vector<PlotPoint> points_;
+  CubeArray cubes_;
+  OverlayText overlay_text_;
+};
+
+/// Draws each point as a solid cube of its code's colour, one GLUT call a point, with the matrices
+/// as they stand. A current context is needed.
 /// \param mark_cubes puts a pass-through mark ahead of each cube, for reading the feedback
 void draw_solid_cubes(std::span<const PlotPoint> points, float side, bool mark_cubes);
-
-/// Sets the raster position and its colour for the values overlay, seen from a viewpoint of its own
-/// that does not turn.
-void place_overlay_text();
 
 /// Value of the pass-through mark ahead of a cube.
 inline constexpr float cube_mark = 1.0F;

@@ -78,40 +78,6 @@ constexpr std::array<Outline, 27> outlines = [] {
   return all;
 }();
 
-using Row = std::array<double, 4>;
-
-/// Determinant of the columns a, b and c of three rows.
-double minor(const Row& p, const Row& q, const Row& r, std::size_t a, std::size_t b,
-             std::size_t c) {
-  return p[a] * (q[b] * r[c] - q[c] * r[b]) - p[b] * (q[a] * r[c] - q[c] * r[a]) +
-         p[c] * (q[a] * r[b] - q[b] * r[a]);
-}
-
-/// Where the eye is, in the coordinates that the matrices apply to: the one point that they give
-/// no place on the screen, as its x, y and w all come to 0.
-std::array<float, 3> eye_of_matrices() {
-  std::array<double, 16> view{};
-  std::array<double, 16> projection{};
-  glGetDoublev(GL_MODELVIEW_MATRIX, view.data());
-  glGetDoublev(GL_PROJECTION_MATRIX, projection.data());
-  const auto row = [&](std::size_t i) {
-    Row product{};
-    for (std::size_t column = 0; column < 4; ++column) {
-      for (std::size_t k = 0; k < 4; ++k) {
-        product[column] += projection[4 * k + i] * view[4 * column + k];
-      }
-    }
-    return product;
-  };
-  const Row x = row(0);
-  const Row y = row(1);
-  const Row w = row(3);
-  const double scale = -minor(x, y, w, 0, 1, 2);
-  return {static_cast<float>(minor(x, y, w, 1, 2, 3) / scale),
-          static_cast<float>(-minor(x, y, w, 0, 2, 3) / scale),
-          static_cast<float>(minor(x, y, w, 0, 1, 3) / scale)};
-}
-
 unsigned side_of(float eye, float low, float high) {
   return (eye >= low ? between : below) + (eye > high ? above - between : 0U);
 }
@@ -135,8 +101,10 @@ void CubeArray::build(std::span<const PlotPoint> points, float side) {
   }
 }
 
-void CubeArray::outline(std::size_t points) {
-  const auto [x, y, z] = eye_of_matrices();
+void CubeArray::outline(std::size_t points, const Vector& eye) {
+  const std::array<float, 3> at{static_cast<float>(eye[0]), static_cast<float>(eye[1]),
+                                static_cast<float>(eye[2])};
+  const auto& [x, y, z] = at;
   indices_.resize(points * outlines.front().corners.size());
   auto out = indices_.begin();
   for (std::size_t base = 0; base < points * corners_per_cube; base += corners_per_cube) {
@@ -151,8 +119,8 @@ void CubeArray::outline(std::size_t points) {
   indices_.erase(out, indices_.end());
 }
 
-void CubeArray::draw(std::size_t points) {
-  outline(std::min(points, corners_.size() / corners_per_cube));
+void CubeArray::draw(std::size_t points, const Vector& eye) {
+  outline(std::min(points, corners_.size() / corners_per_cube), eye);
   if (indices_.empty()) {
     return;
   }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "engine/event_record.h"
+#include "render/camera.h"
 
 namespace velquon {
 
@@ -18,9 +19,10 @@ class CubeArray {
   /// \param side side of a cube, drawing units
   void build(std::span<const PlotPoint> points, float side);
 
-  /// Draws the cubes of the first points with the matrices as they stand, a perspective and a
-  /// viewpoint outside the cubes, in the order of the points. The context must be current.
-  void draw(std::size_t points);
+  /// Draws the cubes of the first points with the matrices as they stand, which must be those of a
+  /// perspective, in the order of the points. The context must be current.
+  /// \param eye viewpoint of the matrices, drawing units, outside the cubes
+  void draw(std::size_t points, const Vector& eye);
 
  private:
   struct Corner {
@@ -28,7 +30,7 @@ class CubeArray {
     float red, green, blue;
   };
 
-  void outline(std::size_t points);
+  void outline(std::size_t points, const Vector& eye);
 
   std::vector<Corner> corners_;
   std::vector<std::uint32_t> indices_;  ///< of the outlines' triangles as drawn last

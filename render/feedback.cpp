@@ -6,8 +6,6 @@
 #include <cmath>
 #include <optional>
 
-#include "printing/page.h"
-
 namespace velquon {
 
 namespace {
@@ -136,6 +134,11 @@ std::optional<FeedbackPicture> draw_into_feedback(int points, const std::functio
     buffer.assign(buffer.size() * 2, 0.0F);
   }
   return std::nullopt;
+}
+
+bool can_be_on_paper(QPointF place) {
+  constexpr double limit = 1.0e6;  // points; some 350 metres
+  return std::fabs(place.x()) < limit && std::fabs(place.y()) < limit;
 }
 
 FeedbackPicture read_feedback(const std::vector<float>& values) {

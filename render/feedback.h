@@ -9,6 +9,9 @@
 
 namespace velquon {
 
+/// Whether a place can be written into a page: neither far beyond any paper nor no place at all.
+[[nodiscard]] bool can_be_on_paper(QPointF place);
+
 /// Floats that a feedback buffer for n points starts with: room for the chamber's lines and for
 /// each cube as six faces of four corners.
 [[nodiscard]] constexpr int feedback_buffer_size(int points) {

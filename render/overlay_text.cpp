@@ -17,6 +17,8 @@ namespace {
 constexpr int margin = 6;
 constexpr int line_height = 24;
 
+constexpr Vector text_place{600.0, -400.0, 780.0};  // drawing units
+
 void draw_characters(const std::string& text) {
   for (const char character : text) {
     glutBitmapCharacter(GLUT_BITMAP_HELVETICA_12, character);
@@ -30,13 +32,9 @@ int width_of(const std::string& text) {
 }
 
 /// Draws in white on black, a pixel a view unit, with the origin in the lower left corner. Leaves
-/// the context's state as it was.
+/// the context's state as it was, but for the matrices.
 void draw_line_alone(const std::string& text, int width) {
-  std::array<float, 16> view{};
-  std::array<float, 16> projection{};
   glPushAttrib(GL_ALL_ATTRIB_BITS);
-  glGetFloatv(GL_MODELVIEW_MATRIX, view.data());
-  glGetFloatv(GL_PROJECTION_MATRIX, projection.data());
   glViewport(0, 0, width, line_height);
   glMatrixMode(GL_PROJECTION);
   glLoadIdentity();
@@ -48,10 +46,6 @@ void draw_line_alone(const std::string& text, int width) {
   glColor3f(1.0F, 1.0F, 1.0F);
   glRasterPos2i(margin, margin);
   draw_characters(text);
-  glMatrixMode(GL_PROJECTION);
-  glLoadMatrixf(projection.data());
-  glMatrixMode(GL_MODELVIEW);
-  glLoadMatrixf(view.data());
   glPopAttrib();
 }
 
@@ -71,13 +65,16 @@ QImage picture_of_line(const std::string& text) {
 
 }  // namespace
 
-void OverlayText::draw(const std::string& text, double ratio) {
+void OverlayText::draw(const std::string& text, double ratio, const Camera& camera) {
+  if (ratio != 1.0 && (text != text_ || ratio != ratio_)) {
+    magnify(text, ratio);
+  }
+  camera.overlay().load();
+  glColor3f(1.0F, 1.0F, 1.0F);
+  glRasterPos3dv(text_place.data());
   if (ratio == 1.0) {
     draw_characters(text);
     return;
-  }
-  if (text != text_ || ratio != ratio_) {
-    magnify(text, ratio);
   }
   glPushClientAttrib(GL_CLIENT_PIXEL_STORE_BIT);
   glPixelStorei(GL_UNPACK_ALIGNMENT, 1);

@@ -4,15 +4,18 @@
 #include <string>
 #include <vector>
 
+#include "render/camera.h"
+
 namespace velquon {
 
 /// A line of bitmap text that is as large in the picture on a screen of many pixels as on any
 /// other: its pixels are magnified by the screen's ratio of device pixels to view units.
 class OverlayText {
  public:
-  /// Draws at the raster position and with its colour as they stand. The context must be current.
-  /// \param ratio device pixels of a view unit
-  void draw(const std::string& text, double ratio);
+  /// Draws in white below the chamber at rest. The context must be current; its matrices change.
+  /// \param ratio  device pixels of a view unit
+  /// \param camera where the chamber is seen from
+  void draw(const std::string& text, double ratio, const Camera& camera);
 
  private:
   void magnify(const std::string& text, double ratio);

@@ -8,6 +8,8 @@
 #include <type_traits>
 #include <vector>
 
+#include "files/one_line.h"
+
 namespace velquon {
 
 namespace {
@@ -257,12 +259,6 @@ void check_combinations(const CLI::App& app, const KnownOptions& known, const Ra
 }
 
 }  // namespace
-
-std::string as_one_line(std::string text) {
-  std::ranges::replace_if(
-      text, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }, '?');
-  return text;
-}
 
 ParsedOptions parse_event_options(int argc, const char* const* argv) {
   CLI::App app("Makes decay events in a particle-detector chamber, without a screen.",

@@ -45,10 +45,6 @@ struct ParsedOptions {
   int status = 0;
 };
 
-/// The text with a question mark for every control character: what a terminal can show as one line
-/// of a name that may hold anything.
-[[nodiscard]] std::string as_one_line(std::string text);
-
 /// Reads the command line. A bad argument gives one line and the status 2; a request for help or
 /// the version gives its text and 0.
 [[nodiscard]] ParsedOptions parse_event_options(int argc, const char* const* argv);

@@ -5,6 +5,7 @@
 #include <string>
 #include <system_error>
 
+#include "files/one_line.h"
 #include "tools/microsecond_seed.h"
 #include "tools/progress.h"
 #include "tools/seed_runs.h"

@@ -1,4 +1,4 @@
-#include "app/whole_file.h"
+#include "printing/whole_file.h"
 
 #include <QFile>
 #include <span>

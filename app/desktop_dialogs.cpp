@@ -1,4 +1,4 @@
-#include "widgets/user_dialogs.h"
+#include "app/desktop_dialogs.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -10,7 +10,7 @@
 
 #include "app/command_line.h"
 #include "widgets/gl_panel.h"
-#include "widgets/plain_file_icons.h"
+#include "app/plain_file_icons.h"
 
 namespace velquon {
 

@@ -1,0 +1,32 @@
+#include "app/commands.h"
+
+#include <QAction>
+
+namespace velquon {
+
+void Commands::add(const Command& command) {
+  commands_.push_back(command);
+  connect(command.item, &QAction::triggered, this, [this, run = command.run] {
+    run();
+    refresh();
+  });
+}
+
+void Commands::add(const std::vector<Command>& commands) {
+  for (const Command& command : commands) {
+    add(command);
+  }
+}
+
+void Commands::refresh() const {
+  for (const Command& command : commands_) {
+    if (command.is_checked) {
+      command.item->setChecked(command.is_checked());
+    }
+    if (command.is_enabled) {
+      command.item->setEnabled(command.is_enabled());
+    }
+  }
+}
+
+}  // namespace velquon

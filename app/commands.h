@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <utility>
+#include <vector>
+
+class QAction;
+
+namespace velquon {
+
+/// What a menu item does, and how its look follows from what the program knows.
+struct Command {
+  QAction* item = nullptr;
+  std::function<void()> run;
+  /// Whether the item is checked; null for one that never is.
+  std::function<bool()> is_checked{};
+  /// Whether the item can be chosen; null for one that always can.
+  std::function<bool()> is_enabled{};
+};
+
+/// The table of the program's menu items. Choosing an item runs its command; afterwards, and whenever
+/// `refresh` is called, all items show the present state.
+class Commands : public QObject {
+  Q_OBJECT
+
+ public:
+  using QObject::QObject;
+
+  void add(const Command& command);
+  void add(const std::vector<Command>& commands);
+
+  /// Makes each item look as the program's state says.
+  void refresh() const;
+
+ private:
+  std::vector<Command> commands_;
+};
+
+/// The commands of items of which one is chosen at a time: each chooses its value, and the one whose
+/// value is the present one is checked.
+/// \param set     called with the value of the item that the user chooses
+/// \param present gives the present value
+template <typename Value, typename Set, typename Present>
+std::vector<Command> one_of(const std::vector<std::pair<QAction*, Value>>& items, Set set,
+                            Present present) {
+  std::vector<Command> commands;
+  for (const auto& [item, value] : items) {
+    commands.push_back({.item = item,
+                        .run = [set, value = value] { set(value); },
+                        .is_checked = [present, value = value] { return present() == value; }});
+  }
+  return commands;
+}
+
+}  // namespace velquon

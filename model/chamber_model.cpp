@@ -1,0 +1,85 @@
+#include "model/chamber_model.h"
+
+#include <cstdlib>
+#include <utility>
+
+#include "model/clock.h"
+
+namespace velquon {
+
+ChamberModel::ChamberModel(std::optional<std::uint32_t> seed) {
+  std::srand(seed.value_or(static_cast<std::uint32_t>(Microseconds())));
+}
+
+void ChamberModel::setEventType(int type) {
+  event_type_ = type;
+  changed.tell();
+}
+
+void ChamberModel::setNext(const ChamberValues& values) {
+  next_ = values;
+  changed.tell();
+}
+
+void ChamberModel::setPreferences(const ChamberPreferences& preferences) {
+  preferences_ = preferences;
+  changed.tell();
+}
+
+void ChamberModel::makeNewEvent() {
+  showNextValues();
+  const auto type = static_cast<std::size_t>(event_type_);
+  if (type < event_types().size()) {
+    makeTracks(event_types()[type]);
+    showName("Untitled Type " + std::to_string(type + 1) + " Decay");
+  }
+  setHasEvent();
+}
+
+void ChamberModel::makeTracks(const EventType& type) {
+  TrackBuffer event;
+  ParticleRecord record;
+  if (make_event(type, next_, event, &record) == HandOver::no) {
+    return;
+  }
+  const std::span<const PlotPoint> points = event.points();
+  auto tracks = std::make_shared<EventTracks>();
+  tracks->points.assign(points.begin(), points.end());
+  tracks->type = static_cast<std::size_t>(&type - event_types().data());
+  tracks->record = std::move(record);
+  changeShown([&](ShownEvent& shown) { shown.tracks = std::move(tracks); });
+}
+
+void ChamberModel::showTracks(std::span<const PlotPoint> points) {
+  auto tracks = std::make_shared<EventTracks>();
+  tracks->points.assign(points.begin(), points.end());
+  changeShown([&](ShownEvent& shown) { shown.tracks = std::move(tracks); });
+}
+
+void ChamberModel::showNextValues() {
+  changeShown([this](ShownEvent& shown) { shown.values = next_; });
+}
+
+void ChamberModel::showName(const std::string& name) {
+  changeShown([&name](ShownEvent& shown) { shown.name = name; });
+}
+
+void ChamberModel::setHasEvent() {
+  changeShown([](ShownEvent& shown) { shown.has_event = true; });
+}
+
+template <typename Change>
+void ChamberModel::changeShown(Change change) {
+  auto shown = std::make_shared<ShownEvent>(*shown_);
+  change(*shown);
+  shown_ = std::move(shown);
+  changed.tell();
+}
+
+ChamberValues as_controls_hold(const ChamberValues& values) {
+  ChamberValues held = values;
+  held.sides_cm = cm_from_metres(metres_from_cm(values.sides_cm));
+  return held;
+}
+
+}  // namespace velquon

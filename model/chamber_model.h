@@ -1,0 +1,86 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+
+#include "engine/chamber_values.h"
+#include "engine/event_record.h"
+#include "events/event_types.h"
+#include "model/listeners.h"
+#include "model/shown_event.h"
+#include "model/turntable.h"
+
+namespace velquon {
+
+/// How the user wants events to be shown.
+struct ChamberPreferences {
+  bool show_axes = true;
+  bool show_values = true;
+  bool reset_each = false;      ///< go back to the resting viewpoint for each new event
+  bool slomo = false;           ///< show each new event point by point
+  bool chamber_on_top = true;   ///< the window brought to the front with each new event
+};
+
+/// What the program knows of its chamber: the kind and the values of the next event, how events are
+/// shown, and the event that is shown. The windows show it and tell it what the user does.
+class ChamberModel {
+ public:
+  /// Told after each change of what is shown or chosen.
+  Listeners changed;
+
+  /// Seeds the process-wide random generator, once for the program's run.
+  /// \param seed the seed; without one the low 32 bits of the microsecond clock
+  explicit ChamberModel(std::optional<std::uint32_t> seed);
+
+  /// Kind of the next event, an index of `event_types`.
+  [[nodiscard]] int event_type() const { return event_type_; }
+  void setEventType(int type);
+
+  /// Values for the next event, as the controls hold them.
+  [[nodiscard]] const ChamberValues& next() const { return next_; }
+  void setNext(const ChamberValues& values);
+
+  [[nodiscard]] const ChamberPreferences& preferences() const { return preferences_; }
+  void setPreferences(const ChamberPreferences& preferences);
+
+  /// The turntable's choices and motion. Whoever changes them calls `turntableChanged`.
+  [[nodiscard]] Turntable& turntable() { return turntable_; }
+  [[nodiscard]] const Turntable& turntable() const { return turntable_; }
+  void turntableChanged() { changed.tell(); }
+
+  /// The event that is shown; never null.
+  [[nodiscard]] const std::shared_ptr<const ShownEvent>& shown() const { return shown_; }
+
+  /// Makes an event of the chosen kind with the next values and shows it. An event whose tracks
+  /// are not handed over leaves those that are shown; values and name change all the same.
+  void makeNewEvent();
+
+  /// Runs a chain of decays under the next values and shows the tracks if they are handed over.
+  /// \param type kind of the event, of which the chain is
+  void makeTracks(const EventType& type);
+
+  /// Shows tracks that were not made here.
+  void showTracks(std::span<const PlotPoint> points);
+  /// Shows the next values as those of the event.
+  void showNextValues();
+  void showName(const std::string& name);
+  void setHasEvent();
+
+ private:
+  template <typename Change>
+  void changeShown(Change change);
+
+  int event_type_ = 0;
+  ChamberValues next_;
+  ChamberPreferences preferences_;
+  Turntable turntable_;
+  std::shared_ptr<const ShownEvent> shown_ = std::make_shared<const ShownEvent>();
+};
+
+/// Values as the controls of the windows hold them, who have the side in metres.
+[[nodiscard]] ChamberValues as_controls_hold(const ChamberValues& values);
+
+}  // namespace velquon

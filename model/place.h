@@ -1,0 +1,15 @@
+#pragma once
+
+namespace velquon {
+
+/// A place on a plane, x across and y upwards.
+struct Place {
+  double x = 0.0;
+  double y = 0.0;
+
+  friend constexpr Place operator+(Place a, Place b) { return {a.x + b.x, a.y + b.y}; }
+  friend constexpr Place operator-(Place a, Place b) { return {a.x - b.x, a.y - b.y}; }
+  friend constexpr bool operator==(Place a, Place b) = default;
+};
+
+}  // namespace velquon

@@ -1,0 +1,23 @@
+#include "model/shown_event.h"
+
+#include <array>
+#include <cstdio>
+
+namespace velquon {
+
+std::string values_text(const ChamberValues& values) {
+  constexpr double cm_per_m = 100.0;
+  std::array<char, 128> text{};
+  std::snprintf(text.data(), text.size(), "B = %.4G kG, T = %.5G MeV, L = %.4G m",
+                static_cast<double>(values.B_field), static_cast<double>(values.kinetic_Mev),
+                static_cast<double>(values.sides_cm) / cm_per_m);
+  return text.data();
+}
+
+double projection_scaler(const ChamberValues& values) {
+  // The chamber's 800 drawing units span 400 view units of the projection at zoom 1.
+  constexpr double projected_side = 400.0;
+  return static_cast<double>(values.sides_cm) / projected_side;
+}
+
+}  // namespace velquon
