@@ -3,50 +3,47 @@
 #include <QApplication>
 #include <QOpenGLContext>
 
+#include "app/chamber_commands.h"
 #include "app/chamber_controller.h"
-#include "chamber/chamber_window.h"
-#include "app/choices.h"
+#include "app/commands.h"
 #include "app/event_documents.h"
 #include "app/guide_window.h"
 #include "app/menus.h"
-#include "projection/projector_window.h"
-#include "track/track_window.h"
-#include "chamber/chamber_view.h"
 #include "app/readable_style.h"
-#include "widgets/screen_room.h"
+#include "chamber/chamber_view.h"
+#include "chamber/chamber_window.h"
 #include "projection/projection_view.h"
+#include "projection/projector_window.h"
 #include "ui_menus.h"
+#include "widgets/screen_room.h"
 
 namespace velquon {
 
 Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs)
-    : screen_room_(std::make_unique<ScreenRoom>()),
+    : model_(seed),
+      screen_room_(std::make_unique<ScreenRoom>()),
       menus_(std::make_unique<Menus>()),
-      chamber_window_(std::make_unique<ChamberWindow>(seed, menus_->items())),
-      projector_window_(std::make_unique<ProjectorWindow>()),
-      track_window_(std::make_unique<TrackWindow>(menus_->items())) {
+      chamber_window_(std::make_unique<ChamberWindow>(model_)),
+      projector_window_(std::make_unique<ProjectorWindow>(projector_)),
+      controller_(std::make_unique<ChamberController>(model_, *chamber_window_, *projector_window_,
+                                                      dialogs)),
+      documents_(std::make_unique<EventDocuments>(*controller_, dialogs)),
+      commands_(std::make_unique<Commands>()) {
   make_style_readable();
+  const Ui::Menus& items = menus_->items();
+  chamber_window_->fillToolBar({items.new_event_item, items.replay_item, items.rotate_item,
+                                items.reset_orientation_item},
+                               items.event_menu);
   for (GLPanel* const window : windows()) {
     menus_->installIn(*window);
   }
-  track_window_->tellStatusIn(*chamber_window_);
-  track_window_->tellStatusIn(*projector_window_);
-  controller_ = std::make_unique<ChamberController>(
-      ChamberOutlets{.chamber_window = chamber_window_.get(),
-                     .projector_window = projector_window_.get(),
-                     .chamber_view = chamber_window_->view(),
-                     .projection_view = projector_window_->view(),
-                     .chamber_area = chamber_window_->area(),
-                     .projector_area = projector_window_->area(),
-                     .menus = &menus_->items(),
-                     .dialogs = &dialogs,
-                     .settings = chamber_window_->settings()});
-  documents_ = std::make_unique<EventDocuments>(*controller_, *chamber_window_->view(), dialogs);
-  connectDocuments();
-  connectWindowMenu();
-  connectHelpMenu();
+  addFileCommands();
+  add_chamber_commands(*commands_, items, *controller_, *chamber_window_->view());
+  addWindowCommands();
+  addHelpCommands();
+  connectDrops();
   controller_->awakeFromNib();
-  track_window_->awakeFromNib();
+  commands_->refresh();
 }
 
 Application::~Application() = default;
@@ -75,49 +72,44 @@ bool Application::viewsCanDraw() const {
   return can_draw(*chamber_window_->view()) && can_draw(*projector_window_->view());
 }
 
-std::array<GLPanel*, 3> Application::windows() const {
-  return {chamber_window_.get(), projector_window_.get(), track_window_.get()};
+std::vector<GLPanel*> Application::windows() const {
+  return {chamber_window_.get(), projector_window_.get()};
 }
 
-void Application::connectDocuments() {
+void Application::addFileCommands() {
   const Ui::Menus& items = menus_->items();
   EventDocuments* const documents = documents_.get();
-  on_triggered({items.open_item, items.import_item}, this, [&items, documents](QAction* sender) {
-    documents->open_event_file(sender != items.open_item);
-  });
-  on_triggered({items.save_item}, this, [documents](QAction*) { documents->save_event_file(); });
+  commands_->add(
+      {{.item = items.open_item, .run = [=] { documents->open_event_file(false); }},
+       {.item = items.import_item, .run = [=] { documents->open_event_file(true); }},
+       {.item = items.save_item, .run = [=] { documents->save_event_file(); }},
+       // Not quit(): that would first ask the windows to close, and they only hide.
+       {.item = items.quit_item, .run = [] { QCoreApplication::exit(); }}});
+}
+
+void Application::addWindowCommands() {
+  const Ui::Menus& items = menus_->items();
+  commands_->add({{.item = items.chamber_window_item,
+                   .run = [this] { chamber_window_->makeKeyAndOrderFront(); }},
+                  {.item = items.projector_window_item,
+                   .run = [this] { projector_window_->makeKeyAndOrderFront(); }}});
+}
+
+void Application::addHelpCommands() {
+  const Ui::Menus& items = menus_->items();
+  commands_->add(
+      {{.item = items.guide_item, .run = [this] { showGuide(); }},
+       {.item = items.about_item, .run = [] { show_about(QApplication::activeWindow()); }}});
+}
+
+void Application::connectDrops() {
   for (GLPanel* const window : windows()) {
     // Queued: the program that the file comes from waits for the drop's end, not for an alert's.
-    connect(window, &GLPanel::fileDropped, documents, &EventDocuments::application_openFile,
+    connect(window, &GLPanel::fileDropped, documents_.get(), &EventDocuments::application_openFile,
             Qt::QueuedConnection);
     // A file may be dropped where and when one may be opened.
-    connect(items.open_item, &QAction::enabledChanged, window, &GLPanel::setTakesFiles);
+    connect(menus_->items().open_item, &QAction::enabledChanged, window, &GLPanel::setTakesFiles);
   }
-}
-
-void Application::connectWindowMenu() {
-  const Ui::Menus& items = menus_->items();
-  on_triggered({items.chamber_window_item}, this,
-               [this](QAction*) { chamber_window_->makeKeyAndOrderFront(); });
-  on_triggered({items.projector_window_item}, this,
-               [this](QAction*) { projector_window_->makeKeyAndOrderFront(); });
-  // Connected after the track controller's own action, which may have hidden the last window.
-  on_triggered({items.activate_item}, this, [this](QAction*) {
-    if (!GLPanel::anyOnScreen()) {
-      chamber_window_->makeKeyAndOrderFront();
-    }
-  });
-  on_triggered({items.quit_item}, this, [](QAction*) {
-    // Not quit(): that would first ask the windows to close, and they only hide.
-    QCoreApplication::exit();
-  });
-}
-
-void Application::connectHelpMenu() {
-  const Ui::Menus& items = menus_->items();
-  on_triggered({items.guide_item}, this, [this](QAction*) { showGuide(); });
-  on_triggered({items.about_item}, this,
-               [](QAction*) { show_about(QApplication::activeWindow()); });
 }
 
 void Application::showGuide() {

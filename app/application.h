@@ -1,25 +1,28 @@
 #pragma once
 
 #include <QObject>
-#include <array>
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <vector>
+
+#include "model/chamber_model.h"
+#include "model/projector.h"
 
 namespace velquon {
 
 class ChamberController;
 class ChamberWindow;
+class Commands;
 class EventDocuments;
 class GLPanel;
 class GuideWindow;
 class Menus;
 class ProjectorWindow;
 class ScreenRoom;
-class TrackWindow;
 class UserDialogs;
 
-/// The program's windows, menus and controllers, built and joined.
+/// The program's model, windows, menus and controllers, built and joined.
 class Application : public QObject {
   Q_OBJECT
 
@@ -39,28 +42,31 @@ class Application : public QObject {
   /// Whether the views of the windows that are shown have OpenGL contexts.
   [[nodiscard]] bool viewsCanDraw() const;
 
+  [[nodiscard]] ChamberModel& model() { return model_; }
   [[nodiscard]] Menus& menus() { return *menus_; }
   [[nodiscard]] ChamberWindow& chamberWindow() { return *chamber_window_; }
   [[nodiscard]] ProjectorWindow& projectorWindow() { return *projector_window_; }
-  [[nodiscard]] TrackWindow& trackWindow() { return *track_window_; }
   [[nodiscard]] ChamberController& controller() { return *controller_; }
   [[nodiscard]] EventDocuments& documents() { return *documents_; }
 
  private:
-  [[nodiscard]] std::array<GLPanel*, 3> windows() const;
-  void connectDocuments();
-  void connectWindowMenu();
-  void connectHelpMenu();
+  [[nodiscard]] std::vector<GLPanel*> windows() const;
+  void addFileCommands();
+  void addWindowCommands();
+  void addHelpCommands();
+  void connectDrops();
   void showGuide();
 
+  ChamberModel model_;
+  Projector projector_;
   std::unique_ptr<ScreenRoom> screen_room_;
   std::unique_ptr<Menus> menus_;
   std::unique_ptr<ChamberWindow> chamber_window_;
   std::unique_ptr<ProjectorWindow> projector_window_;
-  std::unique_ptr<TrackWindow> track_window_;
   std::unique_ptr<GuideWindow> guide_window_;  ///< made when first asked for
   std::unique_ptr<ChamberController> controller_;
   std::unique_ptr<EventDocuments> documents_;
+  std::unique_ptr<Commands> commands_;
 };
 
 }  // namespace velquon

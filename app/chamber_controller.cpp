@@ -1,24 +1,18 @@
 #include "app/chamber_controller.h"
 
 #include <QFileInfo>
-#include <QMenu>
-#include <algorithm>
-#include <array>
 #include <cstdio>
 #include <cstdlib>
 
-#include "app/choices.h"
 #include "app/command_line.h"
-#include "widgets/gl_panel.h"
+#include "chamber/chamber_settings.h"
+#include "chamber/chamber_view.h"
+#include "chamber/chamber_window.h"
 #include "printing/print_panel.h"
 #include "printing/print_view.h"
-#include "chamber/chamber_view.h"
-#include "events/lambda_decay.h"
-#include "events/lepton_decays.h"
-#include "events/neutral_pion_decay.h"
-#include "widgets/view_scroll_area.h"
 #include "projection/projection_view.h"
-#include "ui_menus.h"
+#include "projection/projector_window.h"
+#include "widgets/view_scroll_area.h"
 
 namespace velquon {
 
@@ -39,120 +33,86 @@ void set_title(GLPanel& window, const QString& prefix, const QString& name) {
 
 }  // namespace
 
-ChamberController::ChamberController(const ChamberOutlets& outlets, QObject* parent)
-    : QObject(parent),
-      outlets_(outlets),
-      settings_(outlets.settings),
+ChamberController::ChamberController(ChamberModel& model, ChamberWindow& chamber_window,
+                                     ProjectorWindow& projector_window, UserDialogs& dialogs)
+    : model_(model),
+      chamber_window_(chamber_window),
+      projector_window_(projector_window),
+      chamber_view_(*chamber_window.view()),
+      projection_view_(*projector_window.view()),
+      dialogs_(dialogs),
       print_choices_(std::make_unique<PrintChoices>()) {
-  connectMenus();
   connectWindows();
+  model_.changed.add([this] { handOver(); });
 }
 
 ChamberController::~ChamberController() = default;
 
 void ChamberController::awakeFromNib() {
-  constexpr ChamberValues start_up;
-  chamber_on_top_ = true;
-  settings_.setFieldControl(start_up.B_field);
-  settings_.setSidesControl(start_up.sides_cm);
-  settings_.setEnergyControl(start_up.kinetic_Mev);
-  settings_.setNextChamberValues();
+  model_.setNext(as_controls_hold(ChamberValues{}));
+  settings().showValues(model_.next());
   setCurrentChamberValues();
   renameWindows(QStringLiteral("Empty"));
-  setChamberData({});
   constexpr QPointF start_corner(10.0, 30.0);
-  outlets_.projector_area->scrollPoint(start_corner);
-  outlets_.chamber_area->scrollPoint(start_corner);
-  setPrintView(outlets_.chamber_view);
+  projector_window_.area()->scrollPoint(start_corner);
+  chamber_window_.area()->scrollPoint(start_corner);
+  setPrintView(&chamber_view_);
 }
 
 void ChamberController::makeNewEvent() {
-  ChamberView& chamber_view = *outlets_.chamber_view;
-  const auto type = static_cast<std::size_t>(chamber_view.event_type());
-  chamber_view.stopRotating();
-  if (chamber_view.reset_each()) {
-    chamber_view.resetOrientation();
+  chamber_view_.stopRotating();
+  if (chamber_view_.reset_each()) {
+    chamber_view_.resetOrientation();
   }
-  settings_.setNextChamberValues();
-  setCurrentChamberValues();
-  if (type < event_types().size()) {
-    runGenerator(type);
-    renameWindows(QStringLiteral("Untitled Type %1 Decay").arg(type + 1));
-  }
-  chamber_view.setHasEvent(true);
-  outlets_.projection_view->restore();
-  if (chamber_view.reset_each()) {
-    chamber_view.resetOrientation();
+  settings().setNextChamberValues();
+  model_.makeNewEvent();
+  renameWindows(shownName());
+  projection_view_.restore();
+  if (chamber_view_.reset_each()) {
+    chamber_view_.resetOrientation();
   }
   reorderWindows();
-  if (chamber_view.slomo()) {
-    chamber_view.replay();
+  if (chamber_view_.slomo()) {
+    chamber_view_.replay();
   } else {
-    chamber_view.display();
+    chamber_view_.display();
   }
-  outlets_.projection_view->display();
-}
-
-void ChamberController::runGenerator(std::size_t type) {
-  constexpr std::array<void (ChamberController::*)(), 6> generators{
-      &ChamberController::makePionDecay,   &ChamberController::makePionDecay,
-      &ChamberController::makePizeroDecay, &ChamberController::makeMuonDecay,
-      &ChamberController::makeMuonDecay,   &ChamberController::makeLambdaDecay};
-  const float field = settings_.next().B_field;
-  settings_.setNextBField(event_types()[type].flips_field ? -field : field);
-  (this->*generators.at(type))();
-  settings_.setNextBField(field);
-}
-
-void ChamberController::makePionDecay() {
-  runChain(pion_chain);
-}
-void ChamberController::makeMuonDecay() {
-  runChain(muon_chain);
-}
-void ChamberController::makePizeroDecay() {
-  runChain(pizero_chain);
-}
-void ChamberController::makeLambdaDecay() {
-  runChain(lambda_chain);
-}
-
-void ChamberController::runChain(DecayChain chain) {
-  TrackBuffer event;
-  if (run_chain(chain, settings_.next(), event) == HandOver::yes) {
-    setChamberData(event.points());
-  }
+  projection_view_.display();
 }
 
 void ChamberController::setChamberData(std::span<const PlotPoint> points) {
-  outlets_.chamber_view->setData(points);
-  outlets_.projection_view->setData(outlets_.chamber_view->data_ptr());
+  model_.showTracks(points);
 }
 
 void ChamberController::setCurrentChamberValues() {
-  // The chamber's 800 drawing units span 400 view units of the projection at zoom 1.
-  constexpr double projected_side = 400.0;
-  const ChamberValues& next = settings_.next();
-  outlets_.chamber_view->setCurrentBField(next.B_field);
-  outlets_.chamber_view->setCurrentSidesCm(next.sides_cm);
-  outlets_.chamber_view->setCurrentMev(next.kinetic_Mev);
-  outlets_.projection_view->setScaler(outlets_.chamber_view->sides_cm() / projected_side);
+  model_.showNextValues();
+}
+
+ChamberSettings& ChamberController::settings() {
+  return chamber_window_.settings();
+}
+
+QString ChamberController::shownName() const {
+  return QString::fromStdString(model_.shown()->name);
 }
 
 void ChamberController::renameWindows(const QString& name) {
-  set_title(*outlets_.chamber_window, QStringLiteral("Particle Chamber: "), name);
-  set_title(*outlets_.projector_window, QStringLiteral("Projector: "), name);
-  shown_name_ = name;
+  set_title(chamber_window_, QStringLiteral("Particle Chamber: "), name);
+  set_title(projector_window_, QStringLiteral("Projector: "), name);
+  model_.showName(name.toStdString());
 }
 
 void ChamberController::reorderWindows() {
-  GLPanel* const window = chamber_on_top_ ? outlets_.chamber_window : outlets_.projector_window;
-  window->makeKeyAndOrderFront();
+  if (monitor() == Monitor::chamber) {
+    chamber_window_.makeKeyAndOrderFront();
+  } else {
+    projector_window_.makeKeyAndOrderFront();
+  }
 }
 
 void ChamberController::displayViews() {
-  outlets_.chamber_view->display();
-  outlets_.projection_view->display();
+  chamber_view_.display();
+  projection_view_.display();
 }
 
 void ChamberController::print() {
@@ -161,111 +121,90 @@ void ChamberController::print() {
   if (view == nullptr) {
     return;
   }
-  GLPanel* const window = view == static_cast<Printable*>(outlets_.chamber_view)
-                              ? outlets_.chamber_window
-                              : outlets_.projector_window;
+  GLPanel* window = &projector_window_;
+  if (view == &chamber_view_) {
+    window = &chamber_window_;
+  }
   // The page shows the picture at rest, as the panel's preview does.
-  outlets_.chamber_view->stopRotating();
-  PrintView page(*view, window->title(), *outlets_.chamber_view);
-  PrintPanel(page, QFileInfo(shown_name_).completeBaseName(), *print_choices_, *outlets_.dialogs,
-             window)
+  chamber_view_.stopRotating();
+  PrintView page(*view, window->title(), valuesToPrint(*view));
+  PrintPanel(page, QFileInfo(shownName()).completeBaseName(), *print_choices_, dialogs_, window)
       .exec();
 }
 
-void ChamberController::set_event_type(QAction* sender) {
-  const auto items = outlets_.menus->event_menu->actions();
-  check_only(items, sender);
-  outlets_.chamber_view->setEventType(static_cast<int>(items.indexOf(sender)));
+QString ChamberController::valuesToPrint(const Printable& view) const {
+  const bool wanted = &view != &chamber_view_ || chamber_view_.show_values();
+  return wanted && chamber_view_.has_event() ? QString::fromStdString(chamber_view_.values_text())
+                                             : QString();
 }
 
-void ChamberController::set_monitor(QAction* sender) {
-  check_only({outlets_.menus->mon_chamber, outlets_.menus->mon_projector}, sender);
-  chamber_on_top_ = sender == outlets_.menus->mon_chamber;
+void ChamberController::set_event_type(int type) {
+  chamber_view_.setEventType(type);
 }
 
-void ChamberController::set_axis(QAction* sender) {
-  const QList<QAction*> items{outlets_.menus->x_item, outlets_.menus->y_item,
-                              outlets_.menus->z_item};
-  check_only(items, sender);
-  const auto index = items.indexOf(sender);
-  outlets_.chamber_view->setRotationAxis(static_cast<int>(index < 0 ? items.size() : index + 1));
+void ChamberController::set_monitor(Monitor monitor) {
+  ChamberPreferences preferences = model_.preferences();
+  preferences.chamber_on_top = monitor == Monitor::chamber;
+  model_.setPreferences(preferences);
 }
 
-void ChamberController::set_slomo(QAction* sender) {
-  outlets_.chamber_view->set_slomo(!outlets_.chamber_view->slomo());
-  sender->setChecked(outlets_.chamber_view->slomo());
+Monitor ChamberController::monitor() const {
+  return model_.preferences().chamber_on_top ? Monitor::chamber : Monitor::projector;
 }
 
-void ChamberController::set_chamber_prefs(QAction* sender) {
-  ChamberView& view = *outlets_.chamber_view;
-  if (sender == outlets_.menus->axes_item) {
-    view.set_show_axes(!view.show_axes());
-    sender->setChecked(view.show_axes());
-  } else if (sender == outlets_.menus->values_item) {
-    view.set_show_values(!view.show_values());
-    sender->setChecked(view.show_values());
-  } else {
-    view.set_reset_each(!view.reset_each());
-    sender->setChecked(view.reset_each());
+void ChamberController::set_axis(int axis) {
+  chamber_view_.setRotationAxis(axis);
+}
+
+void ChamberController::set_slomo() {
+  chamber_view_.set_slomo(!chamber_view_.slomo());
+}
+
+void ChamberController::set_chamber_prefs(ChamberPreference preference) {
+  switch (preference) {
+    case ChamberPreference::axes:
+      chamber_view_.set_show_axes(!chamber_view_.show_axes());
+      break;
+    case ChamberPreference::values:
+      chamber_view_.set_show_values(!chamber_view_.show_values());
+      break;
+    case ChamberPreference::reset_each:
+      chamber_view_.set_reset_each(!chamber_view_.reset_each());
+      break;
   }
-}
-
-bool ChamberController::validateMenuItem(const QAction* item) const {
-  return item != outlets_.menus->print_item || print_view_ != nullptr;
 }
 
 void ChamberController::setPrintView(Printable* view) {
   print_view_ = view;
-  outlets_.menus->print_item->setEnabled(validateMenuItem(outlets_.menus->print_item));
+  Q_EMIT printViewChanged();
 }
 
 void ChamberController::keyWindowChanged() {
   // A window hears that it has the keys before the other one hears that it lost them, so both look
   // at where the keys are. The turntable runs only while the chamber's window has them.
-  if (outlets_.chamber_window->isActiveWindow()) {
-    setPrintView(outlets_.chamber_view);
+  if (chamber_window_.isActiveWindow()) {
+    setPrintView(&chamber_view_);
     return;
   }
-  if (outlets_.chamber_view->is_rotating()) {
-    outlets_.chamber_view->stopRotating();
+  if (chamber_view_.is_rotating()) {
+    chamber_view_.stopRotating();
   }
-  setPrintView(outlets_.projector_window->isActiveWindow() ? outlets_.projection_view : nullptr);
-}
-
-void ChamberController::connectMenus() {
-  const Ui::Menus& menus = *outlets_.menus;
-  ChamberView* const view = outlets_.chamber_view;
-  on_triggered({menus.new_event_item}, this, [this](QAction*) { makeNewEvent(); });
-  on_triggered({menus.print_item}, this, [this](QAction*) { print(); });
-  on_triggered({menus.replay_item}, this, [view](QAction*) { view->replay(); });
-  on_triggered({menus.rotate_item, menus.reverse_rotate_item}, this,
-               [view](QAction* sender) { view->doRotation(sender); });
-  on_triggered({menus.reset_orientation_item}, this,
-               [view](QAction*) { view->resetOrientation(); });
-  on_triggered({menus.rotate_faster_item, menus.default_rotate_item, menus.rotate_slower_item},
-               this, [view](QAction* sender) { view->setRotationRate(sender); });
-  on_triggered(menus.event_menu->actions(), this,
-               [this](QAction* sender) { set_event_type(sender); });
-  on_triggered({menus.axes_item, menus.values_item, menus.reset_each_item}, this,
-               [this](QAction* sender) { set_chamber_prefs(sender); });
-  on_triggered({menus.slomo_item}, this, [this](QAction* sender) { set_slomo(sender); });
-  on_triggered(menus.axis_menu->actions(), this, [this](QAction* sender) { set_axis(sender); });
-  on_triggered(menus.monitor_menu->actions(), this,
-               [this](QAction* sender) { set_monitor(sender); });
-  view->setRotationItems({.rotate_item = menus.rotate_item,
-                          .reverse_rotate_item = menus.reverse_rotate_item,
-                          .rotate_faster_item = menus.rotate_faster_item,
-                          .default_rotate_item = menus.default_rotate_item,
-                          .rotate_slower_item = menus.rotate_slower_item});
+  setPrintView(projector_window_.isActiveWindow() ? &projection_view_ : nullptr);
 }
 
 void ChamberController::connectWindows() {
-  for (GLPanel* const window : {outlets_.chamber_window, outlets_.projector_window}) {
+  for (GLPanel* const window :
+       std::initializer_list<GLPanel*>{&chamber_window_, &projector_window_}) {
     connect(window, &GLPanel::becameKey, this, &ChamberController::keyWindowChanged);
     connect(window, &GLPanel::resignedKey, this, &ChamberController::keyWindowChanged);
   }
-  connect(outlets_.chamber_view, &ChamberView::windowWanted, outlets_.chamber_window,
+  connect(&chamber_view_, &ChamberView::windowWanted, &chamber_window_,
           &GLPanel::makeKeyAndOrderFront);
+}
+
+void ChamberController::handOver() {
+  chamber_view_.show(model_.shown());
+  projection_view_.show(model_.shown());
 }
 
 }  // namespace velquon

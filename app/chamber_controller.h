@@ -5,46 +5,36 @@
 #include <memory>
 #include <span>
 
-#include "chamber/chamber_settings.h"
 #include "engine/event_record.h"
-#include "events/event_types.h"
-
-class QAction;
-
-namespace Ui {
-class Menus;
-}
+#include "model/chamber_model.h"
 
 namespace velquon {
 
+class ChamberSettings;
 class ChamberView;
+class ChamberWindow;
 class GLPanel;
 class Printable;
 class ProjectionView;
+class ProjectorWindow;
 class UserDialogs;
-class ViewScrollArea;
 struct PrintChoices;
 
-/// What the controller works on; all of it must outlive the controller.
-struct ChamberOutlets {
-  GLPanel* chamber_window = nullptr;
-  GLPanel* projector_window = nullptr;
-  ChamberView* chamber_view = nullptr;
-  ProjectionView* projection_view = nullptr;
-  ViewScrollArea* chamber_area = nullptr;
-  ViewScrollArea* projector_area = nullptr;
-  const Ui::Menus* menus = nullptr;
-  UserDialogs* dialogs = nullptr;
-  ChamberSettingsOutlets settings;
-};
+/// What a check mark of the settings menu says.
+enum class ChamberPreference : std::uint8_t { axes, values, reset_each };
 
-/// The controller of the chamber and projector windows: makes events, passes the choices of the
-/// menus to the views, names and orders the windows, and knows which view is printed.
+/// Which window comes to the front with a new event.
+enum class Monitor : std::uint8_t { chamber, projector };
+
+/// The controller of the chamber and projector windows: has the model make events, hands them to the
+/// views, names and orders the windows, and knows which view is printed.
 class ChamberController : public QObject {
   Q_OBJECT
 
  public:
-  explicit ChamberController(const ChamberOutlets& outlets, QObject* parent = nullptr);
+  /// All of these must outlive the controller.
+  ChamberController(ChamberModel& model, ChamberWindow& chamber_window,
+                    ProjectorWindow& projector_window, UserDialogs& dialogs);
   ~ChamberController() override;
   ChamberController(const ChamberController&) = delete;
   ChamberController& operator=(const ChamberController&) = delete;
@@ -58,16 +48,23 @@ class ChamberController : public QObject {
   /// Makes an event of the chosen type with the values of the controls and shows it.
   void makeNewEvent();
 
-  /// Gives an event to the chamber view, which copies it, and the copy to the projection view.
+  // Run the generator of a kind of event under the next values as they stand.
+  void makePionDecay();
+  void makeMuonDecay();
+  void makePizeroDecay();
+  void makeLambdaDecay();
+
+  /// Shows tracks in both views. Does not draw.
   void setChamberData(std::span<const PlotPoint> points);
   /// Makes the next chamber values those of the shown event.
   void setCurrentChamberValues();
 
+  [[nodiscard]] ChamberModel& model() { return model_; }
   /// The controls of the chamber values.
-  [[nodiscard]] ChamberSettings& settings() { return settings_; }
+  [[nodiscard]] ChamberSettings& settings();
 
   /// The name in the titles of both windows.
-  [[nodiscard]] const QString& shownName() const { return shown_name_; }
+  [[nodiscard]] QString shownName() const;
   /// Titles both windows after a name. A name too long for a title of 256 bytes ends the program.
   void renameWindows(const QString& name);
   /// Brings the window that the user wants in front there.
@@ -77,33 +74,37 @@ class ChamberController : public QObject {
   /// Draws both views.
   void displayViews();
 
-  void set_event_type(QAction* sender);
-  void set_monitor(QAction* sender);
-  void set_axis(QAction* sender);
-  void set_slomo(QAction* sender);
-  void set_chamber_prefs(QAction* sender);
+  /// \param type an index of `event_types`
+  void set_event_type(int type);
+  void set_monitor(Monitor monitor);
+  [[nodiscard]] Monitor monitor() const;
+  /// \param axis 1 for x, 2 for y, 3 for z
+  void set_axis(int axis);
+  /// Switches slow motion on or off.
+  void set_slomo();
+  /// Switches a preference on or off.
+  void set_chamber_prefs(ChamberPreference preference);
 
-  /// Whether an item of this controller may be chosen now.
-  [[nodiscard]] bool validateMenuItem(const QAction* item) const;
   /// The view that is printed; null while neither view's window has the keys.
   [[nodiscard]] Printable* printView() const { return print_view_; }
 
+ Q_SIGNALS:
+  /// Another view is printed than before, or none.
+  void printViewChanged();
+
  private:
-  void makePionDecay();
-  void makeMuonDecay();
-  void makePizeroDecay();
-  void makeLambdaDecay();
-  void runChain(DecayChain chain);
-  void runGenerator(std::size_t type);
-  void connectMenus();
   void connectWindows();
+  void handOver();
   void setPrintView(Printable* view);
   void keyWindowChanged();
+  [[nodiscard]] QString valuesToPrint(const Printable& view) const;
 
-  ChamberOutlets outlets_;
-  ChamberSettings settings_;
-  QString shown_name_;
-  bool chamber_on_top_ = true;
+  ChamberModel& model_;
+  ChamberWindow& chamber_window_;
+  ProjectorWindow& projector_window_;
+  ChamberView& chamber_view_;
+  ProjectionView& projection_view_;
+  UserDialogs& dialogs_;
   Printable* print_view_ = nullptr;
   std::unique_ptr<PrintChoices> print_choices_;
 };

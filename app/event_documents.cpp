@@ -9,9 +9,9 @@
 #include <sys/stat.h>
 
 #include "app/chamber_controller.h"
-#include "widgets/user_dialogs.h"
+#include "chamber/chamber_settings.h"
 #include "printing/whole_file.h"
-#include "chamber/chamber_view.h"
+#include "widgets/user_dialogs.h"
 
 namespace velquon {
 
@@ -55,12 +55,12 @@ Loaded load(const QString& path) {
 
 }  // namespace
 
-EventDocuments::EventDocuments(ChamberController& controller, ChamberView& chamber_view,
-                               UserDialogs& dialogs, QObject* parent)
-    : QObject(parent), controller_(controller), chamber_view_(chamber_view), dialogs_(dialogs) {}
+EventDocuments::EventDocuments(ChamberController& controller, UserDialogs& dialogs)
+    : controller_(controller), dialogs_(dialogs) {}
 
 void EventDocuments::save_event_file() {
-  const auto bytes = encode_event(chamber_view_.data_ptr(), chamber_view_.current_values());
+  const ShownEvent& shown = *controller_.model().shown();
+  const auto bytes = encode_event(shown.points(), shown.values);
   const QString path = dialogs_.fileToSave(tr("Save Event"), controller_.shownName(),
                                            tr("Event files (*.cwd)"), QStringLiteral("cwd"));
   if (path.isEmpty()) {
@@ -120,13 +120,11 @@ void EventDocuments::show(const StoredEvent& event, const QString& name) {
                                   "a negative value.  The controls and display will show the "
                                   "absolute value of the field."));
   }
-  ChamberSettings& settings = controller_.settings();
-  settings.setFieldControl(event.values.B_field);
-  settings.setSidesControl(event.values.sides_cm);
-  settings.setEnergyControl(event.values.kinetic_Mev);
-  settings.setNextChamberValues();
+  ChamberModel& model = controller_.model();
+  model.setNext(as_controls_hold(event.values));
+  controller_.settings().showValues(model.next());
   controller_.setCurrentChamberValues();
-  chamber_view_.setHasEvent(true);
+  model.setHasEvent();
   controller_.renameWindows(name);
   controller_.displayViews();
   controller_.reorderWindows();

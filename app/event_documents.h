@@ -8,17 +8,15 @@
 namespace velquon {
 
 class ChamberController;
-class ChamberView;
 class UserDialogs;
 
-/// Event files: asks for them, reads them into the views and writes the shown event.
+/// Event files: asks for them, reads them into the model and writes the shown event.
 class EventDocuments : public QObject {
   Q_OBJECT
 
  public:
   /// All of these must outlive this object.
-  EventDocuments(ChamberController& controller, ChamberView& chamber_view, UserDialogs& dialogs,
-                 QObject* parent = nullptr);
+  EventDocuments(ChamberController& controller, UserDialogs& dialogs);
 
   /// Asks for a name and writes the shown event there, whole or not at all. A failure leaves a file
   /// of that name as it was and is told in an alert.
@@ -45,7 +43,6 @@ class EventDocuments : public QObject {
   void show(const StoredEvent& event, const QString& name);
 
   ChamberController& controller_;
-  ChamberView& chamber_view_;
   UserDialogs& dialogs_;
 };
 

@@ -15,7 +15,7 @@
 #include "app/event_documents.h"
 #include "app/pictures.h"
 #include "app/start_file.h"
-#include "widgets/user_dialogs.h"
+#include "app/desktop_dialogs.h"
 #include "app/x_display.h"
 
 namespace {

@@ -13,15 +13,14 @@
 #include <optional>
 
 #include "app/application.h"
-#include "chamber/chamber_window.h"
 #include "app/command_line.h"
 #include "app/menus.h"
-#include "projection/projector_window.h"
-#include "printing/whole_file.h"
-#include "render/chamber_scene.h"
 #include "chamber/chamber_view.h"
+#include "chamber/chamber_window.h"
 #include "events/event_types.h"
+#include "printing/whole_file.h"
 #include "projection/projection_view.h"
+#include "projection/projector_window.h"
 #include "ui_menus.h"
 
 namespace velquon {

@@ -1,4 +1,4 @@
-#include "widgets/plain_file_icons.h"
+#include "app/plain_file_icons.h"
 
 #include <QApplication>
 #include <QFileDialog>

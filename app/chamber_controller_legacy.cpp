@@ -1,0 +1,31 @@
+// One operation for each kind of decay, from before the kinds of events stood in a table. Nothing of
+// the program calls them; kept as the short way to one chain of decays.
+
+#include <algorithm>
+
+#include "app/chamber_controller.h"
+
+namespace velquon {
+
+namespace {
+
+const EventType& type_named(std::string_view key) {
+  return *std::ranges::find(event_types(), key, &EventType::key);
+}
+
+}  // namespace
+
+void ChamberController::makePionDecay() {
+  model_.makeTracks(type_named("pi+"));
+}
+void ChamberController::makeMuonDecay() {
+  model_.makeTracks(type_named("mu+"));
+}
+void ChamberController::makePizeroDecay() {
+  model_.makeTracks(type_named("pi0"));
+}
+void ChamberController::makeLambdaDecay() {
+  model_.makeTracks(type_named("lambda"));
+}
+
+}  // namespace velquon
