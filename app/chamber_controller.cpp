@@ -127,15 +127,10 @@ void ChamberController::print() {
   }
   // The page shows the picture at rest, as the panel's preview does.
   chamber_view_.stopRotating();
-  PrintView page(*view, window->title(), valuesToPrint(*view));
+  PrintView page(*view, window->title(),
+                 QString::fromStdString(chamber_view_.valuesOnPageOf(*view)));
   PrintPanel(page, QFileInfo(shownName()).completeBaseName(), *print_choices_, dialogs_, window)
       .exec();
-}
-
-QString ChamberController::valuesToPrint(const Printable& view) const {
-  const bool wanted = &view != &chamber_view_ || chamber_view_.show_values();
-  return wanted && chamber_view_.has_event() ? QString::fromStdString(chamber_view_.values_text())
-                                             : QString();
 }
 
 void ChamberController::set_event_type(int type) {

@@ -97,7 +97,6 @@ class ChamberController : public QObject {
   void handOver();
   void setPrintView(Printable* view);
   void keyWindowChanged();
-  [[nodiscard]] QString valuesToPrint(const Printable& view) const;
 
   ChamberModel& model_;
   ChamberWindow& chamber_window_;

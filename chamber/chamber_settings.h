@@ -31,6 +31,10 @@ class ChamberSettings {
   /// Chooses the energy range that holds a value; a value on a boundary goes to the higher range.
   void setEnergyRange(float energy_MeV);
 
+  // Set one value for the next event, past its control.
+  void setNextBField(float field_kG);
+  void setNextSidesCm(float side_cm);
+  void setNextMev(float energy_MeV);
   /// Takes the values of the sliders as they are, not as the labels round them to a tick.
   void setNextChamberValues();
   [[nodiscard]] const ChamberValues& next() const;

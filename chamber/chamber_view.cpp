@@ -86,9 +86,13 @@ std::string ChamberView::values_text() const {
   return velquon::values_text(current_values());
 }
 
+std::string ChamberView::valuesOnPageOf(const Printable& printed) const {
+  const bool is_wanted = &printed != this || (show_values() && !is_rotating());
+  return is_wanted && has_event() ? values_text() : std::string();
+}
+
 SceneOptions ChamberView::sceneOptions() const {
-  const bool with_values = has_event() && show_values() && !is_rotating();
-  return {.axes = show_axes(), .values = with_values ? values_text() : std::string()};
+  return {.axes = show_axes(), .values = valuesOnPageOf(*this)};
 }
 
 template <typename Change>

@@ -53,6 +53,9 @@ class ChamberView : public GLView, public Printable {
 
   /// The text of the values line.
   [[nodiscard]] std::string values_text() const;
+  /// The values line of a printed page: on this view's own page as on the screen, on another's
+  /// whenever there is an event; empty for none.
+  [[nodiscard]] std::string valuesOnPageOf(const Printable& printed) const;
 
   /// Change the event that this view shows, and nothing else of the program.
   void setData(std::span<const PlotPoint> points);

@@ -17,7 +17,7 @@
 #include <array>
 
 #include "app/event_documents.h"
-#include "widgets/user_dialogs.h"
+#include "app/desktop_dialogs.h"
 #include "gui/support/application_fixture.h"
 #include "gui/support/waiting.h"
 #include "support/event_bytes.h"

@@ -259,7 +259,7 @@ TEST_F(ChamberPictureTest, ANewContextShowsTheEventFromTheRestingViewpoint) {
 TEST_F(ChamberPictureTest, WithoutASeedTheClockSeedsTheGenerator) {
   for (int view = 0; view < 3; ++view) {
     const std::uint64_t before = Microseconds();
-    const ChamberView unseeded(std::nullopt);
+    const ChamberModel unseeded(std::nullopt);
     const std::uint64_t after = Microseconds();
     const std::array drawn{std::rand(), std::rand(), std::rand()};
     bool is_of_the_clock = false;

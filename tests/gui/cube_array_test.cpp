@@ -28,9 +28,8 @@ class CubeArrayTest : public ApplicationFixture {
     chamber().makeCurrent();
     QOpenGLFramebufferObject target(chamber_width, chamber_height);
     target.bind();
-    glViewport(0, 0, chamber_width, chamber_height);
-    glClear(GL_COLOR_BUFFER_BIT);
-    draw_chamber_frame(chamber().show_axes());
+    // The chamber by a scene without points, and over it the points one by one.
+    ChamberScene().draw(chamber().camera(), 1.0, 0, {.axes = chamber().show_axes(), .values = {}});
     draw_solid_cubes(chamber().data_ptr(), screen_cube_side, false);
     QImage picture = target.toImage().convertToFormat(QImage::Format_RGB32);
     target.release();

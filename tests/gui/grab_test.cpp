@@ -169,14 +169,4 @@ TEST_F(GrabTest, ACursorOfTwiceTheSizeShowsTheSamePicture) {
   }
 }
 
-TEST_F(GrabTest, ASenderThatIsNoToolLeavesTheToolAndResetsTheReading) {
-  clickButton("grab_tool");
-  control<QLabel>("tape_text").setText(QStringLiteral("D = 1.00 cm"));
-  projection().setTool(&control<QAbstractButton>("zoom_1"));
-  EXPECT_EQ(control<QLabel>("tape_text").text().toStdString(), "D =  0.00 cm");
-  expectCursor("grabber", {8, 9});
-  drag(projection(), {100, 100}, {140, 100});
-  EXPECT_EQ(offsets(), QPointF(510.0, 420.0));
-}
-
 }  // namespace velquon::test

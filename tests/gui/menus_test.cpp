@@ -239,11 +239,6 @@ TEST_F(MenusTest, AxesAreNumberedFromOne) {
   }
 }
 
-TEST_F(MenusTest, AnyOtherSenderOfTheAxisCountsAsZ) {
-  controller().set_axis(&item("axes_item"));
-  EXPECT_EQ(chamber().rotation_axis(), 3);
-}
-
 TEST_F(MenusTest, RatesSetTheDelay) {
   struct Case {
     const char* name;
@@ -300,8 +295,9 @@ TEST_F(MenusTest, MonitorsExcludeEachOther) {
 TEST_F(MenusTest, EveryItemButThePrintItemMayAlwaysBeChosen) {
   activateAnotherProgram();
   for (const auto& [path, name, shortcut] : titles) {
-    EXPECT_EQ(controller().validateMenuItem(&item(name)), name != std::string_view("print_item"))
-        << name;
+    if (path.front() != std::string_view("Track")) {
+      EXPECT_EQ(item(name).isEnabled(), name != std::string_view("print_item")) << name;
+    }
   }
 }
 

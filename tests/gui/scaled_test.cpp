@@ -35,8 +35,7 @@ class ScaledTest : public ApplicationFixture {
     target.bind();
     glViewport(0, 0, chamber_width, chamber_height);
     glClear(GL_COLOR_BUFFER_BIT);
-    place_overlay_text();
-    OverlayText().draw(chamber().values_text(), 1.0);
+    OverlayText().draw(chamber().values_text(), 1.0, velquon::Camera());
     QImage picture = target.toImage().convertToFormat(QImage::Format_RGB32);
     target.release();
     chamber().doneCurrent();

@@ -80,12 +80,7 @@ class TurntableTest : public ApplicationFixture {
     }
     EXPECT_GE(seen, 2U);
   }
-  [[nodiscard]] std::array<double, 16> viewpoint() {
-    std::array<double, 16> matrix{};
-    chamber().makeCurrent();
-    glGetDoublev(GL_MODELVIEW_MATRIX, matrix.data());
-    return matrix;
-  }
+  [[nodiscard]] velquon::Matrix viewpoint() { return chamber().camera().modelView(); }
   void expectNoMoreSteps() {
     EXPECT_FALSE(chamber().is_rotating());
     const auto steps = chamber().rotation_steps();

@@ -19,7 +19,9 @@ PdfPage print_to_pdf(Printable& view, ChamberView& chamber, const Paper& paper,
     QPdfWriter writer(path);
     writer.setPageSize(QPageSize(paper.id));
     writer.setPageMargins(QMarginsF(margin, margin, margin, margin), QPageLayout::Point);
-    EXPECT_TRUE(PrintView(view, QStringLiteral("Some Title"), chamber).print(writer));
+    EXPECT_TRUE(PrintView(view, QStringLiteral("Some Title"),
+                          QString::fromStdString(chamber.valuesOnPageOf(view)))
+                    .print(writer));
   }
   QFile file(path);
   EXPECT_TRUE(file.open(QIODevice::ReadOnly));

@@ -16,6 +16,7 @@
 #include "chamber/chamber_window.h"
 #include "projection/projector_window.h"
 #include "widgets/user_dialogs.h"
+#include "chamber/chamber_settings.h"
 #include "chamber/chamber_view.h"
 #include "engine/event_record.h"
 #include "projection/projection_view.h"

@@ -1,5 +1,5 @@
 // One operation for each kind of decay, from before the kinds of events stood in a table. Nothing of
-// the program calls them; kept as the short way to one chain of decays.
+// the program calls them any more; kept because these are operations that others may know and call.
 
 #include <algorithm>
 

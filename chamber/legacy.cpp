@@ -1,6 +1,7 @@
-// How the chamber view took an event in pieces before it was handed one whole. The program does so no
-// more; kept for those who put a view of their own together.
+// How events and values were passed on piece by piece before there was a model. Nothing of the program
+// does so any more; kept because these are operations that others may know and call.
 
+#include "chamber/chamber_settings.h"
 #include "chamber/chamber_view.h"
 
 namespace velquon {
@@ -32,6 +33,24 @@ void ChamberView::setCurrentSidesCm(float side_cm) {
 
 void ChamberView::setCurrentMev(float energy_MeV) {
   changeEvent([energy_MeV](ShownEvent& event) { event.values.kinetic_Mev = energy_MeV; });
+}
+
+void ChamberSettings::setNextBField(float field_kG) {
+  ChamberValues values = next();
+  values.B_field = field_kG;
+  model_.setNext(values);
+}
+
+void ChamberSettings::setNextSidesCm(float side_cm) {
+  ChamberValues values = next();
+  values.sides_cm = side_cm;
+  model_.setNext(values);
+}
+
+void ChamberSettings::setNextMev(float energy_MeV) {
+  ChamberValues values = next();
+  values.kinetic_Mev = energy_MeV;
+  model_.setNext(values);
 }
 
 }  // namespace velquon

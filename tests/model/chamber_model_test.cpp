@@ -1,0 +1,154 @@
+// Whole situations of the chamber without a window: a new event, one that is not handed over, an opened
+// file.
+
+#include "model/chamber_model.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <vector>
+
+namespace velquon::test {
+
+namespace {
+
+constexpr std::uint32_t seed = 20'240'611;
+constexpr int positive_muon = 4;
+constexpr int negative_pion = 0;
+
+std::vector<PlotPoint> copy_of(std::span<const PlotPoint> points) {
+  return {points.begin(), points.end()};
+}
+
+/// The event that the generators make of the seed as their first.
+std::vector<PlotPoint> first_event(std::size_t type, const ChamberValues& values) {
+  std::srand(seed);
+  TrackBuffer buffer;
+  EXPECT_EQ(make_event(event_types()[type], values, buffer), HandOver::yes);
+  return copy_of(buffer.points());
+}
+
+}  // namespace
+
+TEST(ChamberModelTest, ShowsNoEventAtFirst) {
+  const ChamberModel model(seed);
+  EXPECT_FALSE(model.shown()->has_event);
+  EXPECT_TRUE(model.shown()->points().empty());
+  EXPECT_EQ(model.event_type(), 0);
+}
+
+TEST(ChamberModelTest, TheSeedDecidesTheEventsOfEveryType) {
+  const ChamberValues values{.B_field = 2.0F, .sides_cm = 300.0F, .kinetic_Mev = 50.0F};
+  for (std::size_t type = 0; type < event_types().size(); ++type) {
+    ChamberModel model(seed);
+    model.setNext(values);
+    model.setEventType(static_cast<int>(type));
+    model.makeNewEvent();
+    const std::vector<PlotPoint> shown = copy_of(model.shown()->points());
+    EXPECT_EQ(shown, first_event(type, values)) << type;
+    EXPECT_EQ(model.shown()->tracks->type, type);
+    EXPECT_EQ(model.shown()->name, "Untitled Type " + std::to_string(type + 1) + " Decay");
+    EXPECT_TRUE(model.shown()->has_event);
+  }
+}
+
+TEST(ChamberModelTest, ANegativeParticleLeavesTheFieldThatIsTold) {
+  ChamberModel model(seed);
+  model.setNext({.B_field = 3.0F, .sides_cm = 300.0F, .kinetic_Mev = 50.0F});
+  model.setEventType(negative_pion);
+  model.makeNewEvent();
+  EXPECT_EQ(model.shown()->values.B_field, 3.0F);
+  EXPECT_EQ(model.next().B_field, 3.0F);
+}
+
+TEST(ChamberModelTest, KnowsWhatHappenedInANewEvent) {
+  ChamberModel model(seed);
+  model.setNext({.B_field = 3.0F, .sides_cm = 300.0F, .kinetic_Mev = 50.0F});
+  model.makeNewEvent();
+  ASSERT_TRUE(model.shown()->tracks->record);
+  EXPECT_FALSE(model.shown()->tracks->record->particles().empty());
+}
+
+TEST(ChamberModelTest, AnEventThatIsNotHandedOverChangesValuesAndNameAlone) {
+  ChamberModel model(seed);
+  model.setEventType(positive_muon);
+  // So large a chamber that an electron's ten million km are a few steps: it decays, too.
+  const ChamberValues values{.B_field = 0.0F, .sides_cm = 1e12F, .kinetic_Mev = 0.4F};
+  // Which events of the seed are not handed over.
+  std::srand(seed);
+  std::vector<bool> handed_over;
+  for (int event = 0; event < 50; ++event) {
+    TrackBuffer buffer;
+    handed_over.push_back(make_event(event_types()[positive_muon], values, buffer) == HandOver::yes);
+  }
+  std::srand(seed);
+  int kept = 0;
+  for (const bool is_handed_over : handed_over) {
+    const auto before = model.shown()->tracks;
+    model.showName("before");
+    model.setNext(values);
+    model.makeNewEvent();
+    EXPECT_EQ(model.shown()->tracks != before, is_handed_over);
+    EXPECT_EQ(model.shown()->name, "Untitled Type 5 Decay");
+    EXPECT_EQ(model.shown()->values.sides_cm, 1e12F);
+    kept += is_handed_over ? 0 : 1;
+  }
+  EXPECT_GT(kept, 10);
+}
+
+TEST(ChamberModelTest, AnOpenedEventHasNoRecordAndNoType) {
+  ChamberModel model(seed);
+  model.makeNewEvent();
+  const std::vector points{PlotPoint{.coords = {1.0, 2.0, 3.0, 1.0}, .code = 4}};
+  model.showTracks(points);
+  model.setNext(as_controls_hold({.B_field = -1.0F, .sides_cm = 123.4F, .kinetic_Mev = 7.0F}));
+  model.showNextValues();
+  model.setHasEvent();
+  model.showName("some.cwd");
+  EXPECT_EQ(copy_of(model.shown()->points()), points);
+  EXPECT_FALSE(model.shown()->tracks->type);
+  EXPECT_FALSE(model.shown()->tracks->record);
+  EXPECT_EQ(model.shown()->values.B_field, -1.0F);
+}
+
+TEST(ChamberModelTest, ControlsHoldTheSideInMetres) {
+  // A side that does not survive its way through metres.
+  const float side = 33.3F;
+  const float held = as_controls_hold({.sides_cm = side}).sides_cm;
+  EXPECT_EQ(held, cm_from_metres(metres_from_cm(side)));
+  EXPECT_EQ(as_controls_hold({.sides_cm = held}).sides_cm, held);
+}
+
+TEST(ChamberModelTest, AnEventOnceShownNeverChanges) {
+  ChamberModel model(seed);
+  model.setNext({.B_field = 3.0F, .sides_cm = 300.0F, .kinetic_Mev = 50.0F});
+  model.makeNewEvent();
+  const auto first = model.shown();
+  const std::vector<PlotPoint> points = copy_of(first->points());
+  model.makeNewEvent();
+  model.showName("other");
+  EXPECT_EQ(copy_of(first->points()), points);
+  EXPECT_EQ(first->name, "Untitled Type 1 Decay");
+}
+
+TEST(ChamberModelTest, TellsOfEachChange) {
+  ChamberModel model(seed);
+  int told = 0;
+  model.changed.add([&told] { ++told; });
+  model.setEventType(2);
+  model.setPreferences({.show_axes = false});
+  model.setNext({});
+  EXPECT_EQ(told, 3);
+  model.makeNewEvent();
+  EXPECT_GT(told, 3);
+}
+
+TEST(ChamberModelTest, AnEnergyOf0MakesAnEventWithoutPoints) {
+  ChamberModel model(seed);
+  model.setNext({.B_field = 1.0F, .sides_cm = 100.0F, .kinetic_Mev = 0.0F});
+  model.makeNewEvent();
+  EXPECT_TRUE(model.shown()->points().empty());
+  EXPECT_TRUE(model.shown()->has_event);
+}
+
+}  // namespace velquon::test

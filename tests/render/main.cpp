@@ -1,0 +1,17 @@
+#include <GL/freeglut.h>
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QSurfaceFormat>
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  QSurfaceFormat format;
+  format.setRenderableType(QSurfaceFormat::OpenGL);
+  format.setVersion(2, 1);
+  format.setProfile(QSurfaceFormat::NoProfile);
+  QSurfaceFormat::setDefaultFormat(format);
+  const QGuiApplication application(argc, argv);
+  glutInit(&argc, argv);
+  return RUN_ALL_TESTS();
+}
