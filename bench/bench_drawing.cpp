@@ -12,11 +12,11 @@
 #include <QOpenGLContext>
 #include <QOpenGLFramebufferObject>
 #include <cstdio>
+#include <span>
 
 #include "bench/requirement.h"
 #include "bench/tracks.h"
 #include "render/chamber_scene.h"
-#include "render/cube_array.h"
 #include "widgets/surface_format.h"
 
 namespace velquon::bench {
@@ -26,16 +26,19 @@ namespace {
 constexpr int repetitions = 21;
 constexpr double shortest_time = 0.05;  // seconds of one repetition
 
-template <typename DrawEvent>
-void draw_passes(benchmark::State& state, DrawEvent draw_event) {
+/// Draws a scene again and again, and something else after it.
+template <typename DrawBesides>
+void draw_passes(benchmark::State& state, std::span<const PlotPoint> points,
+                 DrawBesides draw_besides) {
+  ChamberScene scene;
+  scene.setPoints(points);
+  Camera camera;
   for ([[maybe_unused]] auto _ : state) {
-    glClear(GL_COLOR_BUFFER_BIT);
-    draw_chamber_frame(true);
-    draw_event();
+    scene.draw(camera, 1.0, points.size(), {});
+    draw_besides();
     glFinish();
     // What a view does ahead of its next step; the picture is never the same twice.
-    glMatrixMode(GL_MODELVIEW);
-    glRotatef(0.5F, 0.0F, 0.0F, 1.0F);
+    camera.turn(0.5, along_z);
   }
   if (glGetError() != GL_NO_ERROR) {
     state.SkipWithError("OpenGL reports an error");
@@ -45,22 +48,20 @@ void draw_passes(benchmark::State& state, DrawEvent draw_event) {
 }
 
 void empty_passes(benchmark::State& state) {
-  draw_passes(state, [] {});
+  draw_passes(state, {}, [] {});
 }
 
 void array_passes(benchmark::State& state) {
   const auto points = points_on_tracks(static_cast<int>(state.range()));
-  CubeArray cubes;
-  cubes.build(points, screen_cube_side);
-  draw_passes(state, [&] { cubes.draw(points.size()); });
+  draw_passes(state, points, [] {});
 }
 
 void glut_passes(benchmark::State& state) {
   const auto points = points_on_tracks(static_cast<int>(state.range()));
-  draw_passes(state, [&] { draw_solid_cubes(points, screen_cube_side, false); });
+  draw_passes(state, {}, [&] { draw_solid_cubes(points, screen_cube_side, false); });
 }
 
-/// A context with the chamber's viewpoint, drawing into a picture of the view's size.
+/// A context that draws into a picture of the view's size.
 class Canvas {
  public:
   Canvas() {
@@ -71,9 +72,6 @@ class Canvas {
     picture_ = std::make_unique<QOpenGLFramebufferObject>(
         chamber_width, chamber_height, QOpenGLFramebufferObject::CombinedDepthStencil);
     ready_ = picture_->bind();
-    glViewport(0, 0, chamber_width, chamber_height);
-    glClearColor(0.0F, 0.0F, 0.0F, 0.0F);
-    load_resting_viewpoint();
   }
 
   [[nodiscard]] bool ready() const { return ready_; }

@@ -21,7 +21,7 @@
 #include "app/desktop.h"
 #include "app/menus.h"
 #include "track/track_window.h"
-#include "widgets/user_dialogs.h"
+#include "app/desktop_dialogs.h"
 #include "app/x_display.h"
 #include "bench/event_loop.h"
 #include "bench/processor_time.h"

@@ -1,0 +1,77 @@
+#!/usr/bin/env python3
+"""Tries to include each folder's headers in each folder, with the options its sources are built with.
+
+usage: check_layers.py BUILD_FOLDER SOURCE_FOLDER
+
+A folder reaches its own headers and those of the folders below it that ALLOWED names; an include of
+any other must find no file.
+"""
+import json
+import shlex
+import subprocess
+import sys
+from pathlib import Path
+
+# What each folder may include beside itself.
+MODEL = {"engine", "events", "files", "model"}
+DRAWN = MODEL | {"render", "widgets", "printing"}
+ALLOWED = {
+    "engine": set(),
+    "events": {"engine"},
+    "files": {"engine"},
+    "tools": {"engine", "events", "files"},
+    "model": {"engine", "events", "files"},
+    "render": {"engine"},
+    "widgets": set(),
+    "printing": MODEL | {"render", "widgets"},
+    "chamber": DRAWN,
+    "projection": DRAWN,
+    "track": MODEL | {"widgets"},
+    "app": DRAWN | {"chamber", "projection", "track"},
+}
+
+
+def options_of(folder, commands, source_folder):
+    """The compiler and its options for the first source of a folder that is no exception."""
+    for command in commands:
+        source = Path(command["file"])
+        if source.parent == source_folder / folder and "hepmc3" not in source.name:
+            words = shlex.split(command["command"])
+            if words[0] == "ccache":
+                words = words[1:]
+            words = words[:words.index("-o")]
+            if "-include" in words:  # the precompiled header
+                at = words.index("-include")
+                del words[at:at + 2]
+            return command["directory"], words
+    raise SystemExit(f"no source of {folder}/ is built")
+
+
+def finds(folder, header, commands, source_folder):
+    """Whether a source of the folder finds a header."""
+    directory, options = options_of(folder, commands, source_folder)
+    # A header that is found is not read: what it includes in turn takes its time.
+    source = f'#if !__has_include("{header}")\n#include "{header}"\n#endif\n'
+    run = subprocess.run(options + ["-E", "-x", "c++", "-"], input=source, text=True, cwd=directory,
+                         capture_output=True)
+    if run.returncode != 0 and header not in run.stderr:
+        raise SystemExit(f"{folder}: {header}: {run.stderr}")
+    return run.returncode == 0
+
+
+def main():
+    build, source_folder = Path(sys.argv[1]), Path(sys.argv[2]).resolve()
+    commands = json.loads((build / "compile_commands.json").read_text())
+    wrong = []
+    for folder, below in ALLOWED.items():
+        for other in ALLOWED:
+            header = sorted((source_folder / other).glob("*.h"))[0]
+            wanted = other == folder or other in below
+            if finds(folder, f"{other}/{header.name}", commands, source_folder) != wanted:
+                wrong.append(f"{folder}/ {'does not find' if wanted else 'finds'} {other}/")
+    print("\n".join(wrong))
+    return 1 if wrong else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
