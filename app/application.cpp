@@ -10,10 +10,15 @@
 #include "app/guide_window.h"
 #include "app/menus.h"
 #include "app/readable_style.h"
+#include "app/track_commands.h"
 #include "chamber/chamber_view.h"
 #include "chamber/chamber_window.h"
 #include "projection/projection_view.h"
 #include "projection/projector_window.h"
+#include "track/new_track_view.h"
+#include "track/track_controller.h"
+#include "track/track_panel.h"
+#include "track/track_window.h"
 #include "ui_menus.h"
 #include "widgets/screen_room.h"
 
@@ -34,19 +39,21 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   chamber_window_->fillToolBar({items.new_event_item, items.replay_item, items.rotate_item,
                                 items.reset_orientation_item},
                                items.event_menu);
-  for (GLPanel* const window : windows()) {
-    menus_->installIn(*window);
-  }
+  join(*chamber_window_);
+  join(*projector_window_);
   addFileCommands();
   add_chamber_commands(*commands_, items, *controller_, *chamber_window_->view());
+  addTrackCommands();
   addWindowCommands();
   addHelpCommands();
-  connectDrops();
   controller_->awakeFromNib();
   commands_->refresh();
 }
 
-Application::~Application() = default;
+Application::~Application() {
+  // Before what it tells of: windows that go change the state of what they showed.
+  commands_.reset();
+}
 
 void Application::showWindows() {
   constexpr QPoint chamber_corner(20, 20);
@@ -72,8 +79,41 @@ bool Application::viewsCanDraw() const {
   return can_draw(*chamber_window_->view()) && can_draw(*projector_window_->view());
 }
 
-std::vector<GLPanel*> Application::windows() const {
-  return {chamber_window_.get(), projector_window_.get()};
+TrackWindow& Application::trackWindow() {
+  if (!track_window_) {
+    track_window_ = std::make_unique<TrackWindow>(track_model_);
+    join(*track_window_);
+    track_window_->setItems(menus_->items().inject_item, menus_->items().clear_screen_item);
+    track_window_->tellStatusIn(*chamber_window_);
+    track_window_->tellStatusIn(*projector_window_);
+    track_window_->awakeFromNib();
+  }
+  return *track_window_;
+}
+
+void Application::join(GLPanel& window) {
+  menus_->installIn(window);
+  // Queued: the program that the file comes from waits for the drop's end, not for an alert's.
+  connect(&window, &GLPanel::fileDropped, documents_.get(), &EventDocuments::application_openFile,
+          Qt::QueuedConnection);
+  // A file may be dropped where and when one may be opened.
+  const QAction* const open_item = menus_->items().open_item;
+  window.setTakesFiles(open_item->isEnabled());
+  connect(open_item, &QAction::enabledChanged, &window, &GLPanel::setTakesFiles);
+}
+
+void Application::addTrackCommands() {
+  const Ui::Menus& items = menus_->items();
+  add_track_commands(
+      *commands_, items, track_model_,
+      [this]() -> TrackController& { return trackWindow().controller(); },
+      [this]() -> NewTrackView& { return *trackWindow().panel().track_view(); });
+  // After the track's own command, which may have hidden the last window.
+  commands_->add({.item = items.activate_item, .run = [this] {
+                    if (!GLPanel::anyOnScreen()) {
+                      chamber_window_->makeKeyAndOrderFront();
+                    }
+                  }});
 }
 
 void Application::addFileCommands() {
@@ -92,7 +132,9 @@ void Application::addWindowCommands() {
   commands_->add({{.item = items.chamber_window_item,
                    .run = [this] { chamber_window_->makeKeyAndOrderFront(); }},
                   {.item = items.projector_window_item,
-                   .run = [this] { projector_window_->makeKeyAndOrderFront(); }}});
+                   .run = [this] { projector_window_->makeKeyAndOrderFront(); }},
+                  {.item = items.track_window_item,
+                   .run = [this] { trackWindow().makeKeyAndOrderFront(); }}});
 }
 
 void Application::addHelpCommands() {
@@ -100,16 +142,6 @@ void Application::addHelpCommands() {
   commands_->add(
       {{.item = items.guide_item, .run = [this] { showGuide(); }},
        {.item = items.about_item, .run = [] { show_about(QApplication::activeWindow()); }}});
-}
-
-void Application::connectDrops() {
-  for (GLPanel* const window : windows()) {
-    // Queued: the program that the file comes from waits for the drop's end, not for an alert's.
-    connect(window, &GLPanel::fileDropped, documents_.get(), &EventDocuments::application_openFile,
-            Qt::QueuedConnection);
-    // A file may be dropped where and when one may be opened.
-    connect(menus_->items().open_item, &QAction::enabledChanged, window, &GLPanel::setTakesFiles);
-  }
 }
 
 void Application::showGuide() {

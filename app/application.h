@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <vector>
 
 #include "model/chamber_model.h"
 #include "model/projector.h"
+#include "model/track_model.h"
 
 namespace velquon {
 
@@ -20,6 +20,7 @@ class GuideWindow;
 class Menus;
 class ProjectorWindow;
 class ScreenRoom;
+class TrackWindow;
 class UserDialogs;
 
 /// The program's model, windows, menus and controllers, built and joined.
@@ -46,24 +47,28 @@ class Application : public QObject {
   [[nodiscard]] Menus& menus() { return *menus_; }
   [[nodiscard]] ChamberWindow& chamberWindow() { return *chamber_window_; }
   [[nodiscard]] ProjectorWindow& projectorWindow() { return *projector_window_; }
+  [[nodiscard]] TrackWindow& trackWindow();
   [[nodiscard]] ChamberController& controller() { return *controller_; }
   [[nodiscard]] EventDocuments& documents() { return *documents_; }
 
  private:
-  [[nodiscard]] std::vector<GLPanel*> windows() const;
+  /// Gives a window the menus and has it take dropped files.
+  void join(GLPanel& window);
+  void addTrackCommands();
   void addFileCommands();
   void addWindowCommands();
   void addHelpCommands();
-  void connectDrops();
   void showGuide();
 
   ChamberModel model_;
   Projector projector_;
+  TrackModel track_model_;
   std::unique_ptr<ScreenRoom> screen_room_;
   std::unique_ptr<Menus> menus_;
   std::unique_ptr<ChamberWindow> chamber_window_;
   std::unique_ptr<ProjectorWindow> projector_window_;
-  std::unique_ptr<GuideWindow> guide_window_;  ///< made when first asked for
+  std::unique_ptr<TrackWindow> track_window_;  ///< made when first asked for, as the guide is
+  std::unique_ptr<GuideWindow> guide_window_;
   std::unique_ptr<ChamberController> controller_;
   std::unique_ptr<EventDocuments> documents_;
   std::unique_ptr<Commands> commands_;

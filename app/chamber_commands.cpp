@@ -1,6 +1,7 @@
 #include "app/chamber_commands.h"
 
 #include <QMenu>
+#include <QPointer>
 
 #include "app/chamber_controller.h"
 #include "app/commands.h"
@@ -82,7 +83,11 @@ void add_chamber_commands(Commands& commands, const Ui::Menus& menus,
   add_choices(commands, menus, controller, view);
   QObject::connect(&controller, &ChamberController::printViewChanged, &commands,
                    &Commands::refresh);
-  controller.model().changed.add([&commands] { commands.refresh(); });
+  controller.model().changed.add([table = QPointer(&commands)] {
+    if (table != nullptr) {
+      table->refresh();
+    }
+  });
 }
 
 }  // namespace velquon

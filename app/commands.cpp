@@ -18,6 +18,12 @@ void Commands::add(const std::vector<Command>& commands) {
   }
 }
 
+void Commands::enableBy(const QList<QAction*>& items, const std::function<bool()>& is_enabled) {
+  for (QAction* const item : items) {
+    commands_.push_back({.item = item, .run = {}, .is_enabled = is_enabled});
+  }
+}
+
 void Commands::refresh() const {
   for (const Command& command : commands_) {
     if (command.is_checked) {
@@ -25,6 +31,9 @@ void Commands::refresh() const {
     }
     if (command.is_enabled) {
       command.item->setEnabled(command.is_enabled());
+    }
+    if (command.title) {
+      command.item->setText(command.title());
     }
   }
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
+#include <QString>
 #include <functional>
 #include <utility>
 #include <vector>
@@ -17,6 +19,8 @@ struct Command {
   std::function<bool()> is_checked{};
   /// Whether the item can be chosen; null for one that always can.
   std::function<bool()> is_enabled{};
+  /// Title of the item with the mark of its key; null for one that keeps its own.
+  std::function<QString()> title{};
 };
 
 /// The table of the program's menu items. Choosing an item runs its command; afterwards, and whenever
@@ -29,6 +33,8 @@ class Commands : public QObject {
 
   void add(const Command& command);
   void add(const std::vector<Command>& commands);
+  /// Has items, whose commands are added elsewhere, be enabled by what the program knows.
+  void enableBy(const QList<QAction*>& items, const std::function<bool()>& is_enabled);
 
   /// Makes each item look as the program's state says.
   void refresh() const;

@@ -20,16 +20,17 @@
 #include "app/application.h"
 #include "app/desktop.h"
 #include "app/menus.h"
-#include "track/track_window.h"
-#include "app/desktop_dialogs.h"
 #include "app/x_display.h"
 #include "bench/event_loop.h"
 #include "bench/processor_time.h"
 #include "bench/requirement.h"
-#include "widgets/value_slider.h"
+#include "model/track_model.h"
 #include "track/new_track_view.h"
 #include "track/track_panel.h"
+#include "track/track_window.h"
 #include "ui_menus.h"
+#include "app/desktop_dialogs.h"
+#include "widgets/value_slider.h"
 
 namespace velquon::bench {
 
@@ -49,9 +50,13 @@ void set_field(TrackWindow& window, float field) {
   panel.track_view()->setMagField(panel.vSlider());
 }
 
-void make_steps(NewTrackView& view, int points) {
-  while (view.is_tracking() && view.simulation().show_points() < points) {
-    view.TrackWithTimer(nullptr);
+int points_of(TrackWindow& window) {
+  return window.model().simulation().show_points();
+}
+
+void make_steps(TrackWindow& window, int points) {
+  while (window.model().is_tracking() && points_of(window) < points) {
+    window.panel().track_view()->TrackWithTimer(nullptr);
   }
 }
 
@@ -75,13 +80,13 @@ void step(benchmark::State& state, Application& application) {
   view.trackTimer()->stop();
   view.hide();
   if (long_track) {
-    make_steps(view, steps_to_the_middle);
+    make_steps(window, steps_to_the_middle);
     set_field(window, bending_field);
   }
-  make_steps(view, points - 1);
+  make_steps(window, points - 1);
   view.show();
   run_event_loop(100);
-  make_steps(view, points);
+  make_steps(window, points);
 
   std::vector<double> step_seconds;
   for ([[maybe_unused]] auto _ : state) {
@@ -95,7 +100,7 @@ void step(benchmark::State& state, Application& application) {
       break;
     }
   }
-  if (view.simulation().show_points() < points + timed_steps) {
+  if (points_of(window) < points + timed_steps) {
     state.SkipWithError("the track ended early");
   }
   // A step that something else went into does not count.
@@ -106,28 +111,29 @@ void step(benchmark::State& state, Application& application) {
   // The next run can be started when the particle has left.
   view.hide();
   set_field(window, 0.0F);
-  make_steps(view, std::numeric_limits<int>::max());
+  make_steps(window, std::numeric_limits<int>::max());
   view.show();
 }
 
 void fly(benchmark::State& state, Application& application) {
   constexpr int flight = 1000;  // milliseconds, less than the way across takes
-  NewTrackView& view = *application.trackWindow().panel().track_view();
+  TrackWindow& window = application.trackWindow();
+  NewTrackView& view = *window.panel().track_view();
   view.setSpeed(1.0F);
-  set_field(application.trackWindow(), 0.0F);
+  set_field(window, 0.0F);
   application.menus().items().faster_item->trigger();
   inject(application);
   for ([[maybe_unused]] auto _ : state) {
-    const int before = view.simulation().show_points();
+    const int before = points_of(window);
     const auto start = std::chrono::steady_clock::now();
     run_event_loop(flight);
     const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
     state.SetIterationTime(time.count());
-    state.counters["steps/s"] = (view.simulation().show_points() - before) / time.count();
+    state.counters["steps/s"] = (points_of(window) - before) / time.count();
   }
   view.trackTimer()->stop();
   view.hide();
-  make_steps(view, std::numeric_limits<int>::max());
+  make_steps(window, std::numeric_limits<int>::max());
   view.show();
 }
 

@@ -13,9 +13,6 @@ constexpr double margin = 0.01;
 // Radians that a field of 1 turns a charge of 1 in a unit of time.
 constexpr double turn_rate = 0.05;
 
-// Below that many points every drawing shows the whole track, above it only so many of the newest.
-constexpr std::int32_t newest_points = 100;
-
 constexpr std::int32_t most_points = 9996;  // a track that has so many is compacted
 constexpr std::int32_t dropped_points = 5000;
 constexpr std::int32_t kept_points = most_points - dropped_points;
@@ -92,7 +89,6 @@ void TrackSimulation::goOn() {
   if (resetting) {
     resetting = false;
     stretching = false;
-    do_all = false;
   }
   if (stepping_.istep >= most_points) {
     compact();
@@ -106,15 +102,6 @@ void TrackSimulation::compact() {
   stepping_.istep = kept_points;
   show_points_ = kept_points;
   resetting = true;
-  do_all = true;
-}
-
-bool TrackSimulation::needsClearing() const {
-  return show_points_ < 2 || stretching || resetting;
-}
-
-std::int32_t TrackSimulation::firstPoint() const {
-  return show_points_ < newest_points || do_all ? 0 : show_points_ - newest_points;
 }
 
 }  // namespace velquon

@@ -45,8 +45,7 @@ class TrackSimulation {
 
   LiveTrackSettings settings;
 
-  /// The flags that say how the next drawing is made, beside `show_points`.
-  bool do_all = false;      ///< every point, not only the newest
+  // The flags by which the next drawing begins with an empty picture, beside `show_points`.
   bool resetting = false;   ///< the point arrays were just compacted
   bool stretching = false;  ///< the tape is being dragged
 
@@ -74,10 +73,6 @@ class TrackSimulation {
   /// Goes on to the next point; drops the older half of a track that has become too long.
   void goOn();
 
-  /// Whether the next drawing begins with an empty picture.
-  [[nodiscard]] bool needsClearing() const;
-  /// The first point of the next drawing.
-  [[nodiscard]] std::int32_t firstPoint() const;
   /// Number of points of the track.
   [[nodiscard]] std::int32_t show_points() const { return show_points_; }
 

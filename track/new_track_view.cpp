@@ -3,39 +3,24 @@
 #include <GL/gl.h>
 #include <GL/glu.h>
 
-#include <QLabel>
 #include <QTimer>
-#include <chrono>
-#include <cmath>
 
-#include "model/clock.h"
+#include "model/track_model.h"
 #include "widgets/cursors.h"
 #include "widgets/value_slider.h"
-#include "track/track_controller.h"
 
 namespace velquon {
 
 namespace {
 
-// A field that near to a tick mark is the tick mark's.
-constexpr double snapping_distance = 0.005;
-
 constexpr QPoint hot_spot{7, 7};
-
-std::uint64_t microseconds_of(const QTimer& timer) {
-  return static_cast<std::uint64_t>(timer.interval()) * 1000;
-}
-
-std::chrono::milliseconds milliseconds_of(double seconds) {
-  return std::chrono::milliseconds(std::lround(seconds * 1000.0));
-}
 
 }  // namespace
 
 NewTrackView::NewTrackView(QWidget* parent) : GLView(parent), clock_(Microseconds) {
   // A new framebuffer is empty, also one of the same size in view units on another screen.
   connect(this, &QOpenGLWidget::resized, this, [this] {
-    picture_lost_ = true;
+    drawing_.losePicture();
     makeCursors();
     resetCursorRects();
   });
@@ -54,34 +39,31 @@ void NewTrackView::makeCursors() {
 }
 
 void NewTrackView::setCharge(float charge) {
-  simulation_.settings.charge = static_cast<double>(charge);
+  LiveTrackSettings settings = model_->simulation().settings;
+  settings.charge = static_cast<double>(charge);
+  model_->setSettings(settings);
 }
 
 void NewTrackView::setSpeed(float speed) {
-  simulation_.settings.speed = static_cast<double>(speed);
+  LiveTrackSettings settings = model_->simulation().settings;
+  settings.speed = static_cast<double>(speed);
+  model_->setSettings(settings);
 }
 
 void NewTrackView::setDirection(std::int32_t direction) {
-  simulation_.settings.direction = direction;
+  LiveTrackSettings settings = model_->simulation().settings;
+  settings.direction = direction;
+  model_->setSettings(settings);
 }
 
 void NewTrackView::setMagField(const ValueSlider* sender) {
   const double value = sender->doubleValue();
-  const double tick = sender->closestTickMarkValueToValue(value);
-  takeField(std::fabs(tick - value) < snapping_distance ? tick : value);
+  model_->takeField(value, sender->closestTickMarkValueToValue(value));
 }
 
-void NewTrackView::takeField(double field) {
-  simulation_.settings.B_field = field;
-  Q_EMIT fieldTaken(field);
-}
-
-void NewTrackView::injectParticle(QAction* /*sender*/) {
-  simulation_.launch();
+void NewTrackView::injectParticle() {
   clearColorBuffer();
-  tape_box_->clear();
-  setTracking(true);
-  track_controller_->doMenus(false);
+  model_->inject();
   resetCursorRects();
   QMetaObject::invokeMethod(this, &NewTrackView::trackOnScreen, Qt::QueuedConnection);
 }
@@ -97,18 +79,18 @@ void NewTrackView::startTracking() {
   prepareForTracking();
   auto timer = std::make_unique<QTimer>();
   timer->setTimerType(Qt::PreciseTimer);
-  timer->setInterval(milliseconds_of(timerSecs_));
+  timer->setInterval(model_->stepPeriod());
   connect(timer.get(), &QTimer::timeout, this, [this] { makeStepsDue(); });
   setTrackTimer(std::move(timer));
-  pace_.start(clock_() + microseconds_of(*trackTimer_));
+  model_->startPace(clock_());
   trackTimer_->start();
 }
 
 void NewTrackView::prepareForTracking() {
-  simulation_.enter(timed_start);
+  model_->enter(timed_start);
   // A step of an earlier run may have drawn since the injection.
-  picture_lost_ = true;
-  setTracking(true);
+  drawing_.losePicture();
+  model_->setTracking(true);
 }
 
 void NewTrackView::setTrackTimer(std::unique_ptr<QTimer> timer) {
@@ -118,7 +100,7 @@ void NewTrackView::setTrackTimer(std::unique_ptr<QTimer> timer) {
 void NewTrackView::makeStepsDue() {
   // What it costs to bring a picture to the screen does not slow the particle down: the firings
   // that were lost meanwhile are made up for.
-  std::uint64_t steps = pace_.takeStepsDue(clock_(), microseconds_of(*trackTimer_));
+  std::uint64_t steps = model_->takeStepsDue(clock_());
   do {
     TrackWithTimer(trackTimer_.get());
     --steps;
@@ -126,7 +108,7 @@ void NewTrackView::makeStepsDue() {
 }
 
 void NewTrackView::TrackWithTimer(QTimer* timer) {
-  if (simulation_.canStep()) {
+  if (model_->simulation().canStep()) {
     step();
     return;
   }
@@ -137,34 +119,32 @@ void NewTrackView::TrackWithTimer(QTimer* timer) {
 }
 
 void NewTrackView::step() {
-  simulation_.advance();
+  model_->advance();
   redrawForStep();
-  if (simulation_.takeClearSignal()) {
+  if (model_->takeClearSignal()) {
     clearColorBuffer();
   }
-  simulation_.goOn();
+  const bool was_resetting = model_->simulation().resetting;
+  model_->goOn();
+  drawing_.wentOn(model_->simulation(), was_resetting);
 }
 
 void NewTrackView::endRun() {
-  setTracking(false);
-  if (track_controller_->activated()) {
-    track_controller_->doMenus(true);
-  }
+  model_->endRun();
   resetCursorRects();
 }
 
 void NewTrackView::stopTracking() {
-  setTracking(false);
+  model_->setTracking(false);
 }
 
-void NewTrackView::setTracking(bool tracking) {
-  simulation_.setTracking(tracking);
-  Q_EMIT trackingChanged();
+bool NewTrackView::is_tracking() const {
+  return model_->is_tracking();
 }
 
-void NewTrackView::clearScreen(QAction* /*sender*/) {
+void NewTrackView::clearScreen() {
   if (is_tracking()) {
-    simulation_.setClearSignal();
+    model_->setClearSignal();
     return;
   }
   clearColorBuffer();
@@ -192,7 +172,9 @@ void NewTrackView::redrawForStep() {
 
 void NewTrackView::notePictureLost() {
   // Out of sight nothing is drawn, so that the newest points alone would not do later.
-  picture_lost_ = picture_lost_ || !isValid() || !isVisible();
+  if (!isValid() || !isVisible()) {
+    drawing_.losePicture();
+  }
 }
 
 void NewTrackView::clearColorBuffer() {
@@ -205,7 +187,7 @@ void NewTrackView::clearColorBuffer() {
 
 void NewTrackView::reshape() {
   glClear(GL_COLOR_BUFFER_BIT);
-  simulation_.do_all = true;
+  drawing_.showAll();
 }
 
 void NewTrackView::drawRect() {
@@ -216,29 +198,27 @@ void NewTrackView::drawRect() {
   glClearColor(0.0F, 0.0F, 0.0F, 0.0F);
   glViewport(0, 0, qRound(seen.width() * ratio), qRound(seen.height() * ratio));
   gluOrtho2D(0.0, seen.width(), 0.0, seen.height());
-  if (simulation_.needsClearing() || picture_lost_) {
+  const TrackSimulation& track = model_->simulation();
+  if (drawing_.needsClearing(track)) {
     glClear(GL_COLOR_BUFFER_BIT);
   }
-  simulation_.do_all = simulation_.do_all || picture_lost_;
-  picture_lost_ = false;
   glTranslated(-seen.x(), -seen.y(), 0.0);
   glLineWidth(static_cast<float>(ratio));
   drawTrack();
-  if (simulation_.stretching) {
+  if (model_->tape().visible) {
     drawTape();
   }
   glFlush();
-  if (!simulation_.stretching) {
-    simulation_.do_all = false;
-  }
+  drawing_.drawn(track);
 }
 
 void NewTrackView::drawTrack() const {
-  const std::span<const float> x = simulation_.x_points();
-  const std::span<const float> y = simulation_.y_points();
+  const TrackSimulation& track = model_->simulation();
+  const std::span<const float> x = track.x_points();
+  const std::span<const float> y = track.y_points();
   glColor3f(1.0F, 1.0F, 1.0F);
   glBegin(GL_LINE_STRIP);
-  for (auto point = static_cast<std::size_t>(simulation_.firstPoint()); point < x.size(); ++point) {
+  for (auto point = static_cast<std::size_t>(drawing_.firstPoint(track)); point < x.size(); ++point) {
     glVertex3f(x[point], y[point], 0.0F);
   }
   glEnd();

@@ -1,26 +1,23 @@
 #pragma once
 
 #include <QCursor>
-#include <QPointF>
 #include <cstdint>
-#include <functional>
 #include <memory>
 
+#include "model/clock.h"
+#include "model/track_drawing.h"
 #include "widgets/gl_view.h"
-#include "model/step_pace.h"
-#include "model/track_simulation.h"
 
-class QAction;
-class QLabel;
 class QTimer;
 
 namespace velquon {
 
-class TrackController;
+class TrackModel;
 class ValueSlider;
 
-/// The live track: an electron or a positron that crosses a plane in a magnetic field, drawn while
-/// it moves, and a tape measure to lay on its track. Everything runs on the main thread.
+/// The picture of the live track: an electron or a positron that crosses a plane in a magnetic
+/// field, drawn while it moves, and a tape measure to lay on its track. It makes the steps of a run,
+/// by a timer. Everything runs on the main thread.
 class NewTrackView : public GLView {
   Q_OBJECT
 
@@ -29,8 +26,9 @@ class NewTrackView : public GLView {
   /// A run that goes on, or is about to start, ends with the view, without a trace.
   ~NewTrackView() override;
 
-  void setTrackController(TrackController* controller) { track_controller_ = controller; }
-  void setTapeBox(QLabel* tape_box) { tape_box_ = tape_box; }
+  /// Gives the view what it shows. To be called once, before anything else.
+  /// \param model must outlive the view
+  void setModel(TrackModel& model) { model_ = &model; }
   /// Makes the cursors, when the window has been built.
   void awakeFromNib();
 
@@ -43,12 +41,9 @@ class NewTrackView : public GLView {
   /// Takes the slider's field, or that of the tick mark when one is next to it. Counts from the
   /// next step on.
   void setMagField(const ValueSlider* sender);
-  /// Period of the step timer in seconds; counts from the next start on.
-  void setTimerSecs(double seconds) { timerSecs_ = seconds; }
-  [[nodiscard]] double timerSecs() const { return timerSecs_; }
 
   /// Starts a run, from the event loop; one that goes on is given up.
-  void injectParticle(QAction* sender);
+  void injectParticle();
   /// What an injection has the event loop do: starts the run.
   void trackOnScreen();
   void startTracking();
@@ -57,10 +52,10 @@ class NewTrackView : public GLView {
   void TrackWithTimer(QTimer* timer);
   /// Says that no run goes on. The timer moves the particle on until it leaves the area.
   void stopTracking();
-  [[nodiscard]] bool is_tracking() const { return simulation_.is_tracking(); }
+  [[nodiscard]] bool is_tracking() const;
 
   /// Clears the picture, during a run the track up to the present point with it.
-  void clearScreen(QAction* sender);
+  void clearScreen();
 
   /// Length of the tape, a tenth of its view units.
   [[nodiscard]] double tapeLength() const;
@@ -74,9 +69,7 @@ class NewTrackView : public GLView {
 
   /// Has the pace of the steps read another clock than the computer's, from the next start on.
   /// \param clock microseconds, never stepping back
-  void setClock(std::function<std::uint64_t()> clock) { clock_ = std::move(clock); }
-
-  [[nodiscard]] const TrackSimulation& simulation() const { return simulation_; }
+  void setClock(Clock clock) { clock_ = std::move(clock); }
 
   // What was there before the step timer, and is kept beside it.
 
@@ -85,18 +78,12 @@ class NewTrackView : public GLView {
   [[nodiscard]] std::int32_t musecs() const { return musecs_; }
   /// Sets the field to that of the old slider, 0, and makes a step at once when a run goes on.
   void sliderSet();
-  void goAhead(QAction* sender);
+  void goAhead();
   [[nodiscard]] bool pause() const { return pause_; }
   /// Notes that a timer fired and stops it.
   static void TestTimer(QTimer* timer);
   /// Runs to the end without returning to the event loop.
   void OldtrackOnScreen();
-
- Q_SIGNALS:
-  /// The view has taken a field.
-  void fieldTaken(double field);
-  /// A run begins or ends.
-  void trackingChanged();
 
  protected:
   void drawRect() override;
@@ -106,8 +93,6 @@ class NewTrackView : public GLView {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
-  void setTracking(bool tracking);
-  void takeField(double field);
   void makeStepsDue();
   void step();
   void endRun();
@@ -118,22 +103,16 @@ class NewTrackView : public GLView {
   void makeCursors();
   void resetCursorRects();
   void drawTrack() const;
-  void drawTape();
+  void drawTape() const;
 
-  TrackController* track_controller_ = nullptr;
-  QLabel* tape_box_ = nullptr;
+  TrackModel* model_ = nullptr;
   QCursor cross_hair_cursor_;
   QCursor black_hair_cursor_;
-  TrackSimulation simulation_;
-  double timerSecs_ = 0.01;
   std::int32_t musecs_ = 4000;
   bool pause_ = false;
-  bool picture_lost_ = true;  ///< the next drawing has to make the picture anew
-  QPointF tape_start_point_;
-  QPointF tape_end_point_;
+  TrackDrawing drawing_;
   std::unique_ptr<QTimer> trackTimer_;
-  std::function<std::uint64_t()> clock_;
-  StepPace pace_;
+  Clock clock_;
 };
 
 }  // namespace velquon

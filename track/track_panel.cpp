@@ -2,9 +2,10 @@
 
 #include <QAction>
 
-#include "widgets/number_text.h"
+#include "model/track_model.h"
 #include "track/new_track_view.h"
-#include "ui_track_window.h"
+#include "ui_track_panel.h"
+#include "widgets/number_text.h"
 
 namespace velquon {
 
@@ -39,29 +40,30 @@ void make_stand_for(QAbstractButton* button, QAction* item, QWidget* keys_meanwh
 
 }  // namespace
 
-TrackPanel::TrackPanel(QWidget* parent)
-    : QWidget(parent), ui_(std::make_unique<Ui::track_panel>()) {
+TrackPanel::TrackPanel(TrackModel& model, QWidget* parent)
+    : QWidget(parent), model_(model), ui_(std::make_unique<Ui::track_panel>()) {
   ui_->setupUi(this);
   NewTrackView* view = ui_->track_view;
+  view->setModel(model);
   view->awakeFromNib();
-  view->setTapeBox(ui_->tape_box);
   connect(ui_->vSlider, &ValueSlider::moved, view,
           [this] { track_view()->setMagField(vSlider()); });
-  connect(view, &NewTrackView::fieldTaken, ui_->field_text, [this](double field) {
-    ui_->field_text->setText(QStringLiteral("B = %1").arg(fixed_text(field, 0, 2)));
-  });
+  model_.changed.add([this] { showModel(); });
 }
 
 TrackPanel::~TrackPanel() = default;
 
 void TrackPanel::setItems(QAction* inject_item, QAction* clear_item) {
-  NewTrackView* view = ui_->track_view;
-  connect(inject_item, &QAction::triggered, view,
-          [view, inject_item] { view->injectParticle(inject_item); });
-  connect(clear_item, &QAction::triggered, view,
-          [view, clear_item] { view->clearScreen(clear_item); });
-  make_stand_for(ui_->inject_button, inject_item, view);
-  make_stand_for(ui_->clear_button, clear_item, view);
+  make_stand_for(ui_->inject_button, inject_item, ui_->track_view);
+  make_stand_for(ui_->clear_button, clear_item, ui_->track_view);
+}
+
+void TrackPanel::showModel() {
+  const double field = model_.simulation().settings.B_field;
+  const std::optional<double> reading = model_.reading();
+  ui_->field_text->setText(QStringLiteral("B = %1").arg(fixed_text(field, 0, 2)));
+  ui_->tape_box->setText(
+      reading ? QStringLiteral("D = %1").arg(fixed_text(*reading, 5, 2)) : QString());
 }
 
 NewTrackView* TrackPanel::track_view() const {

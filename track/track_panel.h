@@ -14,6 +14,7 @@ class track_panel;
 namespace velquon {
 
 class NewTrackView;
+class TrackModel;
 class ValueSlider;
 
 /// What the track window holds: the view, the field slider with its value, the tape's reading and
@@ -22,10 +23,11 @@ class TrackPanel : public QWidget {
   Q_OBJECT
 
  public:
-  explicit TrackPanel(QWidget* parent = nullptr);
+  /// \param model what it shows; it must outlive the panel, and be left alone once that is gone
+  explicit TrackPanel(TrackModel& model, QWidget* parent = nullptr);
   ~TrackPanel() override;
 
-  /// Has the view do what the two menu items say, and makes each button stand for its item.
+  /// Makes each of the two buttons stand for a menu item: do what it does while it is enabled.
   void setItems(QAction* inject_item, QAction* clear_item);
 
   [[nodiscard]] NewTrackView* track_view() const;
@@ -36,6 +38,9 @@ class TrackPanel : public QWidget {
   [[nodiscard]] QAbstractButton* clear_button() const;
 
  private:
+  void showModel();
+
+  TrackModel& model_;
   std::unique_ptr<Ui::track_panel> ui_;
 };
 

@@ -2,40 +2,38 @@
 
 #include <GL/gl.h>
 
-#include <QLabel>
 #include <QMouseEvent>
-#include <cmath>
 
-#include "widgets/number_text.h"
+#include "model/track_model.h"
 #include "track/new_track_view.h"
 
 namespace velquon {
 
 namespace {
 
-constexpr double reading_per_view_unit = 0.1;
+Place place_of(QPointF point) {
+  return {point.x(), point.y()};
+}
 
 }  // namespace
 
 double NewTrackView::tapeLength() const {
-  const QPointF span = tape_end_point_ - tape_start_point_;
-  return reading_per_view_unit * std::hypot(span.x(), span.y());
+  return model_->tapeLength();
 }
 
 void NewTrackView::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) {
     return;
   }
-  tape_start_point_ = locationOf(*event);
+  model_->press(place_of(locationOf(*event)));
 }
 
 void NewTrackView::mouseMoveEvent(QMouseEvent* event) {
   if (!event->buttons().testFlag(Qt::LeftButton)) {
     return;
   }
-  simulation_.stretching = true;
-  simulation_.do_all = true;
-  tape_end_point_ = locationOf(*event);
+  model_->drag(place_of(locationOf(*event)));
+  drawing_.showAll();
   redraw();
 }
 
@@ -43,21 +41,20 @@ void NewTrackView::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) {
     return;
   }
-  tape_end_point_ = locationOf(*event);
   clearColorBuffer();
-  simulation_.stretching = false;
+  model_->release(place_of(locationOf(*event)));
   // The whole track now, also after a click that was no drag, and with the next drawing again.
-  simulation_.do_all = true;
+  drawing_.showAll();
   redraw();
-  simulation_.do_all = true;
+  drawing_.showAll();
 }
 
-void NewTrackView::drawTape() {
-  tape_box_->setText(QStringLiteral("D = %1").arg(fixed_text(tapeLength(), 5, 2)));
+void NewTrackView::drawTape() const {
+  const Tape tape = model_->tape();
   glColor3f(1.0F, 0.0F, 0.0F);
   glBegin(GL_LINES);
-  glVertex3d(tape_start_point_.x(), tape_start_point_.y(), 0.0);
-  glVertex3d(tape_end_point_.x(), tape_end_point_.y(), 0.0);
+  glVertex3d(tape.start.x, tape.start.y, 0.0);
+  glVertex3d(tape.end.x, tape.end.y, 0.0);
   glEnd();
 }
 

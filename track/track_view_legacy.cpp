@@ -1,8 +1,10 @@
-// What the track view did before it had the step timer. No path of the program leads here.
+// What the track view did before it had the step timer, kept to compare the timed steps with. No path
+// of the program leads here.
 
 #include <QDebug>
 #include <QTimer>
 
+#include "model/track_model.h"
 #include "track/new_track_view.h"
 
 namespace velquon {
@@ -16,13 +18,13 @@ constexpr TrackStart legacy_start{.y = 235.0, .time_interval = 0.25};
 }  // namespace
 
 void NewTrackView::sliderSet() {
-  takeField(Bset);
+  model_->takeField(Bset, Bset);
   if (is_tracking()) {
     TrackWithTimer(trackTimer_.get());
   }
 }
 
-void NewTrackView::goAhead(QAction* /*sender*/) {
+void NewTrackView::goAhead() {
   pause_ = false;
 }
 
@@ -32,9 +34,9 @@ void NewTrackView::TestTimer(QTimer* timer) {
 }
 
 void NewTrackView::OldtrackOnScreen() {
-  simulation_.enter(legacy_start);
-  picture_lost_ = true;
-  while (simulation_.isInLegacyArea() && is_tracking()) {
+  model_->enter(legacy_start);
+  drawing_.losePicture();
+  while (model_->simulation().isInLegacyArea() && is_tracking()) {
     pause_ = true;
     step();
   }

@@ -6,13 +6,10 @@
 
 class QAction;
 
-namespace Ui {
-class Menus;
-}
-
 namespace velquon {
 
 class TrackController;
+class TrackModel;
 class TrackPanel;
 
 /// The window of the live track, with its controller.
@@ -20,23 +17,25 @@ class TrackWindow : public GLPanel {
   Q_OBJECT
 
  public:
-  explicit TrackWindow(const Ui::Menus& menus);
+  /// \param model what it shows; it must outlive the window, and be left alone once that is gone
+  explicit TrackWindow(TrackModel& model);
   ~TrackWindow() override;
 
-  /// Puts menus and controls into their start-up state.
+  /// Puts choices and controls into their start-up state.
   void awakeFromNib();
+
+  /// Makes each of the window's two buttons stand for a menu item.
+  void setItems(QAction* inject_item, QAction* clear_item);
 
   /// Has a line at the foot of another window tell that this one is active, while it is.
   void tellStatusIn(QMainWindow& window);
 
+  [[nodiscard]] TrackModel& model() { return model_; }
   [[nodiscard]] TrackPanel& panel() { return *panel_; }
   [[nodiscard]] TrackController& controller() { return *controller_; }
 
  private:
-  void connectItems(const Ui::Menus& menus);
-  /// The way back to the window when it was closed while active.
-  void connectWindowItem(QAction& track_window_item);
-
+  TrackModel& model_;
   TrackPanel* panel_;
   std::unique_ptr<TrackController> controller_;
 };

@@ -86,7 +86,7 @@ TEST_F(TrackWindowTest, CheckMarksAtStartAreTheViewsState) {
 }
 
 TEST_F(TrackWindowTest, NoScreenSpeedIsMarkedAsNoItemGivesThatOfTheStart) {
-  EXPECT_EQ(view().timerSecs(), 0.01);
+  EXPECT_EQ(trackWindow().model().timerSecs(), 0.01);
   for (const QAction* const choice : itemAt("Track/Screen Speed").menu()->actions()) {
     EXPECT_FALSE(choice->isCheckable()) << choice->text().toStdString();
   }
@@ -157,7 +157,7 @@ TEST_F(TrackWindowTest, ItsItemsAreChosenByTheKeysOfTheMenuAndByShortcuts) {
     ASSERT_TRUE(wait_until([&] { return view().is_tracking() && points() > 1; }));
     holdRun();
     do_it(trackWindow(), Qt::Key_L, "Track/Clear Screen");
-    EXPECT_TRUE(view().simulation().clear_signal());
+    EXPECT_TRUE(simulation().clear_signal());
     do_it(trackWindow(), Qt::Key_K, "Track/Deactivate");
     EXPECT_FALSE(trackWindow().isVisible());
     EXPECT_FALSE(view().is_tracking());

@@ -24,15 +24,15 @@ TEST(TrackController, StartsInactiveWithItsDefaults) {
   const TrackRig rig;
   EXPECT_FALSE(rig.controller->activated());
   EXPECT_FALSE(rig.window->isVisible());
-  EXPECT_EQ(rig.controller->v_choice(), 2);
-  EXPECT_EQ(rig.controller->particle_choice(), 1);
-  EXPECT_EQ(rig.controller->direction_choice(), 1);
-  const LiveTrackSettings& settings = rig.view->simulation().settings;
+  EXPECT_EQ(rig.model.speed(), 2);
+  EXPECT_EQ(rig.model.particle(), TrackParticle::electron);
+  EXPECT_EQ(rig.model.direction(), TrackDirection::left_to_right);
+  const LiveTrackSettings& settings = rig.model.simulation().settings;
   EXPECT_EQ(settings.speed, 2.0);
   EXPECT_EQ(settings.charge, -1.0);
   EXPECT_EQ(settings.direction, 1);
   EXPECT_EQ(settings.B_field, 0.0);
-  EXPECT_EQ(rig.view->timerSecs(), 0.01);
+  EXPECT_EQ(rig.model.timerSecs(), 0.01);
   EXPECT_EQ(rig.controller->vSlider(), rig.slider);
   EXPECT_EQ(rig.slider->doubleValue(), 0.0);
   EXPECT_TRUE(rig.slider->hasTracking());
@@ -62,7 +62,9 @@ struct ChoiceCase {
   std::vector<QAction * TrackRig::*> others;
   double charge, speed;
   std::int32_t direction;
-  std::int32_t particle_choice, v_choice, direction_choice;
+  TrackParticle particle_choice;
+  int v_choice;
+  TrackDirection direction_choice;
 };
 
 class TrackChoice : public ::testing::TestWithParam<ChoiceCase> {};
@@ -77,47 +79,55 @@ TEST_P(TrackChoice, ChecksItsItemAloneAndReachesTheView) {
     for (const auto other : row.others) {
       EXPECT_FALSE((rig.*other)->isChecked());
     }
-    const LiveTrackSettings& settings = rig.view->simulation().settings;
+    const LiveTrackSettings& settings = rig.model.simulation().settings;
     EXPECT_EQ(settings.charge, row.charge);
     EXPECT_EQ(settings.speed, row.speed);
     EXPECT_EQ(settings.direction, row.direction);
-    EXPECT_EQ(rig.controller->particle_choice(), row.particle_choice);
-    EXPECT_EQ(rig.controller->v_choice(), row.v_choice);
-    EXPECT_EQ(rig.controller->direction_choice(), row.direction_choice);
+    EXPECT_EQ(rig.model.particle(), row.particle_choice);
+    EXPECT_EQ(rig.model.speed(), row.v_choice);
+    EXPECT_EQ(rig.model.direction(), row.direction_choice);
   }
 }
 
 using Rig = TrackRig;
+constexpr TrackParticle electron = TrackParticle::electron;
+constexpr TrackParticle positron = TrackParticle::positron;
+constexpr TrackDirection rightwards = TrackDirection::left_to_right;
+constexpr TrackDirection leftwards = TrackDirection::right_to_left;
 INSTANTIATE_TEST_SUITE_P(
     Table, TrackChoice,
     ::testing::Values(
-        ChoiceCase{"electron", &Rig::electron_item, {&Rig::positron_item}, -1, 2, 1, 1, 2, 1},
-        ChoiceCase{"positron", &Rig::positron_item, {&Rig::electron_item}, 1, 2, 1, 2, 2, 1},
-        ChoiceCase{"v", &Rig::v_item, {&Rig::two_v_item, &Rig::three_v_item}, -1, 1, 1, 1, 1, 1},
+        ChoiceCase{"electron", &Rig::electron_item, {&Rig::positron_item}, -1, 2, 1, electron, 2, rightwards},
+        ChoiceCase{"positron", &Rig::positron_item, {&Rig::electron_item}, 1, 2, 1, positron, 2, rightwards},
+        ChoiceCase{"v", &Rig::v_item, {&Rig::two_v_item, &Rig::three_v_item}, -1, 1, 1, electron, 1, rightwards},
         ChoiceCase{
-            "two_v", &Rig::two_v_item, {&Rig::v_item, &Rig::three_v_item}, -1, 2, 1, 1, 2, 1},
+            "two_v", &Rig::two_v_item, {&Rig::v_item, &Rig::three_v_item}, -1, 2, 1, electron, 2, rightwards},
         ChoiceCase{
-            "three_v", &Rig::three_v_item, {&Rig::v_item, &Rig::two_v_item}, -1, 3, 1, 1, 3, 1},
-        ChoiceCase{"LtoR", &Rig::LtoR_item, {&Rig::RtoL_item}, -1, 2, 1, 1, 2, 1},
-        ChoiceCase{"RtoL", &Rig::RtoL_item, {&Rig::LtoR_item}, -1, 2, 2, 1, 2, 2}),
+            "three_v", &Rig::three_v_item, {&Rig::v_item, &Rig::two_v_item}, -1, 3, 1, electron, 3, rightwards},
+        ChoiceCase{"LtoR", &Rig::LtoR_item, {&Rig::RtoL_item}, -1, 2, 1, electron, 2, rightwards},
+        ChoiceCase{"RtoL", &Rig::RtoL_item, {&Rig::LtoR_item}, -1, 2, 2, electron, 2, leftwards}),
     [](const auto& row) { return row.param.name; });
 
 TEST(TrackController, AStrangerChoosesNothing) {
   TrackRig rig;
-  rig.positron_item->setChecked(true);
+  rig.activate();
+  rig.positron_item->trigger();
   rig.view->setCharge(0.5F);
   rig.view->setSpeed(7.0F);
   rig.view->setDirection(2);
-  rig.controller->setParticle(rig.v_item);
-  rig.controller->setSpeed(rig.electron_item);
-  rig.controller->setDirection(rig.electron_item);
-  const LiveTrackSettings& settings = rig.view->simulation().settings;
+  const LiveTrackSettings& settings = rig.model.simulation().settings;
+  for (const int stranger : {0, 4, -1}) {
+    rig.view->setSpeed(7.0F);
+    rig.controller->setSpeed(stranger);
+    EXPECT_EQ(settings.speed, 2.0) << "the present choice is passed on again";
+  }
   EXPECT_EQ(settings.charge, 0.5) << "the charge is left alone";
-  EXPECT_EQ(settings.speed, 2.0) << "the present choice is passed on again";
-  EXPECT_EQ(settings.direction, 1);
+  EXPECT_EQ(settings.direction, 2) << "and so is the direction";
   EXPECT_TRUE(rig.positron_item->isChecked());
   EXPECT_TRUE(rig.two_v_item->isChecked());
   EXPECT_TRUE(rig.LtoR_item->isChecked());
+  rig.controller->setDirection(rig.model.direction());
+  EXPECT_EQ(settings.direction, 1) << "the present choice is passed on again";
 }
 
 TEST(TrackController, TheScreenSpeedSetsThePeriodOfTheNextRun) {
@@ -134,7 +144,7 @@ TEST(TrackController, TheScreenSpeedSetsThePeriodOfTheNextRun) {
   for (const auto& [item, period] : choices) {
     const int before = rig.view->trackTimer()->interval();
     item->trigger();
-    EXPECT_EQ(rig.view->timerSecs(), 0.001 * period);
+    EXPECT_EQ(rig.model.timerSecs(), 0.001 * period);
     EXPECT_EQ(rig.view->trackTimer()->interval(), before) << "not in the middle of a run";
     rig.view->startTracking();
     EXPECT_EQ(rig.view->trackTimer()->interval(), period);
@@ -158,7 +168,7 @@ TEST(TrackController, ActivatingBringsTheWindowAndDeactivatingTakesIt) {
 
 TEST(TrackController, TheWindowActivatesOnlyWhenItBecomesKey) {
   TrackRig rig;
-  rig.controller->setActivate(rig.activate_item);
+  rig.controller->setActivate();
   EXPECT_TRUE(rig.window->isVisible());
   EXPECT_FALSE(rig.controller->activated());
   EXPECT_EQ(title_of(rig.activate_item), QStringLiteral("Activate"));
@@ -168,12 +178,12 @@ TEST(TrackController, TheWindowActivatesOnlyWhenItBecomesKey) {
 TEST(TrackController, LosingTheKeyboardOrBecomingKeyAgainChangesNothing) {
   TrackRig rig;
   rig.activate();
-  rig.new_event_item->setEnabled(true);
+  rig.menus.new_event_item->setEnabled(true);
   rig.activate_item->setText(QStringLiteral("as it was"));
   rig.controller->windowDidResignKey();
   EXPECT_TRUE(rig.controller->activated());
   rig.controller->windowDidBecomeKey();
-  EXPECT_TRUE(rig.new_event_item->isEnabled());
+  EXPECT_TRUE(rig.menus.new_event_item->isEnabled());
   EXPECT_EQ(rig.activate_item->text(), QStringLiteral("as it was"));
 }
 
@@ -187,7 +197,7 @@ TEST(TrackController, AnotherWindowInFrontLeavesItActive) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return !rig.window->isActiveWindow(); }));
   EXPECT_TRUE(rig.controller->activated());
   EXPECT_TRUE(rig.window->isVisible());
-  EXPECT_FALSE(rig.new_event_item->isEnabled());
+  EXPECT_FALSE(rig.menus.new_event_item->isEnabled());
 }
 
 TEST(TrackController, ClosingTheWindowHidesItAndLeavesItActive) {
@@ -205,7 +215,7 @@ TEST(TrackController, ClosingTheWindowHidesItAndLeavesItActive) {
 }
 
 void leave_the_area(TrackRig& rig) {
-  while (rig.view->simulation().canStep()) {
+  while (rig.model.simulation().canStep()) {
     rig.step(1);
   }
   rig.step(1);
@@ -231,38 +241,40 @@ TEST_P(TrackMenus, EnableWhatTheStateAllows) {
     const char* name;
     const QAction* item;
     bool enabled;
+    TrackItem kind = TrackItem::choice;
   };
   const std::vector<Item> own_items{
-      {"activate_item", rig.activate_item, true},
-      {"particle_selector", rig.particle_menu.menuAction(), row.choices},
+      {"activate_item", rig.activate_item, true, TrackItem::activate},
+      {"particle_selector", rig.menus.particle_menu->menuAction(), row.choices},
       {"electron_item", rig.electron_item, row.choices},
       {"positron_item", rig.positron_item, row.choices},
-      {"direction_selector", rig.direction_menu.menuAction(), row.choices},
+      {"direction_selector", rig.menus.direction_menu->menuAction(), row.choices},
       {"LtoR_item", rig.LtoR_item, row.choices},
       {"RtoL_item", rig.RtoL_item, row.choices},
-      {"speed_selector", rig.velocity_menu.menuAction(), row.choices},
+      {"speed_selector", rig.menus.velocity_menu->menuAction(), row.choices},
       {"v_item", rig.v_item, row.choices},
       {"two_v_item", rig.two_v_item, row.choices},
       {"three_v_item", rig.three_v_item, row.choices},
-      {"screen_speed", rig.speed_menu.menuAction(), row.screen_speed},
-      {"faster_item", rig.faster_item, row.screen_speed},
-      {"default_item", rig.default_item, row.screen_speed},
-      {"slower_item", rig.slower_item, row.screen_speed}};
+      {"screen_speed", rig.menus.speed_menu->menuAction(), row.screen_speed, TrackItem::screen_speed},
+      {"faster_item", rig.faster_item, row.screen_speed, TrackItem::screen_speed},
+      {"default_item", rig.default_item, row.screen_speed, TrackItem::screen_speed},
+      {"slower_item", rig.slower_item, row.screen_speed, TrackItem::screen_speed}};
   for (const Item& item : own_items) {
     EXPECT_EQ(item.item->isEnabled(), item.enabled) << item.name;
-    EXPECT_EQ(rig.controller->validateMenuItem(item.item), item.enabled) << item.name;
+    EXPECT_EQ(rig.controller->validateMenuItem(item.kind), item.enabled) << item.name;
   }
   const std::vector<Item> other_items{
-      {"inject_item", rig.inject_item, row.inject},
-      {"clear_item", rig.clear_item, true},
-      {"open_item", &rig.open_item, row.rest_of_program},
-      {"save_item", &rig.save_item, row.rest_of_program},
-      {"new_event_item", rig.new_event_item, row.rest_of_program},
-      {"show_axes_item", rig.show_axes_item, row.rest_of_program},
-      {"rotation axis submenu", rig.axis_menu.menuAction(), row.rest_of_program},
-      {"pion_item", rig.pion_item, row.rest_of_program}};
+      {"inject_item", rig.inject_item, row.inject, TrackItem::inject},
+      {"clear_item", rig.clear_item, true, TrackItem::clear},
+      {"open_item", rig.menus.open_item, row.rest_of_program, TrackItem::rest_of_program},
+      {"save_item", rig.menus.save_item, row.rest_of_program, TrackItem::rest_of_program},
+      {"new_event_item", rig.menus.new_event_item, row.rest_of_program, TrackItem::rest_of_program},
+      {"show_axes_item", rig.menus.axes_item, row.rest_of_program, TrackItem::rest_of_program},
+      {"rotation axis submenu", rig.menus.axis_menu->menuAction(), row.rest_of_program, TrackItem::rest_of_program},
+      {"pion_item", rig.menus.piminus_item, row.rest_of_program, TrackItem::rest_of_program}};
   for (const Item& item : other_items) {
     EXPECT_EQ(item.item->isEnabled(), item.enabled) << item.name;
+    EXPECT_EQ(rig.controller->validateMenuItem(item.kind), item.enabled) << item.name;
   }
   EXPECT_EQ(rig.panel->inject_button()->isEnabled(), row.inject);
   EXPECT_TRUE(rig.panel->clear_button()->isEnabled());
@@ -343,18 +355,18 @@ TEST(TrackController, AnItemThatWasMeddledWithTellsTheStateWhenItsMenuOpens) {
   TrackRig rig;
   rig.v_item->setEnabled(true);
   rig.faster_item->setEnabled(true);
-  rig.velocity_menu.menuAction()->setEnabled(true);
+  rig.menus.velocity_menu->menuAction()->setEnabled(true);
   rig.activate_item->setEnabled(false);
-  Q_EMIT rig.track_menu.aboutToShow();
+  Q_EMIT rig.menus.track_menu->aboutToShow();
   EXPECT_FALSE(rig.v_item->isEnabled());
   EXPECT_FALSE(rig.faster_item->isEnabled());
-  EXPECT_FALSE(rig.velocity_menu.menuAction()->isEnabled());
+  EXPECT_FALSE(rig.menus.velocity_menu->menuAction()->isEnabled());
   EXPECT_TRUE(rig.activate_item->isEnabled());
   rig.v_item->setEnabled(true);
-  Q_EMIT rig.velocity_menu.aboutToShow();
+  Q_EMIT rig.menus.velocity_menu->aboutToShow();
   EXPECT_FALSE(rig.v_item->isEnabled());
   rig.faster_item->setEnabled(true);
-  Q_EMIT rig.speed_menu.aboutToShow();
+  Q_EMIT rig.menus.speed_menu->aboutToShow();
   EXPECT_FALSE(rig.faster_item->isEnabled());
 }
 
@@ -363,17 +375,17 @@ TEST(TrackController, ShortcutsObeyTheStateToo) {
   rig.activate();
   QTest::keyClick(rig.window, Qt::Key_J, Qt::ControlModifier);
   ASSERT_TRUE(rig.view->is_tracking());
-  rig.view->setTimerSecs(1000.0);
+  rig.model.setTimerSecs(1000.0);
   ASSERT_TRUE(QTest::qWaitFor([&] { return rig.view->trackTimer() != nullptr; }));
   const QTimer* timer = rig.view->trackTimer();
   rig.step(3);
-  const std::int32_t points = rig.view->simulation().show_points();
+  const std::int32_t points = rig.model.simulation().show_points();
   QTest::keyClick(rig.window, Qt::Key_J, Qt::ControlModifier);
   QTest::qWait(50);
   EXPECT_EQ(rig.view->trackTimer(), timer) << "a run is not started over";
-  EXPECT_GE(rig.view->simulation().show_points(), points);
+  EXPECT_GE(rig.model.simulation().show_points(), points);
   QTest::keyClick(rig.window, Qt::Key_L, Qt::ControlModifier);
-  EXPECT_TRUE(rig.view->simulation().clear_signal());
+  EXPECT_TRUE(rig.model.simulation().clear_signal());
 }
 
 }  // namespace

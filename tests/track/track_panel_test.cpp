@@ -22,7 +22,8 @@ QString accessible_name(QWidget* widget) {
 }
 
 TEST(TrackPanel, HasTheControlsByTheirNames) {
-  const TrackPanel panel;
+  TrackModel model;
+  const TrackPanel panel(model);
   EXPECT_EQ(panel.track_view()->objectName(), QStringLiteral("track_view"));
   EXPECT_EQ(panel.vSlider()->objectName(), QStringLiteral("vSlider"));
   EXPECT_EQ(panel.field_text()->objectName(), QStringLiteral("field_text"));
@@ -32,7 +33,8 @@ TEST(TrackPanel, HasTheControlsByTheirNames) {
 }
 
 TEST(TrackPanel, HasAFieldSliderFromMinusOneToOne) {
-  const TrackPanel panel;
+  TrackModel model;
+  const TrackPanel panel(model);
   EXPECT_EQ(panel.vSlider()->minValue(), -1.0);
   EXPECT_EQ(panel.vSlider()->maxValue(), 1.0);
   EXPECT_EQ(panel.vSlider()->tickMarks(), 21);
@@ -43,7 +45,8 @@ TEST(TrackPanel, HasAFieldSliderFromMinusOneToOne) {
 }
 
 TEST(TrackPanel, TellsScreenReadersWhatItsControlsAre) {
-  const TrackPanel panel;
+  TrackModel model;
+  const TrackPanel panel(model);
   EXPECT_EQ(accessible_name(panel.vSlider()), QStringLiteral("Magnetic field"));
   EXPECT_EQ(accessible_name(panel.inject_button()), QStringLiteral("Inject"));
   EXPECT_EQ(accessible_name(panel.clear_button()), QStringLiteral("Clear"));
@@ -73,7 +76,7 @@ TEST(TrackPanel, KeysMoveTheFieldByATenthOfATickAndByATick) {
       {Qt::Key_Home, -1.0}, {Qt::Key_End, 1.0},    {Qt::Key_PageDown, 0.9}};
   for (const auto& [key, field] : moves) {
     QTest::keyClick(rig.slider, key);
-    EXPECT_NEAR(rig.view->simulation().settings.B_field, field, 1.0e-7);
+    EXPECT_NEAR(rig.model.simulation().settings.B_field, field, 1.0e-7);
     EXPECT_EQ(rig.panel->field_text()->text(), QString::asprintf("B = %.2f", field));
   }
 }
@@ -89,10 +92,10 @@ TEST(TrackPanel, TheWheelTurnsTheFieldOnlyWithTheFocus) {
   };
   rig.panel->inject_button()->setFocus();
   turn_wheel();
-  EXPECT_EQ(rig.view->simulation().settings.B_field, 0.0);
+  EXPECT_EQ(rig.model.simulation().settings.B_field, 0.0);
   rig.slider->setFocus();
   turn_wheel();
-  EXPECT_GT(rig.view->simulation().settings.B_field, 0.0);
+  EXPECT_GT(rig.model.simulation().settings.B_field, 0.0);
 }
 
 TEST(TrackPanel, ItsButtonsStandForTheMenuItems) {
@@ -105,7 +108,7 @@ TEST(TrackPanel, ItsButtonsStandForTheMenuItems) {
   QTest::mouseClick(rig.panel->inject_button(), Qt::LeftButton);
   EXPECT_TRUE(rig.view->is_tracking());
   QTest::mouseClick(rig.panel->clear_button(), Qt::LeftButton);
-  EXPECT_TRUE(rig.view->simulation().clear_signal());
+  EXPECT_TRUE(rig.model.simulation().clear_signal());
   rig.clear_item->setEnabled(false);
   EXPECT_FALSE(rig.panel->clear_button()->isEnabled());
 }

@@ -165,7 +165,7 @@ TEST_F(TrackPicture, AnInjectionBeginsWithAnEmptyPictureAndTape) {
   rig.step(30);
   rig.panel->tape_box()->setText(QStringLiteral("D =  1.00"));
   rig.slider->moveTo(0.0);
-  rig.view->injectParticle(rig.inject_item);
+  rig.view->injectParticle();
   EXPECT_EQ(rig.panel->tape_box()->text(), QString());
   EXPECT_TRUE(rig.whitePixels().empty());
   rig.injectAndHold();
@@ -178,7 +178,7 @@ TEST_F(TrackPicture, WhatAnOldTimerDrawsBetweenInjectionAndStartIsGoneWithTheFir
   rig.injectAndHold();
   rig.step(30);
   rig.slider->moveTo(0.0);
-  rig.view->injectParticle(rig.inject_item);
+  rig.view->injectParticle();
   rig.step(1);  // of the old run
   ASSERT_FALSE(rig.whitePixels().empty());
   rig.injectAndHold();
@@ -194,7 +194,7 @@ TEST_F(TrackPicture, ClearingWhenIdleEmptiesIt) {
   expectLine(0, rig.view->width() > 492 ? 492 : rig.view->width() - 1);
   rig.clear_item->trigger();
   EXPECT_TRUE(rig.whitePixels().empty());
-  EXPECT_FALSE(rig.view->simulation().clear_signal());
+  EXPECT_FALSE(rig.model.simulation().clear_signal());
 }
 
 TEST_F(TrackPicture, ClearingDuringARunKeepsThePresentPointOnly) {
@@ -251,7 +251,7 @@ TEST_F(TrackPicture, ATrackOfMoreThan9996PointsGoesOnWithItsNewerHalf) {
   };
   EXPECT_TRUE(std::ranges::any_of(rig.whitePixels(), on_the_way_in));
   rig.step(2);
-  EXPECT_EQ(rig.view->simulation().show_points(), 4997);
+  EXPECT_EQ(rig.model.simulation().show_points(), 4997);
   const std::vector<QPoint> pixels = rig.whitePixels();
   EXPECT_FALSE(std::ranges::any_of(pixels, on_the_way_in)) << "dropped with the older points";
   const Extent extent = extent_of(pixels);
@@ -259,7 +259,7 @@ TEST_F(TrackPicture, ATrackOfMoreThan9996PointsGoesOnWithItsNewerHalf) {
   EXPECT_NEAR(extent.right - extent.left, 40, 2);
   rig.step(50);
   EXPECT_TRUE(rig.view->is_tracking());
-  EXPECT_EQ(rig.view->simulation().show_points(), 5047);
+  EXPECT_EQ(rig.model.simulation().show_points(), 5047);
 }
 
 TEST_F(TrackPicture, AFieldSetByKeysBendsTheFlyingParticleFromTheNextStepOn) {
@@ -268,12 +268,12 @@ TEST_F(TrackPicture, AFieldSetByKeysBendsTheFlyingParticleFromTheNextStepOn) {
   rig.slider->setFocus();
   QTest::keyClick(rig.slider, Qt::Key_PageUp);
   QTest::keyClick(rig.slider, Qt::Key_Up);
-  EXPECT_NEAR(rig.view->simulation().settings.B_field, 0.11, 1.0e-6);
+  EXPECT_NEAR(rig.model.simulation().settings.B_field, 0.11, 1.0e-6);
   EXPECT_EQ(rig.panel->field_text()->text(), QStringLiteral("B = 0.11"));
-  EXPECT_EQ(rig.view->simulation().vy(), 0.0);
+  EXPECT_EQ(rig.model.simulation().vy(), 0.0);
   rig.step(1);
-  EXPECT_GT(rig.view->simulation().vy(), 0.0);
-  EXPECT_EQ(rig.view->simulation().y_points().back(), 228.0F);
+  EXPECT_GT(rig.model.simulation().vy(), 0.0);
+  EXPECT_EQ(rig.model.simulation().y_points().back(), 228.0F);
   rig.step(60);
   const Extent extent = extent_of(rig.whitePixels());
   EXPECT_GT(extent.top, entry_height + 10);

@@ -2,11 +2,12 @@
 
 #include <QEvent>
 #include <QGuiApplication>
-#include <QMenuBar>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
 #include <stdexcept>
+
+#include "app/track_commands.h"
 
 namespace velquon::testing {
 
@@ -18,13 +19,6 @@ void insist(bool true_thing, const char* what) {
   if (!true_thing) {
     throw std::runtime_error(what);
   }
-}
-
-QAction* add_choice(QMenu& menu, const char* title, bool checked) {
-  QAction* item = menu.addAction(QLatin1String(title));
-  item->setCheckable(true);
-  item->setChecked(checked);
-  return item;
 }
 
 std::vector<QPoint> pixels_of(const QImage& picture, bool (*is_meant)(QRgb)) {
@@ -54,38 +48,14 @@ void KeyWindow::changeEvent(QEvent* event) {
 
 TrackRig::TrackRig()
     : window(new KeyWindow),
-      panel(new TrackPanel),
+      panel(new TrackPanel(model)),
       view(panel->track_view()),
       slider(panel->vSlider()) {
   window->setCentralWidget(panel);
   makeMenus();
+  controller = std::make_unique<TrackController>(model, *view, *slider, *window);
+  add_track_commands(commands, menus, *controller, *view);
   panel->setItems(inject_item, clear_item);
-  controller = std::make_unique<TrackController>(
-      TrackOutlets{.track_window = window,
-                   .track_view = view,
-                   .vSlider = slider,
-                   .activate_item = activate_item,
-                   .inject_item = inject_item,
-                   .particle_selector = particle_menu.menuAction(),
-                   .direction_selector = direction_menu.menuAction(),
-                   .speed_selector = velocity_menu.menuAction(),
-                   .screen_speed = speed_menu.menuAction(),
-                   .electron_item = electron_item,
-                   .positron_item = positron_item,
-                   .RtoL_item = RtoL_item,
-                   .LtoR_item = LtoR_item,
-                   .v_item = v_item,
-                   .two_v_item = two_v_item,
-                   .three_v_item = three_v_item,
-                   .speed_menu = &speed_menu,
-                   .slower_item = slower_item,
-                   .faster_item = faster_item,
-                   .default_item = default_item,
-                   .action_menu = &action_menu,
-                   .settings_menu = &settings_menu,
-                   .event_menu = &event_menu,
-                   .open_item = &open_item,
-                   .save_item = &save_item});
   QObject::connect(window, &KeyWindow::becameKey, controller.get(),
                    &TrackController::windowDidBecomeKey);
   QObject::connect(window, &KeyWindow::resignedKey, controller.get(),
@@ -98,33 +68,21 @@ TrackRig::~TrackRig() {
 }
 
 void TrackRig::makeMenus() {
-  new_event_item = action_menu.addAction(QStringLiteral("New Event"));
-  show_axes_item = settings_menu.addAction(QStringLiteral("Show Axes"));
-  settings_menu.addSeparator();
-  axis_menu.setTitle(QStringLiteral("Rotation Axis"));
-  settings_menu.addMenu(&axis_menu);
-  pion_item = event_menu.addAction(QStringLiteral("Negative Pion"));
-
-  track_menu.setTitle(QStringLiteral("Track"));
-  activate_item = track_menu.addAction(QStringLiteral("Activate"));
-  inject_item = track_menu.addAction(QStringLiteral("Inject Particle"));
-  inject_item->setShortcut(QKeySequence(QStringLiteral("Ctrl+J")));
-  clear_item = track_menu.addAction(QStringLiteral("Clear Screen"));
-  clear_item->setShortcut(QKeySequence(QStringLiteral("Ctrl+L")));
-  electron_item = add_choice(particle_menu, "Electron", true);
-  positron_item = add_choice(particle_menu, "Positron", false);
-  LtoR_item = add_choice(direction_menu, "Left to Right", true);
-  RtoL_item = add_choice(direction_menu, "Right to Left", false);
-  v_item = add_choice(velocity_menu, "v", false);
-  two_v_item = add_choice(velocity_menu, "2v", true);
-  three_v_item = add_choice(velocity_menu, "3v", false);
-  faster_item = speed_menu.addAction(QStringLiteral("Faster"));
-  default_item = speed_menu.addAction(QStringLiteral("Default"));
-  slower_item = speed_menu.addAction(QStringLiteral("Slower"));
-  for (QMenu* menu : {&particle_menu, &direction_menu, &velocity_menu, &speed_menu}) {
-    track_menu.addMenu(menu);
-  }
-  window->menuBar()->addMenu(&track_menu);
+  menus.setupUi(&bar_of_menus);
+  window->menuBar()->addMenu(menus.track_menu);
+  activate_item = menus.activate_item;
+  inject_item = menus.inject_item;
+  clear_item = menus.clear_screen_item;
+  electron_item = menus.electron_item;
+  positron_item = menus.positron_item;
+  LtoR_item = menus.LtoR_item;
+  RtoL_item = menus.RtoL_item;
+  v_item = menus.v_item;
+  two_v_item = menus.two_v_item;
+  three_v_item = menus.three_v_item;
+  faster_item = menus.faster_item;
+  default_item = menus.default_item;
+  slower_item = menus.slower_item;
 }
 
 void TrackRig::activate() {
@@ -143,7 +101,7 @@ void TrackRig::deactivate() {
 }
 
 void TrackRig::injectAndHold() {
-  view->setTimerSecs(1000.0);
+  model.setTimerSecs(1000.0);
   inject_item->trigger();
   insist(QTest::qWaitFor(
              [this] { return view->trackTimer() != nullptr && view->trackTimer()->isActive(); }),

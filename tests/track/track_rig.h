@@ -4,15 +4,18 @@
 #include <QImage>
 #include <QMainWindow>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPoint>
-#include <array>
 #include <memory>
 #include <vector>
 
-#include "widgets/value_slider.h"
+#include "app/commands.h"
+#include "model/track_model.h"
 #include "track/new_track_view.h"
 #include "track/track_controller.h"
 #include "track/track_panel.h"
+#include "ui_menus.h"
+#include "widgets/value_slider.h"
 
 namespace velquon::testing {
 
@@ -28,7 +31,8 @@ class KeyWindow : public QMainWindow {
   void changeEvent(QEvent* event) override;
 };
 
-/// The track window with menus of its own and of a program around it. Made hidden and inactive.
+/// The track window with the program's menus, of which the Track menu is in its bar, and without the
+/// rest of the program. Made hidden and inactive.
 class TrackRig {
  public:
   TrackRig();
@@ -58,22 +62,21 @@ class TrackRig {
   [[nodiscard]] std::vector<QPoint> whitePixels() const;
   [[nodiscard]] std::vector<QPoint> redPixels() const;
 
+  TrackModel model;
   KeyWindow* window = nullptr;
   TrackPanel* panel = nullptr;
   NewTrackView* view = nullptr;
   ValueSlider* slider = nullptr;
 
-  QAction open_item, save_item;
-  QMenu action_menu, settings_menu, event_menu, axis_menu;
-  QAction *new_event_item = nullptr, *show_axes_item = nullptr, *pion_item = nullptr;
-
-  QMenu track_menu, particle_menu, direction_menu, velocity_menu, speed_menu;
+  QMenuBar bar_of_menus;
+  Ui::Menus menus;
   QAction *activate_item = nullptr, *inject_item = nullptr, *clear_item = nullptr;
   QAction *electron_item = nullptr, *positron_item = nullptr;
   QAction *LtoR_item = nullptr, *RtoL_item = nullptr;
   QAction *v_item = nullptr, *two_v_item = nullptr, *three_v_item = nullptr;
   QAction *faster_item = nullptr, *default_item = nullptr, *slower_item = nullptr;
 
+  Commands commands;
   std::unique_ptr<TrackController> controller;
 
  private:

@@ -8,6 +8,8 @@
 #include <numbers>
 #include <vector>
 
+#include "model/track_drawing.h"
+
 // The particle and its track, without a screen.
 
 namespace velquon {
@@ -25,14 +27,17 @@ class ParticleRun {
     simulation->launch();
     simulation->enter(start);
     simulation->setTracking(true);
+    drawing.drawn(*simulation);
   }
 
   void step() {
     simulation->advance();
-    drawings += drawsCleared() ? 1 : 0;
-    simulation->do_all = simulation->do_all && simulation->stretching;  // as a drawing leaves it
+    drawings += drawing.needsClearing(*simulation) ? 1 : 0;
+    drawing.drawn(*simulation);
     cleared += simulation->takeClearSignal() ? 1 : 0;
+    const bool was_resetting = simulation->resetting;
     simulation->goOn();
+    drawing.wentOn(*simulation, was_resetting);
     ++steps;
   }
 
@@ -54,12 +59,10 @@ class ParticleRun {
   [[nodiscard]] double y() const { return simulation->stepping().old_y; }
 
   std::unique_ptr<TrackSimulation> simulation = std::make_unique<TrackSimulation>();
+  TrackDrawing drawing;
   int steps = 0;
   int cleared = 0;
   int drawings = 0;  ///< those that began with an empty picture
-
- private:
-  [[nodiscard]] bool drawsCleared() const { return simulation->needsClearing(); }
 };
 
 LiveTrackSettings electron(double B_field, double speed) {
@@ -268,19 +271,19 @@ TEST(TrackSimulation, ALongTrackIsCompactedAndGoesOn) {
   EXPECT_EQ(run.simulation->show_points(), 4996);
   EXPECT_EQ(run.simulation->stepping().istep, 4996);
   EXPECT_TRUE(run.simulation->resetting);
-  EXPECT_TRUE(run.simulation->do_all);
+  EXPECT_TRUE(run.drawing.shows_all());
   EXPECT_TRUE(std::ranges::equal(run.simulation->x_points(), newest_x));
   EXPECT_TRUE(std::ranges::equal(run.simulation->y_points(), newest_y));
-  EXPECT_TRUE(run.simulation->needsClearing());
-  EXPECT_EQ(run.simulation->firstPoint(), 0);
+  EXPECT_TRUE(run.drawing.needsClearing(*run.simulation));
+  EXPECT_EQ(run.drawing.firstPoint(*run.simulation), 0);
 
   run.step();
   EXPECT_EQ(run.drawings, 1) << "one drawing begins with an empty picture";
   EXPECT_EQ(run.simulation->show_points(), 4997);
   EXPECT_FALSE(run.simulation->resetting);
-  EXPECT_FALSE(run.simulation->do_all);
-  EXPECT_FALSE(run.simulation->needsClearing());
-  EXPECT_EQ(run.simulation->firstPoint(), 4897);
+  EXPECT_FALSE(run.drawing.shows_all());
+  EXPECT_FALSE(run.drawing.needsClearing(*run.simulation));
+  EXPECT_EQ(run.drawing.firstPoint(*run.simulation), 4897);
 
   run.steps_to(30'000);
   EXPECT_EQ(run.drawings, 5) << "every 5000 steps again";
@@ -293,19 +296,19 @@ TEST(TrackSimulation, TheStepAfterACompactionLetsTheTapeGo) {
   run.steps_to(9995);
   ASSERT_TRUE(run.simulation->resetting);
   run.simulation->stretching = true;
-  run.simulation->do_all = true;
+  run.drawing.showAll();
   run.step();
   EXPECT_FALSE(run.simulation->stretching);
-  EXPECT_FALSE(run.simulation->do_all);
+  EXPECT_FALSE(run.drawing.shows_all());
 }
 
 TEST(TrackSimulation, AnOrdinaryStepKeepsTheTape) {
   ParticleRun run(electron(0.0, 1.0));
   run.simulation->stretching = true;
-  run.simulation->do_all = true;
+  run.drawing.showAll();
   run.step();
   EXPECT_TRUE(run.simulation->stretching);
-  EXPECT_TRUE(run.simulation->do_all);
+  EXPECT_TRUE(run.drawing.shows_all());
 }
 
 TEST(TrackSimulation, ClearingARunKeepsThePresentPointAndGoesOnFromIt) {
@@ -349,39 +352,6 @@ TEST(TrackSimulation, ASecondRunBeginsAtTheEntryWithThePresentSettings) {
   EXPECT_EQ(run.x(), 487.0);
   EXPECT_DOUBLE_EQ(simulation.stepping().B_rot, -0.01);
 }
-
-struct DrawingCase {
-  int points;
-  bool do_all, resetting, stretching;
-  bool clears;
-  int first_point;
-};
-
-class TrackDrawing : public ::testing::TestWithParam<DrawingCase> {};
-
-TEST_P(TrackDrawing, ShowsTheNewestPointsOverThePictureUnlessAllAreAskedFor) {
-  const DrawingCase& row = GetParam();
-  ParticleRun run(electron(0.0, 1.0));
-  run.steps_to(row.points - 1);
-  TrackSimulation& simulation = *run.simulation;
-  ASSERT_EQ(simulation.show_points(), row.points);
-  simulation.do_all = row.do_all;
-  simulation.resetting = row.resetting;
-  simulation.stretching = row.stretching;
-  EXPECT_EQ(simulation.needsClearing(), row.clears);
-  EXPECT_EQ(simulation.firstPoint(), row.first_point);
-}
-
-INSTANTIATE_TEST_SUITE_P(Table, TrackDrawing,
-                         ::testing::Values(DrawingCase{1, false, false, false, true, 0},
-                                           DrawingCase{2, false, false, false, false, 0},
-                                           DrawingCase{99, false, false, false, false, 0},
-                                           DrawingCase{100, false, false, false, false, 0},
-                                           DrawingCase{101, false, false, false, false, 1},
-                                           DrawingCase{300, false, false, false, false, 200},
-                                           DrawingCase{300, true, false, false, false, 0},
-                                           DrawingCase{300, true, true, false, true, 0},
-                                           DrawingCase{300, true, false, true, true, 0}));
 
 TEST(LegacyStart, EntersHigherUpWithStepsOfAQuarter) {
   ParticleRun run(positron(1.0, 2.0), legacy);

@@ -26,7 +26,7 @@ class TrackView : public ::testing::Test {
 TEST_F(TrackView, BeginsWithoutARunOrATimer) {
   EXPECT_FALSE(rig.view->is_tracking());
   EXPECT_EQ(rig.view->trackTimer(), nullptr);
-  EXPECT_EQ(rig.view->simulation().show_points(), 0);
+  EXPECT_EQ(rig.model.simulation().show_points(), 0);
   EXPECT_EQ(rig.view->musecs(), 4000);
   EXPECT_EQ(rig.view->tapeLength(), 0.0);
 }
@@ -52,7 +52,7 @@ class PacedTrackView : public TrackView {
     EXPECT_TRUE(QMetaObject::invokeMethod(rig.view->trackTimer(), "timeout"));
     return points() - before;
   }
-  [[nodiscard]] int points() const { return rig.view->simulation().show_points(); }
+  [[nodiscard]] int points() const { return rig.model.simulation().show_points(); }
 
   std::uint64_t now = 1'000'000;  // microseconds
 };
@@ -102,9 +102,9 @@ TEST_F(TrackView, ARunOfItsTimerCrossesTheAreaAndEnds) {
   // 164 steps bring the particle from 0 to 492, and the next firing ends the run.
   EXPECT_GE(clock.elapsed(), 165 * 5 - 5) << "no faster than its timer, whatever else runs";
   EXPECT_FALSE(rig.view->is_tracking());
-  EXPECT_EQ(rig.view->simulation().show_points(), 165);
-  EXPECT_EQ(rig.view->simulation().x_points().back(), 492.0F);
-  EXPECT_EQ(rig.view->simulation().y_points().back(), 228.0F);
+  EXPECT_EQ(rig.model.simulation().show_points(), 165);
+  EXPECT_EQ(rig.model.simulation().x_points().back(), 492.0F);
+  EXPECT_EQ(rig.model.simulation().y_points().back(), 228.0F);
 }
 
 TEST_F(TrackView, EveryStepIsDrawnAtOnce) {
@@ -116,7 +116,7 @@ TEST_F(TrackView, EveryStepIsDrawnAtOnce) {
     EXPECT_EQ(rig.view->passes(), before + 1);
   }
   // The end is no step.
-  while (rig.view->simulation().canStep()) {
+  while (rig.model.simulation().canStep()) {
     rig.step(1);
   }
   const int before = rig.view->passes();
@@ -132,10 +132,10 @@ TEST_F(TrackView, ASecondInjectionStartsOverWithOneTimer) {
   rig.view->trackTimer()->start();
   rig.RtoL_item->setEnabled(true);
   rig.RtoL_item->trigger();
-  rig.view->injectParticle(rig.inject_item);
-  rig.view->injectParticle(rig.inject_item);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return rig.view->simulation().stepping().old_x == 490.0; }));
-  EXPECT_EQ(rig.view->simulation().stepping().istep, 1);
+  rig.view->injectParticle();
+  rig.view->injectParticle();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return rig.model.simulation().stepping().old_x == 490.0; }));
+  EXPECT_EQ(rig.model.simulation().stepping().istep, 1);
   QTest::qWait(20);
   EXPECT_EQ(rig.view->findChildren<QTimer*>().size(), 0);
   EXPECT_TRUE(rig.view->trackTimer()->isActive());
@@ -146,16 +146,16 @@ TEST_F(TrackView, DeactivatedDuringARunItsParticleFliesOnUntilItLeaves) {
   rig.activate();
   rig.faster_item->trigger();
   rig.inject_item->trigger();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return rig.view->simulation().show_points() > 5; }));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return rig.model.simulation().show_points() > 5; }));
   rig.deactivate();
   EXPECT_FALSE(rig.window->isVisible());
   EXPECT_FALSE(rig.view->is_tracking());
   EXPECT_TRUE(rig.view->trackTimer()->isActive());
-  const std::int32_t points = rig.view->simulation().show_points();
+  const std::int32_t points = rig.model.simulation().show_points();
   ASSERT_TRUE(rig.waitForEnd());
-  EXPECT_GT(rig.view->simulation().show_points(), points);
-  EXPECT_FALSE(rig.view->simulation().canStep());
-  EXPECT_TRUE(rig.new_event_item->isEnabled()) << "the end does not switch the menus";
+  EXPECT_GT(rig.model.simulation().show_points(), points);
+  EXPECT_FALSE(rig.model.simulation().canStep());
+  EXPECT_TRUE(rig.menus.new_event_item->isEnabled()) << "the end does not switch the menus";
 }
 
 TEST_F(TrackView, ClosedDuringAnInjectionItRunsOutOfSight) {
@@ -206,9 +206,9 @@ TEST_P(TrackField, SnapsToATickThatIsNextToIt) {
   const TrackRig rig;
   rig.slider->moveTo(GetParam().slider);
   // The slider holds 32 bits of its value.
-  EXPECT_NEAR(rig.view->simulation().settings.B_field, GetParam().field, 1.0e-7);
+  EXPECT_NEAR(rig.model.simulation().settings.B_field, GetParam().field, 1.0e-7);
   EXPECT_EQ(rig.panel->field_text()->text(),
-            QString::asprintf("B = %.2f", rig.view->simulation().settings.B_field));
+            QString::asprintf("B = %.2f", rig.model.simulation().settings.B_field));
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, TrackField,
@@ -222,22 +222,22 @@ INSTANTIATE_TEST_SUITE_P(Values, TrackField,
 
 TEST_F(TrackView, ATickIsTakenExactly) {
   rig.slider->moveTo(0.3);
-  EXPECT_DOUBLE_EQ(rig.view->simulation().settings.B_field, 0.3);
+  EXPECT_DOUBLE_EQ(rig.model.simulation().settings.B_field, 0.3);
   EXPECT_NE(rig.slider->doubleValue(), 0.3) << "as the slider's 32 bits are not";
 }
 
 TEST_F(TrackView, AnInjectionStartsItsRunFromTheEventLoopOnThisThread) {
   rig.activate();
-  rig.view->setTimerSecs(1000.0);
+  rig.model.setTimerSecs(1000.0);
   const auto threads = QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs).size();
-  rig.view->injectParticle(rig.inject_item);
+  rig.view->injectParticle();
   EXPECT_EQ(QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs).size(), threads);
   EXPECT_EQ(rig.view->trackTimer(), nullptr);
-  EXPECT_EQ(rig.view->simulation().show_points(), 0);
+  EXPECT_EQ(rig.model.simulation().show_points(), 0);
   QCoreApplication::sendPostedEvents(rig.view, QEvent::MetaCall);
   ASSERT_NE(rig.view->trackTimer(), nullptr);
   EXPECT_TRUE(rig.view->trackTimer()->isActive());
-  EXPECT_EQ(rig.view->simulation().show_points(), 1);
+  EXPECT_EQ(rig.model.simulation().show_points(), 1);
 }
 
 TEST_F(TrackView, AStartOfItsOwnBeginsARun) {
@@ -251,7 +251,7 @@ TEST_F(TrackView, AStartOfItsOwnBeginsARun) {
 }
 
 TEST_F(TrackView, DeletedBeforeAnInjectionHasStartedItsRunItLeavesNothingBehind) {
-  rig.view->injectParticle(rig.inject_item);
+  rig.view->injectParticle();
   delete rig.view;
   QCoreApplication::processEvents();
   EXPECT_EQ(rig.panel->findChild<NewTrackView*>(), nullptr);
@@ -260,7 +260,7 @@ TEST_F(TrackView, DeletedBeforeAnInjectionHasStartedItsRunItLeavesNothingBehind)
 TEST_F(TrackView, DeletedAfterManyInjectionsItLeavesNothingBehind) {
   rig.activate();
   for (int time = 0; time < 50; ++time) {
-    rig.view->injectParticle(rig.inject_item);
+    rig.view->injectParticle();
   }
   delete rig.view;
   QTest::qWait(20);
@@ -271,7 +271,7 @@ TEST_F(TrackView, DeletedInTheMiddleOfARunItLeavesNothingBehind) {
   rig.activate();
   rig.faster_item->trigger();
   rig.inject_item->trigger();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return rig.view->simulation().show_points() > 5; }));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return rig.model.simulation().show_points() > 5; }));
   delete rig.view;
   QTest::qWait(50);  // as long as several firings of its timer
   EXPECT_EQ(rig.panel->findChild<NewTrackView*>(), nullptr);
@@ -279,9 +279,9 @@ TEST_F(TrackView, DeletedInTheMiddleOfARunItLeavesNothingBehind) {
 
 TEST_F(TrackView, TheLegacyLoopRunsToTheEndOfItsArea) {
   rig.view->setSpeed(3.0F);
-  rig.view->injectParticle(rig.inject_item);
+  rig.view->injectParticle();
   rig.view->OldtrackOnScreen();
-  const TrackSimulation& simulation = rig.view->simulation();
+  const TrackSimulation& simulation = rig.model.simulation();
   EXPECT_FALSE(rig.view->is_tracking());
   EXPECT_EQ(simulation.time_interval(), 0.25);
   EXPECT_EQ(simulation.stepping().rot_fac, 0.0125);
@@ -290,26 +290,26 @@ TEST_F(TrackView, TheLegacyLoopRunsToTheEndOfItsArea) {
   EXPECT_EQ(simulation.x_points().back(), 490.5F);
   EXPECT_EQ(simulation.y_points().back(), 235.0F);
   EXPECT_TRUE(rig.view->pause());
-  rig.view->goAhead(rig.inject_item);
+  rig.view->goAhead();
   EXPECT_FALSE(rig.view->pause());
 }
 
 TEST_F(TrackView, TheLegacyLoopHeedsTheClearSignalAndSwitchesTheMenus) {
   rig.activate();
   rig.three_v_item->trigger();
-  rig.view->injectParticle(rig.inject_item);
+  rig.view->injectParticle();
   ASSERT_FALSE(rig.v_item->isEnabled());
   rig.window->close();  // out of sight its steps cost no drawing
-  rig.view->clearScreen(rig.clear_item);
+  rig.view->clearScreen();
   rig.view->OldtrackOnScreen();
-  EXPECT_FALSE(rig.view->simulation().clear_signal());
-  EXPECT_EQ(rig.view->simulation().x_points().front(), 0.75F) << "dropped at the first step";
+  EXPECT_FALSE(rig.model.simulation().clear_signal());
+  EXPECT_EQ(rig.model.simulation().x_points().front(), 0.75F) << "dropped at the first step";
   EXPECT_TRUE(rig.v_item->isEnabled());
 }
 
 TEST_F(TrackView, TheLegacyLoopMakesNoStepWithoutARun) {
   rig.view->OldtrackOnScreen();
-  EXPECT_EQ(rig.view->simulation().stepping().istep, 1);
+  EXPECT_EQ(rig.model.simulation().stepping().istep, 1);
   EXPECT_FALSE(rig.view->is_tracking());
 }
 
@@ -317,22 +317,22 @@ TEST_F(TrackView, TheLegacySliderTakesTheFieldAwayWithAStepDuringARun) {
   rig.activate();
   rig.slider->moveTo(0.5);
   rig.view->sliderSet();
-  EXPECT_EQ(rig.view->simulation().settings.B_field, 0.0);
+  EXPECT_EQ(rig.model.simulation().settings.B_field, 0.0);
   EXPECT_EQ(rig.panel->field_text()->text(), QStringLiteral("B = 0.00"));
-  EXPECT_EQ(rig.view->simulation().show_points(), 0) << "no step without a run";
+  EXPECT_EQ(rig.model.simulation().show_points(), 0) << "no step without a run";
 
   rig.slider->moveTo(0.5);
   rig.injectAndHold();
   rig.step(2);
   rig.view->sliderSet();
-  EXPECT_EQ(rig.view->simulation().show_points(), 4);
-  EXPECT_EQ(rig.view->simulation().stepping().B_rot, 0.0);
+  EXPECT_EQ(rig.model.simulation().show_points(), 4);
+  EXPECT_EQ(rig.model.simulation().stepping().B_rot, 0.0);
 }
 
 TEST_F(TrackView, TheLegacyDelayIsCutToMicroseconds) {
   rig.view->setScreenSpeed(2500.9);
   EXPECT_EQ(rig.view->musecs(), 2500);
-  EXPECT_EQ(rig.view->timerSecs(), 0.01) << "and sets no period";
+  EXPECT_EQ(rig.model.timerSecs(), 0.01) << "and sets no period";
 }
 
 QString last_message;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "track/track_window.h"
+#include "model/track_model.h"
 #include "tests/gui/support/application_fixture.h"
 #include "track/new_track_view.h"
+#include "track/track_window.h"
 
 namespace velquon::test {
 
@@ -11,9 +12,10 @@ class TrackWindowFixture : public ApplicationFixture {
  protected:
   [[nodiscard]] TrackWindow& trackWindow() { return application().trackWindow(); }
   [[nodiscard]] NewTrackView& view();
-  [[nodiscard]] const LiveTrackSettings& settings() { return view().simulation().settings; }
+  [[nodiscard]] const TrackSimulation& simulation() { return trackWindow().model().simulation(); }
+  [[nodiscard]] const LiveTrackSettings& settings() { return simulation().settings; }
   /// Points of the present track.
-  [[nodiscard]] int points() { return view().simulation().show_points(); }
+  [[nodiscard]] int points() { return simulation().show_points(); }
 
   /// Activates the window by its menu item and waits until it is there.
   void activateTrack();

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <functional>
+
+namespace Ui {
+class Menus;
+}
+
+namespace velquon {
+
+class Commands;
+class NewTrackView;
+class TrackController;
+class TrackModel;
+
+/// Adds to the table what the items of the Track menu do, and when they can be chosen. The items of
+/// the other menus that make, show, open and save events are disabled while the track window is
+/// active and no run goes on.
+/// \param controller, view give those of the track window, which is made when they are first asked for
+void add_track_commands(Commands& commands, const Ui::Menus& menus, TrackModel& model,
+                        const std::function<TrackController&()>& controller,
+                        const std::function<NewTrackView&()>& view);
+
+}  // namespace velquon
