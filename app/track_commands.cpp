@@ -15,8 +15,8 @@ namespace {
 
 std::vector<Command> choices(const Ui::Menus& menus, TrackModel& model) {
   std::vector<Command> commands = one_of<TrackParticle>(
-      {{menus.electron_item, TrackParticle::electron},
-       {menus.positron_item, TrackParticle::positron}},
+      {{menus.electron_item, TrackParticle::e_minus},
+       {menus.positron_item, TrackParticle::e_plus}},
       [&model](TrackParticle particle) { model.setParticle(particle); },
       [&model] { return model.particle(); });
   const auto append = [&commands](const std::vector<Command>& more) {

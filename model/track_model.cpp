@@ -17,7 +17,7 @@ constexpr double reading_per_view_unit = 0.1;
 }  // namespace
 
 float charge_of(TrackParticle particle) {
-  return particle == TrackParticle::positron ? 1.0F : -1.0F;
+  return particle == TrackParticle::e_plus ? 1.0F : -1.0F;
 }
 
 std::int32_t number_of(TrackDirection direction) {

@@ -12,7 +12,7 @@
 
 namespace velquon {
 
-enum class TrackParticle : std::uint8_t { electron, positron };
+enum class TrackParticle : std::uint8_t { e_minus, e_plus };
 
 enum class TrackDirection : std::uint8_t { left_to_right, right_to_left };
 
@@ -110,7 +110,7 @@ class TrackModel {
   void readTape();
 
   TrackSimulation simulation_;
-  TrackParticle particle_ = TrackParticle::electron;
+  TrackParticle particle_ = TrackParticle::e_minus;
   TrackDirection direction_ = TrackDirection::left_to_right;
   int speed_ = 2;
   double timerSecs_ = 0.01;  ///< as at the start; no choice sets it again

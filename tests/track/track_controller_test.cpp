@@ -25,7 +25,7 @@ TEST(TrackController, StartsInactiveWithItsDefaults) {
   EXPECT_FALSE(rig.controller->activated());
   EXPECT_FALSE(rig.window->isVisible());
   EXPECT_EQ(rig.model.speed(), 2);
-  EXPECT_EQ(rig.model.particle(), TrackParticle::electron);
+  EXPECT_EQ(rig.model.particle(), TrackParticle::e_minus);
   EXPECT_EQ(rig.model.direction(), TrackDirection::left_to_right);
   const LiveTrackSettings& settings = rig.model.simulation().settings;
   EXPECT_EQ(settings.speed, 2.0);
@@ -90,8 +90,8 @@ TEST_P(TrackChoice, ChecksItsItemAloneAndReachesTheView) {
 }
 
 using Rig = TrackRig;
-constexpr TrackParticle electron = TrackParticle::electron;
-constexpr TrackParticle positron = TrackParticle::positron;
+constexpr TrackParticle electron = TrackParticle::e_minus;
+constexpr TrackParticle positron = TrackParticle::e_plus;
 constexpr TrackDirection rightwards = TrackDirection::left_to_right;
 constexpr TrackDirection leftwards = TrackDirection::right_to_left;
 INSTANTIATE_TEST_SUITE_P(

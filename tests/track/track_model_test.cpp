@@ -70,7 +70,7 @@ class TrackModelTest : public ::testing::Test {
 
 TEST_F(TrackModelTest, StartsInactiveWithItsChoices) {
   expectAllowed(inactive);
-  EXPECT_EQ(model.particle(), TrackParticle::electron);
+  EXPECT_EQ(model.particle(), TrackParticle::e_minus);
   EXPECT_EQ(model.direction(), TrackDirection::left_to_right);
   EXPECT_EQ(model.speed(), 2);
   EXPECT_EQ(model.timerSecs(), 0.01);
@@ -247,7 +247,7 @@ TEST_P(TrackModelTelling, TellsOfTheChange) {
 INSTANTIATE_TEST_SUITE_P(
     Changes, TrackModelTelling,
     ::testing::Values(
-        TellingCase{"particle", [](TrackModel& m) { m.setParticle(TrackParticle::positron); }},
+        TellingCase{"particle", [](TrackModel& m) { m.setParticle(TrackParticle::e_plus); }},
         TellingCase{"direction",
                     [](TrackModel& m) { m.setDirection(TrackDirection::right_to_left); }},
         TellingCase{"speed", [](TrackModel& m) { m.setSpeed(3); }},
@@ -265,10 +265,10 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(TrackModelTest, ChoicesReachTheParticle) {
   const LiveTrackSettings& settings = model.simulation().settings;
-  model.setParticle(TrackParticle::positron);
-  EXPECT_EQ(model.particle(), TrackParticle::positron);
+  model.setParticle(TrackParticle::e_plus);
+  EXPECT_EQ(model.particle(), TrackParticle::e_plus);
   EXPECT_EQ(settings.charge, 1.0);
-  model.setParticle(TrackParticle::electron);
+  model.setParticle(TrackParticle::e_minus);
   EXPECT_EQ(settings.charge, -1.0);
   model.setDirection(TrackDirection::right_to_left);
   EXPECT_EQ(model.direction(), TrackDirection::right_to_left);

@@ -54,7 +54,9 @@ TrackRig::TrackRig()
   window->setCentralWidget(panel);
   makeMenus();
   controller = std::make_unique<TrackController>(model, *view, *slider, *window);
-  add_track_commands(commands, menus, *controller, *view);
+  add_track_commands(
+      commands, menus, model, [this]() -> TrackController& { return *controller; },
+      [this]() -> NewTrackView& { return *view; });
   panel->setItems(inject_item, clear_item);
   QObject::connect(window, &KeyWindow::becameKey, controller.get(),
                    &TrackController::windowDidBecomeKey);
