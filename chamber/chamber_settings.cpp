@@ -63,15 +63,12 @@ ChamberSettings::ChamberSettings(const Ui::ChamberWindow& controls, ChamberModel
   QObject::connect(controls_.efactor_popup, &QComboBox::currentIndexChanged,
                    controls_.efactor_popup,
                    [this] { reset_energy_range(controls_.efactor_popup); });
-  const auto on_moved = [this](ValueSlider* slider, void (ChamberSettings::*show)(const ValueSlider*)) {
-    QObject::connect(slider, &ValueSlider::moved, slider, [this, slider, show] {
-      (this->*show)(slider);
-      setNextChamberValues();
-    });
-  };
-  on_moved(controls_.energy_slider, &ChamberSettings::reset_energy);
-  on_moved(controls_.magfield_slider, &ChamberSettings::reset_field);
-  on_moved(controls_.size_slider, &ChamberSettings::reset_sides);
+  QObject::connect(controls_.energy_slider, &ValueSlider::moved, controls_.energy_slider,
+                   [this] { reset_energy(controls_.energy_slider); });
+  QObject::connect(controls_.magfield_slider, &ValueSlider::moved, controls_.magfield_slider,
+                   [this] { reset_field(controls_.magfield_slider); });
+  QObject::connect(controls_.size_slider, &ValueSlider::moved, controls_.size_slider,
+                   [this] { reset_sides(controls_.size_slider); });
 }
 
 void ChamberSettings::showValues(const ChamberValues& values) {

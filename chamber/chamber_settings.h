@@ -13,8 +13,8 @@ namespace velquon {
 class ChamberModel;
 class ValueSlider;
 
-/// The controls of the chamber values for the next event and the labels that show them. What the
-/// user chooses is told to the model.
+/// The controls of the chamber values for the next event and the labels that show them. What they are
+/// put to is the model's when an event is made.
 class ChamberSettings {
  public:
   /// Connects the controls; they and the model must outlive this object.

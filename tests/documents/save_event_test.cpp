@@ -34,9 +34,8 @@ TEST_F(SaveEventTest, AsksForAnEventFileUnderTheShownName) {
 }
 
 TEST_F(SaveEventTest, WritesEveryByteOfTheLayout) {
-  chamber().setCurrentBField(2.0F);
-  chamber().setCurrentSidesCm(400.0F);
-  chamber().setCurrentMev(0.5F);
+  controller().model().setNext({.B_field = 2.0F, .sides_cm = 400.0F, .kinetic_Mev = 0.5F});
+  controller().setCurrentChamberValues();
   PlotPoint second = point_at(-0.0, 1e-300, 400.0, -2);
   second.time = 3.0;
   controller().setChamberData(std::array{point_at(100.0, -50.0, 25.0, 3), second});

@@ -370,9 +370,8 @@ TEST_F(TurntableTest, ANewEventIsHandedOverAndShownAtTheRestingViewpointWhenWant
   QObject::connect(&chamberWindow(), &QWidget::windowTitleChanged, &chamber(), [&] {
     ++names;
     EXPECT_EQ(viewpoint(), resting);
-    chamber().makeCurrent();
-    glMatrixMode(GL_MODELVIEW);
-    glRotatef(30.0F, 0.0F, 0.0F, 1.0F);
+    chamber().doRotation(RotationDirection::forward);
+    chamber().rotate();
     EXPECT_NE(viewpoint(), resting);
   });
   choose("new_event_item");

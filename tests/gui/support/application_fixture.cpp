@@ -94,7 +94,7 @@ void ApplicationFixture::activateAnotherProgram() {
 
 void ApplicationFixture::showEvent(std::span<const PlotPoint> points) {
   controller().setChamberData(points);
-  chamber().setHasEvent(true);
+  controller().model().setHasEvent();
   controller().displayViews();
 }
 
