@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The command-line tool that makes events with neither screen nor Qt.
 
 #include <csignal>
