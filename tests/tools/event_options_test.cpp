@@ -14,7 +14,7 @@
 namespace velquon {
 namespace {
 
-using Words = std::vector<std::string>;
+using testing::Words;
 
 ParsedOptions parsed(const Words& words) {
   std::vector<const char*> argv{"velquon-events"};

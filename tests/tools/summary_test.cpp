@@ -21,7 +21,7 @@ namespace {
 
 using testing::run_tool;
 using testing::TemporaryFolder;
-using Words = std::vector<std::string>;
+using testing::Words;
 
 constexpr ChamberValues values{.B_field = 2.0F, .sides_cm = 300.0F, .kinetic_Mev = 60.0F};
 
