@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // A drawing pass of the chamber view without bringing it to the screen: the array of cubes against
 // a cube a GLUT call, and against a pass without an event.
 //

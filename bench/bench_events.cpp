@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Events a second of every kind, and what writing them as CSV text adds.
 //
 // One iteration makes a batch of events from one seed, so every repetition does the same work, with

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Nanoseconds a stored point of a long helix, against the floor of what a point cannot do without.
 //
 // Both loops run in one program and their repetitions take turns, so the ratio does not depend on

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What recording an event adds to making it, and what HepMC3 files cost beside that library's own
 // writer.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // A step of the track window, with its drawing, on a short and on a long track: it draws the newest
 // points over the picture, so what it costs must not grow with the track. And how many steps a
 // second the program makes at the fastest screen speed, nominally 200.

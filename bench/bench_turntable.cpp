@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The program's own windows with the turntable at its fastest rate: steps and frames a second, and
 // how busy the process is, software renderer included.
 //

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The least that a program with two OpenGL views costs: what the start and the memory of velquon
 // are compared with. Two windows, each a view of velquon's sizes that is cleared to black.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Starts a program and says how long it takes until its two windows show their pictures, and how
 // much memory it needs:
 //

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The Velquon developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # The target HepMC3; the package of that name only sets variables.
 
 find_package(HepMC3 REQUIRED)

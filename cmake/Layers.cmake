@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The Velquon developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # A folder of the program is a library that sees the headers of its own folder and of those that it
 # links, no others: an include of a folder above it finds no file. Each folder is reached through a
 # directory of the build that holds nothing but a link to it.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The Velquon developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # What belongs to the programs on a desktop, and the Debian package.
 
 find_program(GZIP gzip REQUIRED)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The Velquon developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # Headers that most sources include, compiled once for each kind of target: what a source of the windows
 # or of a test costs is mostly reading them.
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: The Velquon developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # Compiler settings that every target of this project links PRIVATE.
 
 add_library(project_options INTERFACE)
@@ -14,14 +17,14 @@ else()
   target_compile_options(project_options INTERFACE
     -Wunreachable-code-aggressive -Wcomma -Wnewline-eof -Winconsistent-missing-destructor-override)
 endif()
-if(WARNINGS_AS_ERRORS)
+if(VELQUON_WARNINGS_AS_ERRORS)
   target_compile_options(project_options INTERFACE -Werror)
 endif()
 
-if(SANITIZER)
+if(VELQUON_SANITIZER)
   target_compile_options(project_options INTERFACE
-    -fsanitize=${SANITIZER} -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  target_link_options(project_options INTERFACE -fsanitize=${SANITIZER})
+    -fsanitize=${VELQUON_SANITIZER} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(project_options INTERFACE -fsanitize=${VELQUON_SANITIZER})
 endif()
 
 # Files beyond 2 GiB, and on a PC of 32 bits arithmetic without the extra digits of its old unit, by which
@@ -37,7 +40,7 @@ endif()
 
 # What an optimised program costs nothing and an attacker much: as Debian builds its packages. The
 # sanitizers look closer.
-if(NOT SANITIZER)
+if(NOT VELQUON_SANITIZER)
   set(optimised $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
   target_compile_options(project_options INTERFACE
     "$<${optimised}:-fstack-protector-strong;-Werror=format-security>"
@@ -51,7 +54,7 @@ endif()
 add_library(physics_options INTERFACE)
 target_compile_options(physics_options INTERFACE -ffp-contract=off -fno-math-errno)
 target_link_libraries(physics_options INTERFACE project_options)
-if(NOT SANITIZER)
+if(NOT VELQUON_SANITIZER)
   # Qt asks for -fPIC itself.
   target_compile_options(physics_options INTERFACE $<${optimised}:-fPIE>)
 endif()

@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: The Velquon developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Two results of many events: the pion's decay length and the electron spectrum of the muon.
 
     many-events.py VELQUON-EVENTS [PICTURE]

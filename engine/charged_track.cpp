@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "engine/charged_track.h"
 
 #include <cmath>
@@ -26,6 +29,7 @@ void set_up_path(ParticleState& particle, HelixPath& path, double& survival, dou
   particle.position[2] += path.dz;
   path.z = particle.position[2];
 
+  // A circle in the x-y plane, along which a step covers the part pt / p of its length.
   const double pt = std::sqrt(p * p - pz * pz);
   path.radius = (pt * 10.0) / (field * 3.0) * scale;
   path.dphi = (step * pt / p) / (-path.radius);

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include <cstdint>
@@ -24,7 +27,11 @@ enum class TrackEnd : bool {
 /// \param scale    drawing units per cm
 /// \param step     length of a step, drawing units
 ///
-/// The radius in cm is 10 pt / (3 B) for pt in MeV/c and B in kG.
+/// The radius in cm is 10 pt / (3 B) for pt in MeV/c and B in kG: pt = 0.3 B R in GeV/c, T and m,
+/// which equates the Lorentz force and the centripetal force, the speed of light rounded to 3e8 m/s
+/// (Particle Data Group, Review of Particle Physics, "Particle detectors"). The energy is the
+/// relativistic one. The survival of a step of length s is exp(-s / (beta gamma c tau)) with
+/// beta gamma = p / m: the exponential law of decay with time dilation.
 void set_up_path(ParticleState& particle, HelixPath& path, double& survival, double field,
                  double scale, double step);
 
@@ -43,7 +50,8 @@ TrackEnd path_calculation(std::int16_t limit, std::int16_t& count, std::span<Plo
 
 /// The same walk on a straight line, for a field of exactly 0.
 /// \param particle its energy on entry gives the polar angle, as acos(pz / E); then it becomes
-///                 sqrt(p^2 + m^2)
+///                 sqrt(p^2 + m^2). The true angle is acos(pz / p): E in the place of p turns a
+///                 slow particle's line towards the plane z = 0, and is part of what an event is
 /// \param scale    drawing units per cm
 /// \param step     length of a step, drawing units
 TrackEnd straight_path_calculation(ParticleState& particle, std::int16_t limit, std::int16_t& count,

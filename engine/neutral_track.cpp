@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "engine/neutral_track.h"
 
 #include <cmath>
@@ -46,8 +49,8 @@ bool neutral_path(ParticleState& particle, double bound, double scale) {
 }
 
 bool gamma_path(ParticleState& particle, double bound, double scale) {
-  // The survival is fixed and not derived from the step: the mean distance is 4/3 of the length
-  // scale.
+  // The survival is fixed and not derived from the step: the attenuation length is 4/3 of the
+  // length scale.
   const double step = scale * particle.decay_length * 0.2;
   const double survival = std::exp(-0.15);
   if (particle.energy < conversion_threshold) {

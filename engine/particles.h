@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include <array>
@@ -30,11 +33,14 @@ struct HelixPath {
   std::int16_t code = 0;  ///< code of the track's points
 };
 
-/// Decay length, in cm, that stands for a particle that does not decay.
+/// Decay length, in cm, that stands for a particle that does not decay. That of the neutron, 2.6e13
+/// cm in nature, is taken for it too.
 inline constexpr double stable_decay_length = 1.0e10;
 
-/// Templates of the particles: rest mass in MeV/c^2 and decay length in cm, all else zero. The
-/// values are the simulator's own rounded ones and part of what an event is.
+/// Templates of the particles: rest mass in MeV/c^2 and decay length in cm, all else zero. Masses
+/// and lifetimes are rounded from the tables of the Particle Data Group, Review of Particle
+/// Physics; docs/physics.md sets both side by side. The rounded values are part of what an event
+/// is. The photon's length is no measured value but stands for the material of the chamber.
 inline constexpr ParticleState pion{.mass = 139.6, .decay_length = 780.0};
 inline constexpr ParticleState pizero{.mass = 135.0, .decay_length = 2.5e-6};
 inline constexpr ParticleState muon{.mass = 105.7, .decay_length = 65868.0};

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include <cmath>
@@ -5,7 +8,8 @@
 
 namespace velquon {
 
-/// The largest result of `rand`; a draw is divided by it, so that 0 and 1 both occur.
+/// The largest result of `rand` in the GNU C library, 2^31 - 1; a draw is divided by it, so that 0
+/// and 1 both occur.
 inline constexpr double largest_draw = 2147483647.0;
 
 /// One draw of the process-wide generator, in the closed interval 0 to 1.

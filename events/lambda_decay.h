@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include <cstdint>
@@ -11,10 +14,16 @@
 
 namespace velquon {
 
-/// Probability of the charged mode, proton and negative pion; else neutron and neutral pion.
+/// Probability of the charged mode, proton and negative pion; else neutron and neutral pion. The
+/// Review of Particle Physics of the Particle Data Group has 0.641 and 0.359.
 inline constexpr double lambda_charged_branching = 0.642;
 
 /// An angle in radians drawn with the weight 1 + 0.7 cos theta on a uniform theta in 0 to pi.
+///
+/// The law for a polarised Lambda is 1 + alpha P cos theta on a uniform cos theta, alpha = 0.75
+/// (Particle Data Group, Review of Particle Physics). The uniform theta is a simplification:
+/// without the factor sin theta of the solid angle, angles near 0 and pi are more frequent than in
+/// nature.
 [[nodiscard]] double get_proton_angle();
 
 /// Decays a Lambda to a proton and a negative pion.
@@ -23,7 +32,8 @@ inline constexpr double lambda_charged_branching = 0.642;
 /// stay
 ///
 /// The weighted component of the decay momentum goes across the Lambda's flight, so that is where
-/// the asymmetry shows.
+/// the asymmetry shows: a Lambda of strong production is polarised across its plane of production.
+/// Here that plane is the same for every Lambda, and each is polarised.
 void lambda_to_charged(const ParticleState& parent, ParticleState& the_proton,
                        ParticleState& the_pion);
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "events/lepton_decays.h"
 
 #include <cmath>
@@ -42,7 +45,8 @@ void mu_to_e(const ParticleState& parent, ParticleState& daughter) {
   double x = 0.0;
   double c = 0.0;
   double u = 0.0;
-  // The weight reaches 2 and u only 1, so the spectrum is cut there: that is the spectrum shown.
+  // The weight reaches 2 and u only 1, so the spectrum is cut there: that is the spectrum shown
+  // (docs/physics.md, "Pion and muon").
   do {
     x = rand_one();
     c = my_rand(-1.0, 1.0);

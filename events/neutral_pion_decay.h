@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include <cstdint>
@@ -20,14 +23,21 @@ struct PhotonPair {
   int positron_row = -1;
 };
 
-/// Decays a neutral pion to two photons, back to back and isotropic in its rest frame. Fills their
-/// momentum and energy in the chamber frame; positions stay.
+/// Decays a neutral pion to two photons, back to back and isotropic in its rest frame, of half its
+/// mass each. Fills their momentum and energy in the chamber frame; positions stay. The decay to a
+/// photon and a pair, 1.2 per cent in nature (Particle Data Group, Review of Particle Physics), is
+/// left out.
 void pizero_to_2gamma(const ParticleState& parent, ParticleState& photon1, ParticleState& photon2);
 
 /// Converts a photon at its position to an electron and a positron: sets their positions and
 /// momenta, not their energies. The electron takes 20 to 80 per cent of the photon's energy and
 /// leaves at 0.7 to 1.3 times m/p to the photon's line; the positron takes the rest along the line
 /// and the opposite transverse momentum.
+///
+/// The typical opening angle of a pair is of the order m/E (Rossi, High-Energy Particles, "pair
+/// production"); the two uniform draws about it are a simplification, without the long tails of the
+/// real distributions. Momentum balances; energy does not, by the pair's rest energy and transverse
+/// momentum.
 void gamma_to_pair(const ParticleState& parent, ParticleState& the_electron,
                    ParticleState& the_positron);
 

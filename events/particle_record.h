@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include <array>
@@ -13,8 +16,8 @@
 
 namespace velquon {
 
-/// Numbers of the particles in the Particle Data Group's scheme; an antiparticle has the negative
-/// one.
+/// Numbers of the particles in the Particle Data Group's scheme (Review of Particle Physics, "Monte
+/// Carlo particle numbering scheme"); an antiparticle has the negative one.
 namespace pdg {
 inline constexpr int electron = 11;
 inline constexpr int muon = 13;

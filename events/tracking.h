@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include <cstdint>
@@ -16,7 +19,8 @@ inline constexpr double half_chamber_side = CHAMBER_SIDE * 0.5;
 /// Length of a step of a charged track, drawing units.
 inline constexpr double track_step = 20.0;
 
-/// The bound of the charged tracks for a half side: a little beyond the wall.
+/// The bound of the charged tracks for a half side: a hundredth beyond the wall, at 404 drawing
+/// units.
 [[nodiscard]] constexpr double track_limit(double half_side) {
   return half_side * 1.01;
 }
@@ -46,11 +50,14 @@ struct TrackSettings {
   [[nodiscard]] TrackSettings for_negative() const { return {-field, bound, scale, step}; }
 };
 
-/// Turns the x and y components of a momentum by an angle in radians, clockwise for a positive one.
+/// Turns the x and y components of a momentum by an angle in radians, clockwise for a positive one
+/// as seen from positive z.
 void rotate_p(Vector3& momentum, double angle);
 
 /// Lays the track of a positive particle behind the points of `buffer`. When it decays on a helix
-/// its momentum is turned to the direction at the decay point.
+/// its momentum is turned to the direction at the decay point, but for the last step: it is turned
+/// once for each point before the decay point, of which the first lies one step from the start
+/// already.
 /// \param recorder is told what became of the particle
 /// \param row      of the particle in the record
 TrackEnd track_particle(ParticleState& particle, const TrackCodes& codes,
@@ -62,7 +69,7 @@ TrackEnd track_particle(ParticleState& particle, const TrackCodes& codes,
                                             const TrackBuffer& buffer);
 
 /// The incoming particle: it enters the chamber in the centre of the face y = -400 and moves along
-/// +y.
+/// +y. Its momentum is p = T sqrt(2 m / T + 1), which is p^2 = E^2 - m^2 for E = T + m.
 [[nodiscard]] ParticleState primary_particle(const ParticleState& particle_template,
                                              double kinetic_energy);
 

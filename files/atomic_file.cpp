@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "files/atomic_file.h"
 
 #include <fcntl.h>
@@ -28,12 +31,15 @@ std::string some_temporary_name() {
   return name;
 }
 
-/// Hands temporary names to `make`, which answers an errno or 0, until one is not taken yet.
+/// Hands temporary names to `make`, which answers an errno or 0, until one is not taken yet. The
+/// first is `name`, unless that is empty.
 template <typename Make>
 std::error_code with_free_name(std::string& name, Make make) {
   int error = EEXIST;
   for (int i = 0; i < most_names_tried && error == EEXIST; ++i) {
-    name = some_temporary_name();
+    if (i > 0 || name.empty()) {
+      name = some_temporary_name();
+    }
     error = make(name);
   }
   return error_of(error);
@@ -53,6 +59,13 @@ int link_and_rename(const std::string& link, int folder, const std::string& temp
   return 0;
 }
 
+/// Opens the folder of a path as a place for calls that take one.
+FileDescriptor open_folder_of(const std::filesystem::path& path) {
+  const auto parent = path.parent_path();
+  return FileDescriptor(
+      ::open(parent.empty() ? "." : parent.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+}
+
 bool is_named(int file, int folder, const std::string& name) {
   struct stat by_number {};
   struct stat by_name {};
@@ -66,18 +79,16 @@ AtomicFile::~AtomicFile() {
   discard();
 }
 
-std::error_code AtomicFile::open(const std::filesystem::path& path) {
+std::error_code AtomicFile::open(const std::filesystem::path& path, const std::string& temporary) {
   discard();
   target_ = find_save_target(path);
   name_ = target_.path.filename().string();
   failure_ = target_.refusal;
-  return failure_ ? failure_ : done(begin());
+  return failure_ ? failure_ : done(begin(temporary));
 }
 
-std::error_code AtomicFile::begin() {
-  const auto parent = target_.path.parent_path();
-  folder_ = FileDescriptor(
-      ::open(parent.empty() ? "." : parent.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+std::error_code AtomicFile::begin(std::string temporary) {
+  folder_ = open_folder_of(target_.path);
   if (!folder_.is_open()) {
     return last_error();
   }
@@ -86,22 +97,26 @@ std::error_code AtomicFile::begin() {
     return file_.is_open() ? std::error_code() : last_error();
   }
   held_.emplace(ending_signals());
-  std::string name;
-  const std::error_code error = with_free_name(name, [this](const std::string& free_name) {
+  const std::error_code error = with_free_name(temporary, [this](const std::string& free_name) {
     file_ = open_new(folder_.number(), free_name);
     return file_.is_open() ? 0 : errno;
   });
   if (!error) {
-    temporary_ = name;
+    temporary_ = temporary;
   }
   return error;
 }
 
 std::error_code AtomicFile::write(std::span<const std::byte> bytes) {
+  const std::error_code error = heedSignals();
+  return error ? error : done(write_all(file_.number(), bytes));
+}
+
+std::error_code AtomicFile::heedSignals() {
   if (held_ && held_->end_waits()) {
     return done(std::make_error_code(std::errc::operation_canceled));
   }
-  return failure_ ? failure_ : done(write_all(file_.number(), bytes));
+  return failure_;
 }
 
 std::error_code AtomicFile::overwrite(std::uint64_t offset, std::span<const std::byte> bytes) {
@@ -186,6 +201,13 @@ std::error_code AtomicFile::done(std::error_code error) {
     discard();
   }
   return error;
+}
+
+void remove_temporary(const std::filesystem::path& path, const std::string& temporary) {
+  const FileDescriptor folder = open_folder_of(find_save_target(path).path);
+  if (folder.is_open()) {
+    ::unlinkat(folder.number(), temporary.c_str(), 0);
+  }
 }
 
 std::error_code write_file_atomically(const std::filesystem::path& path,

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include <cstddef>
@@ -18,10 +21,10 @@ namespace velquon {
 /// disk. Until then, and after any failure, what stood under the name is as it was. A file that is
 /// replaced keeps its mode.
 ///
-/// The file has no name while it is written, so a program that is killed leaves nothing of it. Where
-/// the file system has no files without a name (a network's, a memory stick's) it is called
-/// `.velquon-` and eight characters: there the signals that end a program of one thread wait until
-/// that name is gone, and only a killed program leaves it behind.
+/// The file has no name while it is written, so a program that is killed leaves nothing of it.
+/// Where the file system has no files without a name (a network's, a memory stick's) it is called
+/// `.velquon-` and eight characters, or as the caller wishes: there the signals that end a program
+/// of one thread wait until that name is gone, and only a killed program leaves it behind.
 class AtomicFile {
  public:
   AtomicFile() = default;
@@ -34,10 +37,17 @@ class AtomicFile {
 
   /// Begins a file. Refused are a symbolic link that leads nowhere, what may not be written, and
   /// what is no regular file: a folder, a named pipe, a device, a socket.
-  [[nodiscard]] std::error_code open(const std::filesystem::path& path);
+  /// \param temporary what the file is called while it is written, if it needs a name and this one is
+  ///                  free; see `remove_temporary`
+  [[nodiscard]] std::error_code open(const std::filesystem::path& path,
+                                     const std::string& temporary = {});
 
   /// Appends bytes. After an error nothing more can be written or committed.
   [[nodiscard]] std::error_code write(std::span<const std::byte> bytes);
+
+  /// Gives the file up when a signal waits to end the program, which ends it then. `write` does so
+  /// too; this is for a long time without one.
+  [[nodiscard]] std::error_code heedSignals();
 
   /// Writes over bytes that have been written, for what is known only at the end.
   /// \param offset from the beginning of the file
@@ -49,7 +59,7 @@ class AtomicFile {
   [[nodiscard]] std::error_code commit();
 
  private:
-  std::error_code begin();
+  std::error_code begin(std::string temporary);
   std::error_code finish();
   std::error_code take_name();
   std::error_code replace_target();
@@ -65,6 +75,10 @@ class AtomicFile {
   std::optional<HeldSignals> held_;
   std::error_code failure_;
 };
+
+/// Removes what a program that was killed has left of a file that it had begun with these arguments
+/// of `AtomicFile::open`.
+void remove_temporary(const std::filesystem::path& path, const std::string& temporary);
 
 /// Writes a file whole or not at all, as `AtomicFile` does.
 [[nodiscard]] std::error_code write_file_atomically(const std::filesystem::path& path,

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "tools/event_run.h"
 
 #include <cstdlib>
@@ -8,6 +11,9 @@
 namespace velquon {
 
 namespace {
+
+/// A summary writes nothing until its end, but a signal is to end its run before.
+constexpr std::uint64_t events_between_looks_for_signals = 64;
 
 /// Makes one event; one that its chain does not hand over has no points.
 void make_next_event(const EventOptions& options, TrackBuffer& event, ParticleRecord* record) {
@@ -38,6 +44,11 @@ std::optional<WriteFailure> run_into_target(const EventOptions& options, std::ui
       return WriteFailure{target.name(), error};
     }
     counter(number);
+    if (number % events_between_looks_for_signals == 0) {
+      if (const std::error_code error = target.heedSignals()) {
+        return WriteFailure{target.name(), error};
+      }
+    }
   }
   std::error_code error = writer->finish();
   if (!error) {

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "tools/output_target.h"
 
 namespace velquon {
@@ -7,10 +10,11 @@ void OutputTarget::use(std::FILE* stream) {
   name_ = "standard output";
 }
 
-std::error_code OutputTarget::open(const std::filesystem::path& path) {
+std::error_code OutputTarget::open(const std::filesystem::path& path,
+                                   const std::string& temporary) {
   stream_ = nullptr;
   name_ = path.string();
-  return file_.open(path);
+  return file_.open(path, temporary);
 }
 
 ByteOutput OutputTarget::bytes() {
@@ -23,6 +27,10 @@ ByteOutput OutputTarget::bytes() {
 std::error_code OutputTarget::overwrite(std::uint64_t offset, std::span<const std::byte> bytes) {
   return stream_ != nullptr ? std::make_error_code(std::errc::invalid_seek)
                             : file_.overwrite(offset, bytes);
+}
+
+std::error_code OutputTarget::heedSignals() {
+  return stream_ != nullptr ? std::error_code() : file_.heedSignals();
 }
 
 std::error_code OutputTarget::commit() {

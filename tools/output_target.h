@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include <cstddef>
@@ -18,8 +21,9 @@ class OutputTarget {
  public:
   /// Begins with a stream, called standard output in messages; it is not closed.
   void use(std::FILE* stream);
-  /// Begins a file.
-  [[nodiscard]] std::error_code open(const std::filesystem::path& path);
+  /// Begins a file; arguments as for `AtomicFile::open`.
+  [[nodiscard]] std::error_code open(const std::filesystem::path& path,
+                                     const std::string& temporary = {});
 
   /// The name for messages.
   [[nodiscard]] const std::string& name() const { return name_; }
@@ -29,6 +33,8 @@ class OutputTarget {
   /// Writes over what a file holds; a stream cannot do that.
   /// \param offset from the beginning of the file
   [[nodiscard]] std::error_code overwrite(std::uint64_t offset, std::span<const std::byte> bytes);
+  /// Gives a file up when a signal waits to end the program, which ends it then.
+  [[nodiscard]] std::error_code heedSignals();
   /// Has a file take its name.
   [[nodiscard]] std::error_code commit();
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "tools/progress.h"
 
 #include <sys/ioctl.h>
@@ -67,6 +70,13 @@ void Progress::show(std::uint64_t done, Clock::time_point now) {
   }
 }
 
+void Progress::clear() {
+  if (drawn_) {
+    drawn_ = false;
+    std::fputs("\r\x1b[K", messages_);
+  }
+}
+
 void Progress::end(Clock::time_point now) {
   if (messages_ != nullptr && terminal_) {
     draw_bar(now);
@@ -76,8 +86,10 @@ void Progress::end(Clock::time_point now) {
 
 std::string Progress::state(Clock::time_point now) const {
   const double seconds = Seconds(now - begin_).count();
-  const double rate = seconds > 0.0 ? static_cast<double>(done_) / seconds : 0.0;
-  const double left = static_cast<double>(total_ - std::min(done_, total_)) / rate;
+  const std::uint64_t made = done_ - std::min(left_out_, done_);
+  const double rate = seconds > 0.0 ? static_cast<double>(made) / seconds : 0.0;
+  const std::uint64_t missing = total_ - std::min(done_, total_);
+  const double left = missing > 0 ? static_cast<double>(missing) / rate : 0.0;
   std::array<char, 160> text{};
   std::snprintf(text.data(), text.size(), "%llu of %llu events, %.0f a second, %s left",
                 static_cast<unsigned long long>(done_), static_cast<unsigned long long>(total_),
@@ -100,6 +112,7 @@ void Progress::draw_bar(Clock::time_point now) {
   // The end of a longer line before is cleared.
   std::fprintf(messages_, "\r%s\x1b[K", ('[' + bar + ']' + text).substr(0, room).c_str());
   std::fflush(messages_);
+  drawn_ = true;
 }
 
 Progress progress_on(std::FILE* messages, bool asked_for, std::uint64_t total) {

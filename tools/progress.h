@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include <chrono>
@@ -19,8 +22,14 @@ class Progress {
   Progress(std::uint64_t total, std::FILE* messages, bool terminal,
            Clock::time_point now = Clock::now());
 
-  /// Says that so many events are done; tells it when it is time to.
+  /// Says that so many of the events that are done were there before: they took no time.
+  void leaveOut(std::uint64_t events) { left_out_ += events; }
+  /// Says that so many events are done, those that were there before included; tells it when it is
+  /// time to.
   void show(std::uint64_t done, Clock::time_point now = Clock::now());
+  /// Takes the bar away, if there is one: a message is to have the row. The next `show` draws it
+  /// anew when it is time to.
+  void clear();
   /// Ends the bar, if there is one, at what was said last; what follows has a line of its own.
   void end(Clock::time_point now = Clock::now());
 
@@ -30,8 +39,10 @@ class Progress {
 
   std::uint64_t total_;
   std::uint64_t done_ = 0;
+  std::uint64_t left_out_ = 0;
   std::FILE* messages_;
   bool terminal_;
+  bool drawn_ = false;
   Clock::time_point begin_;
   Clock::time_point next_;
 };

@@ -1,15 +1,22 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "tools/seed_runs.h"
 
+#include <fcntl.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
 #include <map>
 #include <string>
 
+#include "files/atomic_file.h"
+#include "files/file_descriptor.h"
 #include "files/held_signals.h"
 #include "tools/event_output.h"
 #include "tools/event_run.h"
@@ -55,6 +62,40 @@ class WaitedSignals {
   sigset_t before_{};
 };
 
+/// What the file of a seed is called while a worker writes it, where it needs a name. No other
+/// process has it.
+std::string temporary_name(std::uint32_t seed, pid_t worker) {
+  return ".velquon-" + std::to_string(seed) + '-' + std::to_string(worker);
+}
+
+/// A pipe by which workers tell the process that has started them what went wrong.
+class WorkerMessages {
+ public:
+  WorkerMessages() {
+    std::array<int, 2> ends{};
+    // Nobody waits: some lines have room in a pipe, and they are read after a worker's end.
+    if (::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) == 0) {
+      to_read_ = FileDescriptor(ends[0]);
+      to_write_ = FileDescriptor(ends[1]);
+    }
+  }
+
+  /// Where a worker writes; null without a pipe.
+  [[nodiscard]] std::FILE* stream() const { return ::fdopen(to_write_.number(), "w"); }
+  /// The first line that is there, with its end; empty when there is none.
+  [[nodiscard]] std::string line() const {
+    std::string text;
+    for (char c = '\0'; c != '\n' && ::read(to_read_.number(), &c, 1) == 1;) {
+      text += c;
+    }
+    return text;
+  }
+
+ private:
+  FileDescriptor to_read_;
+  FileDescriptor to_write_;
+};
+
 /// The run of all seeds, as the process sees it that starts the workers.
 class SeedRuns {
  public:
@@ -77,17 +118,19 @@ class SeedRuns {
       }
       wait();
     }
+    progress_.show(done_.value());
     progress_.end();
     return outcome();
   }
 
  private:
   void start(std::uint32_t seed);
-  [[nodiscard]] int work(std::uint32_t seed);
+  [[nodiscard]] int work(std::uint32_t seed, std::FILE* messages);
   void wait();
   void stop(int signal);
   void collect();
-  void tell_end_of(std::uint32_t seed, int status);
+  void tell_end_of(pid_t worker, std::uint32_t seed, int status);
+  void tell(const std::string& message);
   [[nodiscard]] int outcome() const;
 
   const EventOptions& options_;
@@ -95,6 +138,7 @@ class SeedRuns {
   Progress progress_;
   WaitedSignals signals_;
   SharedCount done_;
+  WorkerMessages worker_messages_;
   std::map<pid_t, std::uint32_t> workers_;  ///< by process, the seed
   std::uint64_t complete_ = 0;
   std::uint64_t failed_ = 0;
@@ -107,6 +151,7 @@ void SeedRuns::start(std::uint32_t seed) {
   std::error_code none;
   if (options_.resume && std::filesystem::exists(seed_path(options_, seed), none)) {
     done_.add(options_.events);
+    progress_.leaveOut(options_.events);
     ++complete_;
     return;
   }
@@ -115,14 +160,16 @@ void SeedRuns::start(std::uint32_t seed) {
   if (worker == 0) {
     ::prctl(PR_SET_PDEATHSIG, SIGTERM);
     signals_.restore();
+    std::FILE* const messages = worker_messages_.stream();
     // Its parent may have gone before it asked to go with it.
-    const int status = ::getppid() == parent ? work(seed) : 1;
+    const int status =
+        ::getppid() == parent ? work(seed, messages != nullptr ? messages : messages_) : 1;
     std::fflush(nullptr);
     ::_exit(status);
   }
   if (worker < 0) {
-    std::fprintf(messages_, "velquon-events: cannot start a worker for seed %u: %s\n", seed,
-                 std::strerror(errno));
+    tell("velquon-events: cannot start a worker for seed " + std::to_string(seed) + ": " +
+         std::strerror(errno) + '\n');
     ++failed_;
     begins_no_more_ = true;
     return;
@@ -130,7 +177,7 @@ void SeedRuns::start(std::uint32_t seed) {
   workers_.emplace(worker, seed);
 }
 
-int SeedRuns::work(std::uint32_t seed) {
+int SeedRuns::work(std::uint32_t seed, std::FILE* messages) {
   const auto path = seed_path(options_, seed);
   const EventCounter counter = [this](std::uint64_t number) {
     if (number % counting_step == 0) {
@@ -141,23 +188,23 @@ int SeedRuns::work(std::uint32_t seed) {
   };
   if (options_.format != EventFormat::cwd) {
     OutputTarget target;
-    if (const std::error_code error = target.open(path)) {
-      return report(messages_, {path.string(), error});
+    if (const std::error_code error = target.open(path, temporary_name(seed, ::getpid()))) {
+      return report(messages, {path.string(), error});
     }
     const auto failure = run_into_target(options_, seed, target, counter);
-    return failure ? report(messages_, *failure) : 0;
+    return failure ? report(messages, *failure) : 0;
   }
   FolderInTheMaking folder(path);
   if (const std::error_code error = folder.begin()) {
-    return report(messages_, {path.string(), error});
+    return report(messages, {path.string(), error});
   }
   const auto result = run_into_event_files(options_, seed, folder.path(), counter);
   if (result.failure) {
     const auto name = path / std::filesystem::path(result.failure->name).filename();
-    return report(messages_, {name.string(), result.failure->error});
+    return report(messages, {name.string(), result.failure->error});
   }
   const std::error_code error = folder.commit();
-  return error ? report(messages_, {path.string(), error}) : 0;
+  return error ? report(messages, {path.string(), error}) : 0;
 }
 
 void SeedRuns::wait() {
@@ -182,30 +229,43 @@ void SeedRuns::collect() {
   for (pid_t worker = 0; (worker = ::waitpid(-1, &status, WNOHANG)) > 0;) {
     const auto found = workers_.find(worker);
     if (found != workers_.end()) {
-      tell_end_of(found->second, status);
+      tell_end_of(worker, found->second, status);
       workers_.erase(found);
     }
   }
 }
 
-void SeedRuns::tell_end_of(std::uint32_t seed, int status) {
+void SeedRuns::tell_end_of(pid_t worker, std::uint32_t seed, int status) {
   if (WIFEXITED(status) && WEXITSTATUS(status) == 0) {
     ++complete_;
     return;
   }
   ++failed_;
   if (!WIFSIGNALED(status)) {
-    begins_no_more_ = true;  // it has said itself what went wrong
+    // A full disk stops all workers at once, for one reason.
+    if (!begins_no_more_) {
+      tell(worker_messages_.line());
+    }
+    begins_no_more_ = true;
     return;
   }
+  const auto path = seed_path(options_, seed);
   if (options_.format == EventFormat::cwd) {
     std::error_code ignored;
-    std::filesystem::remove_all(partial_folder(seed_path(options_, seed)), ignored);
+    std::filesystem::remove_all(partial_folder(path), ignored);
+  } else {
+    remove_temporary(path, temporary_name(seed, worker));
   }
   if (stopped_by_ == 0) {
-    std::fprintf(messages_, "velquon-events: the worker of seed %u was ended by signal %d (%s)\n",
-                 seed, WTERMSIG(status), ::strsignal(WTERMSIG(status)));
+    const int signal = WTERMSIG(status);
+    tell("velquon-events: the worker of seed " + std::to_string(seed) + " was ended by signal " +
+         std::to_string(signal) + " (" + ::strsignal(signal) + ")\n");
   }
+}
+
+void SeedRuns::tell(const std::string& message) {
+  progress_.clear();
+  std::fputs(message.c_str(), messages_);
 }
 
 int SeedRuns::outcome() const {

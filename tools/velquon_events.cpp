@@ -1,12 +1,17 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The command-line tool that makes events with neither screen nor Qt.
 
 #include <csignal>
 #include <cstdio>
 
+#include "files/standard_streams.h"
 #include "tools/event_options.h"
 #include "tools/event_output.h"
 
 int main(int argc, char** argv) {
+  velquon::keep_places_of_closed_streams();
   const velquon::ParsedOptions parsed = velquon::parse_event_options(argc, argv);
   if (!parsed.options) {
     std::FILE* const out = parsed.status == 0 ? stdout : stderr;

@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: The Velquon developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # What docs/many-events.md says: its script prints the numbers of the page, its programs read the files.
 #   page_trial.sh VELQUON-EVENTS SOURCE-FOLDER
 set -euo pipefail

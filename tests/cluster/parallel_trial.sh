@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: The Velquon developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # Seeds run by GNU parallel are, to the byte, those of one process; a second run leaves them alone.
 #   parallel_trial.sh VELQUON-EVENTS SCRIPT
 set -euo pipefail

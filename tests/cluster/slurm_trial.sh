@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: The Velquon developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # An array of four tasks on a Slurm cluster of this machine alone, one of them killed and made up for:
 # the sum is that of one process. Ends with 77 where Slurm is not installed or cannot be started.
 #   slurm_trial.sh VELQUON-EVENTS ARRAY-SCRIPT

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Checks the records of many events of all types under random values.
 //   many_records EVENTS [SEED]
 // Prints what was checked; ends with 1 at the first record that is wrong.

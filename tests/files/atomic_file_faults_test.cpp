@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
@@ -198,6 +201,52 @@ void end_saving(const std::filesystem::path& path, int signal, useconds_t after,
   ::waitpid(writer, &status, 0);
   EXPECT_TRUE(WIFSIGNALED(status));
   wait_for_all();
+}
+
+TEST(AtomicFile, HasTheTemporaryNameThatTheCallerWishes) {
+  const TemporaryFolder folder;
+  const auto path = folder.path() / "event.cwd";
+  const CallFaultsInForce in_force({no_file_without_a_name});
+  AtomicFile file;
+  EXPECT_FALSE(file.open(path, ".wished"));
+  EXPECT_FALSE(file.write(new_bytes));
+  EXPECT_EQ(folder.names(), Names{".wished"});
+  EXPECT_FALSE(file.commit());
+  EXPECT_EQ(folder.names(), Names{"event.cwd"});
+  EXPECT_EQ(file_bytes(path), new_bytes);
+}
+
+TEST(AtomicFile, LeavesAFileThatHasTheWishedTemporaryNameAlone) {
+  const TemporaryFolder folder;
+  write_old(folder.path() / ".wished");
+  const CallFaultsInForce in_force({no_file_without_a_name});
+  {
+    AtomicFile file;
+    EXPECT_FALSE(file.open(folder.path() / "event.cwd", ".wished"));
+    EXPECT_EQ(folder.names().size(), 2U);
+  }
+  EXPECT_EQ(folder.names(), Names{".wished"});
+  EXPECT_EQ(file_bytes(folder.path() / ".wished"), old_bytes);
+}
+
+TEST(RemoveTemporary, FindsWhatAKilledProgramHasLeftBesideTheTargetOfALink) {
+  const TemporaryFolder folder;
+  const TemporaryFolder other;
+  write_old(other.path() / "event.cwd");
+  std::filesystem::create_symlink(other.path() / "event.cwd", folder.path() / "link.cwd");
+  const pid_t writer = ::fork();
+  if (writer == 0) {
+    const CallFaultsInForce in_force({no_file_without_a_name});
+    AtomicFile file;
+    ::_exit(file.open(folder.path() / "link.cwd", ".wished") ? 1 : 0);
+  }
+  int status = 0;
+  ::waitpid(writer, &status, 0);
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+  EXPECT_EQ(other.names(), (Names{".wished", "event.cwd"}));
+  remove_temporary(folder.path() / "link.cwd", ".wished");
+  EXPECT_EQ(other.names(), Names{"event.cwd"});
+  EXPECT_EQ(folder.names(), Names{"link.cwd"});
 }
 
 struct Ending {

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // A fuzzer of one reader of event files, chosen by READ_EVENT: any bytes are either refused or read
 // as an event that can be shown, and written down again and read back they are the same event.
 

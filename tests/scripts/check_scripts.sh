@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: The Velquon developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # Checks scripts/fuzz and scripts/lint.
 #   check_scripts.sh CHECK SOURCE
 set -euo pipefail

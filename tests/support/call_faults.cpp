@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The headers' checking functions of the same names would stand in the way.
 #undef _FORTIFY_SOURCE
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "tools/event_options.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +14,7 @@
 namespace velquon {
 namespace {
 
-using Words = std::vector<std::string>;
+using testing::Words;
 
 ParsedOptions parsed(const Words& words) {
   std::vector<const char*> argv{"velquon-events"};

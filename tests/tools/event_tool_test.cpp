@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -27,10 +30,10 @@ namespace {
 
 using testing::CallFault;
 using testing::is_one_message;
+using testing::Names;
 using testing::run_tool;
 using testing::TemporaryFolder;
-using Names = std::vector<std::string>;
-using Words = std::vector<std::string>;
+using testing::Words;
 
 TEST(EventTool, TheSameSeedMakesTheSameBytes) {
   for (const char* type : {"pi-", "pi+", "pi0", "mu-", "mu+", "lambda"}) {

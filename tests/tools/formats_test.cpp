@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include <gtest/gtest.h>
 
 #include <charconv>
@@ -22,18 +25,17 @@ namespace velquon {
 namespace {
 
 using testing::is_one_message;
+using testing::Names;
 using testing::run_tool;
 using testing::TemporaryFolder;
-using Names = std::vector<std::string>;
-using Words = std::vector<std::string>;
+using testing::Words;
 
 constexpr ChamberValues values{.B_field = 2.0F, .sides_cm = 300.0F, .kinetic_Mev = 60.0F};
 
 Words with_values(const std::string& type, const Words& more) {
-  Words words{"--type",   type, "--field", "2",        "--side",   "300",
-              "--energy", "60", "--seed",  "20261121", "--events", "60"};
-  words.insert(words.end(), more.begin(), more.end());
-  return words;
+  return testing::with({"--type", type, "--field", "2", "--side", "300", "--energy", "60", "--seed",
+                        "20261121", "--events", "60"},
+                       more);
 }
 
 /// The fields of a table's lines.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "tools/progress.h"
 
 #include <gtest/gtest.h>
@@ -19,6 +22,8 @@ class Told {
       : file_(std::tmpfile()), progress_(total, file_.get(), terminal, start_) {}
 
   void show(std::uint64_t done, milliseconds at) { progress_.show(done, start_ + at); }
+  void leave_out(std::uint64_t events) { progress_.leaveOut(events); }
+  void clear() { progress_.clear(); }
   void end(milliseconds at) { progress_.end(start_ + at); }
 
   /// The text since the last call.
@@ -80,6 +85,40 @@ TEST(ProgressOnATerminal, LeavesItsRowForNoNumberOfEvents) {
   const std::string line = told.text();
   EXPECT_EQ(line.find("\r["), 0U);
   EXPECT_LE(line.find("\x1b[K"), 80U) << line;
+}
+
+TEST(ProgressOnATerminal, LeavesItsRowToAMessage) {
+  Told told(1000, true);
+  told.clear();
+  EXPECT_EQ(told.text(), "") << "there is no bar yet";
+  told.show(500, milliseconds(500));
+  EXPECT_NE(told.text(), "");
+  told.clear();
+  EXPECT_EQ(told.text(), "\r\x1b[K");
+  told.clear();
+  EXPECT_EQ(told.text(), "");
+}
+
+TEST(ProgressOffATerminal, HasNoBarToTakeAway) {
+  Told told(1000, false);
+  told.show(500, seconds(10));
+  EXPECT_NE(told.text(), "");
+  told.clear();
+  EXPECT_EQ(told.text(), "");
+}
+
+TEST(ProgressTimes, AreThoseOfTheEventsThatWereNotThereBefore) {
+  Told told(4000, false);
+  told.leave_out(2000);
+  told.show(3000, seconds(10));
+  EXPECT_EQ(told.text(), "velquon-events: 3000 of 4000 events, 100 a second, 0:10 left\n");
+}
+
+TEST(ProgressTimes, AreZeroWhenNothingIsLeft) {
+  Told told(1000, false);
+  told.leave_out(1000);
+  told.show(1000, seconds(10));
+  EXPECT_EQ(told.text(), "velquon-events: 1000 of 1000 events, 0 a second, 0:00 left\n");
 }
 
 TEST(ProgressTimes, HaveHoursWhereThereAreSome) {

@@ -1,19 +1,15 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "tools/seed_runs.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <spawn.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <chrono>
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <thread>
-#include <vector>
+#include <utility>
 
 #include "tests/support/file_size_limit.h"
 #include "tests/support/temporary_folder.h"
@@ -25,16 +21,12 @@ namespace velquon {
 namespace {
 
 using testing::is_one_message;
+using testing::Names;
 using testing::run_tool;
 using testing::TemporaryFolder;
-using Names = std::vector<std::string>;
-using Words = std::vector<std::string>;
+using testing::with;
+using testing::Words;
 namespace fs = std::filesystem;
-
-Words with(Words words, const Words& more) {
-  words.insert(words.end(), more.begin(), more.end());
-  return words;
-}
 
 const Words lambdas{"--type", "lambda", "--energy", "50", "--events", "40"};
 
@@ -135,13 +127,15 @@ TEST(SeedRuns, OnAFullDiskEndWithOneLineAndWithoutAHalfFile) {
   const TemporaryFolder folder;
   const testing::FileSizeLimit limit(400);
   for (const char* format : {"csv", "npy", "particles", "hepmc3", "summary"}) {
-    const auto run =
-        run_tool(with(lambdas, {"--seeds", "1-20", "--format", format, "--output", folder.path()}));
-    EXPECT_EQ(run.status, 1);
-    EXPECT_TRUE(is_one_message(run.messages)) << run.messages;
-    EXPECT_NE(run.messages.find("seed-1."), std::string::npos);
-    EXPECT_NE(run.messages.find("File too large"), std::string::npos);
-    EXPECT_EQ(folder.names(), Names{}) << format;
+    for (const char* jobs : {"1", "2"}) {
+      const auto run = run_tool(with(lambdas, {"--seeds", "1-20", "--jobs", jobs, "--format",
+                                               format, "--output", folder.path()}));
+      EXPECT_EQ(run.status, 1);
+      EXPECT_TRUE(is_one_message(run.messages)) << run.messages;
+      EXPECT_NE(run.messages.find("/seed-"), std::string::npos);
+      EXPECT_NE(run.messages.find("File too large"), std::string::npos);
+      EXPECT_EQ(folder.names(), Names{}) << format;
+    }
   }
 }
 
@@ -152,169 +146,6 @@ TEST(SeedRuns, OfEventFilesOnAFullDiskLeaveNoFolder) {
       run_tool(with(lambdas, {"--seeds", "1-3", "--format", "cwd", "--output", folder.path()}));
   EXPECT_EQ(run.status, 1);
   EXPECT_TRUE(is_one_message(run.messages)) << run.messages;
-  EXPECT_EQ(folder.names(), Names{});
-}
-
-/// The tool while it runs.
-class RunningTool {
- public:
-  RunningTool(const Words& arguments, const fs::path& messages) {
-    Words words{EVENT_TOOL};
-    words.insert(words.end(), arguments.begin(), arguments.end());
-    std::vector<char*> argv;
-    std::ranges::transform(words, std::back_inserter(argv),
-                           [](std::string& word) { return word.data(); });
-    argv.push_back(nullptr);
-    posix_spawn_file_actions_t actions;
-    ::posix_spawn_file_actions_init(&actions);
-    ::posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, messages.c_str(),
-                                       O_WRONLY | O_CREAT | O_TRUNC, 0600);
-    EXPECT_EQ(::posix_spawn(&process_, EVENT_TOOL, &actions, nullptr, argv.data(), ::environ), 0);
-    ::posix_spawn_file_actions_destroy(&actions);
-  }
-  [[nodiscard]] pid_t process() const { return process_; }
-
-  /// The processes that it has started and that run.
-  [[nodiscard]] std::vector<pid_t> workers() const {
-    std::ifstream list("/proc/" + std::to_string(process_) + "/task/" + std::to_string(process_) +
-                       "/children");
-    std::vector<pid_t> workers;
-    for (pid_t worker = 0; list >> worker;) {
-      workers.push_back(worker);
-    }
-    return workers;
-  }
-  /// Waits, for half a minute at most, until so many workers run.
-  std::vector<pid_t> wait_for_workers(std::size_t number) const {
-    for (int i = 0; i < 30000 && workers().size() < number; ++i) {
-      std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
-    return workers();
-  }
-  /// Waits for its end, for a minute at most; then it is killed.
-  /// \return -1 when it did not exit by itself
-  int status() const {
-    int status = 0;
-    for (int i = 0; i < 6000; ++i) {
-      if (::waitpid(process_, &status, WNOHANG) == process_) {
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-      }
-      std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
-    ::kill(process_, SIGKILL);
-    ::waitpid(process_, &status, 0);
-    ADD_FAILURE() << "it does not end";
-    return -1;
-  }
-
- private:
-  pid_t process_ = 0;
-};
-
-Words long_run(const TemporaryFolder& folder, const char* format, const char* seeds,
-               const char* events) {
-  return {"--type", "pi0",    "--energy", "100",      "--seeds", seeds,      "--events",
-          events,   "--jobs", "2",        "--format", format,    "--output", folder.path()};
-}
-
-// Long enough to be caught at work, short enough to wait for.
-constexpr const char* some_events = "60000";
-constexpr const char* some_event_files = "500";
-// More than a worker makes before a test is over.
-constexpr const char* endless_events = "100000000";
-
-bool runs(pid_t process) {
-  return ::kill(process, 0) == 0;
-}
-
-/// Kills the worker of seed 1 and expects the others to finish.
-void expect_others_to_finish(const TemporaryFolder& folder, Words words, const Names& others) {
-  const TemporaryFolder other;
-  const RunningTool tool(words, other.path() / "messages");
-  const auto workers = tool.wait_for_workers(2);
-  ASSERT_EQ(workers.size(), 2U);
-  ::kill(workers[0], SIGKILL);
-  EXPECT_EQ(tool.status(), 1);
-  EXPECT_EQ(testing::file_text(other.path() / "messages"),
-            "velquon-events: the worker of seed 1 was ended by signal 9 (Killed)\n");
-  EXPECT_EQ(folder.names(), others);
-  // What is missing is made up for.
-  words.emplace_back("--resume");
-  EXPECT_EQ(run_tool(words).status, 0);
-  EXPECT_EQ(folder.names().size(), others.size() + 1);
-}
-
-TEST(SeedRuns, AKilledWorkerIsNamedAndTheOthersFinish) {
-  const TemporaryFolder folder;
-  expect_others_to_finish(folder, long_run(folder, "summary", "1-4", some_events),
-                          {"seed-2.json", "seed-3.json", "seed-4.json"});
-}
-
-TEST(SeedRuns, AKilledWorkerLeavesNoFolderOfEventFiles) {
-  const TemporaryFolder folder;
-  expect_others_to_finish(folder, long_run(folder, "cwd", "1-2", some_event_files), {"seed-2"});
-}
-
-TEST(SeedRuns, AreNotDisturbedByWhatTheirParentIgnores) {
-  const TemporaryFolder folder;
-  const TemporaryFolder other;
-  std::signal(SIGCHLD, SIG_IGN);
-  std::signal(SIGHUP, SIG_IGN);
-  const RunningTool tool(long_run(folder, "summary", "1-3", "20000"), other.path() / "messages");
-  std::signal(SIGCHLD, SIG_DFL);
-  std::signal(SIGHUP, SIG_DFL);
-  ASSERT_EQ(tool.wait_for_workers(2).size(), 2U);
-  ::kill(tool.process(), SIGHUP);
-  EXPECT_EQ(tool.status(), 0);
-  EXPECT_EQ(testing::file_text(other.path() / "messages"), "");
-  EXPECT_EQ(folder.names().size(), 3U);
-}
-
-TEST(SeedRuns, AnInterruptEndsAllWorkersAndLeavesOnlyWholeFiles) {
-  for (const int signal : {SIGINT, SIGTERM}) {
-    for (const char* format : {"summary", "cwd"}) {
-      const TemporaryFolder folder;
-      const TemporaryFolder other;
-      const Words words = long_run(folder, format, "1-100", endless_events);
-      const RunningTool tool(words, other.path() / "messages");
-      const auto workers = tool.wait_for_workers(2);
-      ASSERT_EQ(workers.size(), 2U);
-      std::this_thread::sleep_for(std::chrono::milliseconds(50));
-      ::kill(tool.process(), signal);
-      EXPECT_EQ(tool.status(), 128 + signal);
-      for (const pid_t worker : workers) {
-        EXPECT_FALSE(runs(worker));
-      }
-      const std::string messages = testing::file_text(other.path() / "messages");
-      EXPECT_TRUE(is_one_message(messages)) << messages;
-      EXPECT_NE(messages.find(" 0 of 100 seeds are complete"), std::string::npos) << messages;
-      EXPECT_EQ(folder.names(), Names{});
-    }
-  }
-}
-
-TEST(SeedRuns, WorkersGoWithTheirParent) {
-  const TemporaryFolder folder;
-  const TemporaryFolder other;
-  const RunningTool tool(long_run(folder, "summary", "1-100", endless_events),
-                         other.path() / "messages");
-  const auto workers = tool.wait_for_workers(2);
-  ASSERT_EQ(workers.size(), 2U);
-  ::kill(tool.process(), SIGKILL);
-  EXPECT_EQ(tool.status(), -1);
-  for (const pid_t worker : workers) {
-    for (int i = 0; i < 1000 && runs(worker); ++i) {
-      std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
-    // Where nobody reaps the orphans of a container they stay as zombies.
-    std::ifstream stat("/proc/" + std::to_string(worker) + "/stat");
-    std::string number;
-    std::string name;
-    std::string state = "gone";
-    stat >> number >> name >> state;
-    EXPECT_TRUE(state == "Z" || state == "gone") << state;
-    ::kill(worker, SIGKILL);
-  }
   EXPECT_EQ(folder.names(), Names{});
 }
 

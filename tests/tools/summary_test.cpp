@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "tools/summary.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +21,7 @@ namespace {
 
 using testing::run_tool;
 using testing::TemporaryFolder;
-using Words = std::vector<std::string>;
+using testing::Words;
 
 constexpr ChamberValues values{.B_field = 2.0F, .sides_cm = 300.0F, .kinetic_Mev = 60.0F};
 

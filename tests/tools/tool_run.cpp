@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "tests/tools/tool_run.h"
 
 #include <fcntl.h>
@@ -35,10 +38,25 @@ std::vector<char*> pointers_to(std::vector<std::string>& words) {
   return pointers;
 }
 
-pid_t start_tool(const std::vector<std::string>& arguments, const std::filesystem::path& out,
-                 const std::filesystem::path& messages, const std::vector<std::string>& variables) {
-  std::vector<std::string> words{EVENT_TOOL};
-  words.insert(words.end(), arguments.begin(), arguments.end());
+void direct(posix_spawn_file_actions_t& actions, int stream, const std::filesystem::path& file) {
+  if (file.empty()) {
+    ::posix_spawn_file_actions_addclose(&actions, stream);
+  } else {
+    ::posix_spawn_file_actions_addopen(&actions, stream, file.c_str(), O_WRONLY | O_CREAT | O_TRUNC,
+                                       0600);
+  }
+}
+
+}  // namespace
+
+Words with(Words words, const Words& more) {
+  words.insert(words.end(), more.begin(), more.end());
+  return words;
+}
+
+pid_t start_tool(const Words& arguments, const ToolStreams& streams,
+                 const std::vector<std::string>& variables) {
+  Words words = with({EVENT_TOOL}, arguments);
   std::vector<std::string> environment = variables;
   for (char** variable = ::environ; *variable != nullptr; ++variable) {
     environment.emplace_back(*variable);
@@ -46,9 +64,8 @@ pid_t start_tool(const std::vector<std::string>& arguments, const std::filesyste
 
   posix_spawn_file_actions_t actions;
   ::posix_spawn_file_actions_init(&actions);
-  constexpr int flags = O_WRONLY | O_CREAT | O_TRUNC;
-  ::posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, out.c_str(), flags, 0600);
-  ::posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, messages.c_str(), flags, 0600);
+  direct(actions, STDOUT_FILENO, streams.out);
+  direct(actions, STDERR_FILENO, streams.messages);
   pid_t process = 0;
   const int error = ::posix_spawn(&process, EVENT_TOOL, &actions, nullptr,
                                   pointers_to(words).data(), pointers_to(environment).data());
@@ -59,21 +76,19 @@ pid_t start_tool(const std::vector<std::string>& arguments, const std::filesyste
   return process;
 }
 
-}  // namespace
-
-ToolRun run_tool(const std::vector<std::string>& arguments, const std::filesystem::path& out_file,
+ToolRun run_tool(const Words& arguments, const std::filesystem::path& out_file,
                  const std::vector<std::string>& variables) {
   const TemporaryFolder folder;
   const auto out = out_file.empty() ? folder.path() / "out" : out_file;
   const auto messages = folder.path() / "messages";
-  const int status = exit_status(start_tool(arguments, out, messages, variables));
+  const int status = exit_status(start_tool(arguments, {out, messages}, variables));
   return {status, out_file.empty() ? file_text(out) : std::string(), file_text(messages)};
 }
 
-void kill_tool(const std::vector<std::string>& arguments, std::chrono::milliseconds after) {
+void kill_tool(const Words& arguments, std::chrono::milliseconds after) {
   // What it started becomes a child of this process.
   ::prctl(PR_SET_CHILD_SUBREAPER, 1);
-  const pid_t process = start_tool(arguments, "/dev/null", "/dev/null", {});
+  const pid_t process = start_tool(arguments, {"/dev/null", "/dev/null"});
   std::this_thread::sleep_for(after);
   ::kill(process, SIGKILL);
   while (::wait(nullptr) > 0) {
