@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/application.h"
 
 #include <QApplication>
@@ -36,9 +39,9 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
       commands_(std::make_unique<Commands>()) {
   make_style_readable();
   const Ui::Menus& items = menus_->items();
-  chamber_window_->fillToolBar({items.new_event_item, items.replay_item, items.rotate_item,
-                                items.reset_orientation_item},
-                               items.event_menu);
+  chamber_window_->fillToolBar(
+      {items.new_event_item, items.replay_item, items.rotate_item, items.reset_orientation_item},
+      items.event_menu);
   join(*chamber_window_);
   join(*projector_window_);
   addFileCommands();
@@ -119,22 +122,21 @@ void Application::addTrackCommands() {
 void Application::addFileCommands() {
   const Ui::Menus& items = menus_->items();
   EventDocuments* const documents = documents_.get();
-  commands_->add(
-      {{.item = items.open_item, .run = [=] { documents->open_event_file(false); }},
-       {.item = items.import_item, .run = [=] { documents->open_event_file(true); }},
-       {.item = items.save_item, .run = [=] { documents->save_event_file(); }},
-       // Not quit(): that would first ask the windows to close, and they only hide.
-       {.item = items.quit_item, .run = [] { QCoreApplication::exit(); }}});
+  commands_->add({{.item = items.open_item, .run = [=] { documents->open_event_file(false); }},
+                  {.item = items.import_item, .run = [=] { documents->open_event_file(true); }},
+                  {.item = items.save_item, .run = [=] { documents->save_event_file(); }},
+                  // Not quit(): that would first ask the windows to close, and they only hide.
+                  {.item = items.quit_item, .run = [] { QCoreApplication::exit(); }}});
 }
 
 void Application::addWindowCommands() {
   const Ui::Menus& items = menus_->items();
-  commands_->add({{.item = items.chamber_window_item,
-                   .run = [this] { chamber_window_->makeKeyAndOrderFront(); }},
-                  {.item = items.projector_window_item,
-                   .run = [this] { projector_window_->makeKeyAndOrderFront(); }},
-                  {.item = items.track_window_item,
-                   .run = [this] { trackWindow().makeKeyAndOrderFront(); }}});
+  commands_->add(
+      {{.item = items.chamber_window_item,
+        .run = [this] { chamber_window_->makeKeyAndOrderFront(); }},
+       {.item = items.projector_window_item,
+        .run = [this] { projector_window_->makeKeyAndOrderFront(); }},
+       {.item = items.track_window_item, .run = [this] { trackWindow().makeKeyAndOrderFront(); }}});
 }
 
 void Application::addHelpCommands() {

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/chamber_commands.h"
 
 #include <QMenu>
@@ -23,16 +26,16 @@ std::vector<std::pair<QAction*, int>> numbered_items(const QMenu& menu, int firs
 
 void add_actions(Commands& commands, const Ui::Menus& menus, ChamberController& controller,
                  ChamberView& view) {
-  commands.add({{.item = menus.new_event_item, .run = [&] { controller.makeNewEvent(); }},
-                {.item = menus.replay_item, .run = [&] { view.replay(); }},
-                {.item = menus.rotate_item,
-                 .run = [&] { view.doRotation(RotationDirection::forward); }},
-                {.item = menus.reverse_rotate_item,
-                 .run = [&] { view.doRotation(RotationDirection::reverse); }},
-                {.item = menus.reset_orientation_item, .run = [&] { view.resetOrientation(); }},
-                {.item = menus.print_item,
-                 .run = [&] { controller.print(); },
-                 .is_enabled = [&] { return controller.printView() != nullptr; }}});
+  commands.add(
+      {{.item = menus.new_event_item, .run = [&] { controller.makeNewEvent(); }},
+       {.item = menus.replay_item, .run = [&] { view.replay(); }},
+       {.item = menus.rotate_item, .run = [&] { view.doRotation(RotationDirection::forward); }},
+       {.item = menus.reverse_rotate_item,
+        .run = [&] { view.doRotation(RotationDirection::reverse); }},
+       {.item = menus.reset_orientation_item, .run = [&] { view.resetOrientation(); }},
+       {.item = menus.print_item,
+        .run = [&] { controller.print(); },
+        .is_enabled = [&] { return controller.printView() != nullptr; }}});
 }
 
 void add_settings(Commands& commands, const Ui::Menus& menus, ChamberController& controller,
@@ -63,11 +66,12 @@ void add_choices(Commands& commands, const Ui::Menus& menus, ChamberController& 
   commands.add(one_of<int>(
       numbered_items(*menus.axis_menu, 1), [&](int axis) { controller.set_axis(axis); },
       [&] { return view.rotation_axis(); }));
-  commands.add(one_of<RotationRate>({{menus.rotate_faster_item, RotationRate::faster},
-                                     {menus.default_rotate_item, RotationRate::standard},
-                                     {menus.rotate_slower_item, RotationRate::slower}},
-                                    [&](RotationRate rate) { view.setRotationRate(rate); },
-                                    [&turntable] { return turntable.rate(); }));
+  commands.add(one_of<RotationRate>(
+      {{menus.rotate_faster_item, RotationRate::faster},
+       {menus.default_rotate_item, RotationRate::standard},
+       {menus.rotate_slower_item, RotationRate::slower}},
+      [&](RotationRate rate) { view.setRotationRate(rate); },
+      [&turntable] { return turntable.rate(); }));
   commands.add(one_of<Monitor>(
       {{menus.mon_chamber, Monitor::chamber}, {menus.mon_projector, Monitor::projector}},
       [&](Monitor monitor) { controller.set_monitor(monitor); },
@@ -76,8 +80,8 @@ void add_choices(Commands& commands, const Ui::Menus& menus, ChamberController& 
 
 }  // namespace
 
-void add_chamber_commands(Commands& commands, const Ui::Menus& menus,
-                          ChamberController& controller, ChamberView& view) {
+void add_chamber_commands(Commands& commands, const Ui::Menus& menus, ChamberController& controller,
+                          ChamberView& view) {
   add_actions(commands, menus, controller, view);
   add_settings(commands, menus, controller, view);
   add_choices(commands, menus, controller, view);

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 namespace Ui {
@@ -12,7 +15,7 @@ class Commands;
 
 /// Adds what the menus Action, Event and Settings and the item Print do to the table of commands.
 /// All of these must outlive the table.
-void add_chamber_commands(Commands& commands, const Ui::Menus& menus,
-                          ChamberController& controller, ChamberView& view);
+void add_chamber_commands(Commands& commands, const Ui::Menus& menus, ChamberController& controller,
+                          ChamberView& view);
 
 }  // namespace velquon

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/desktop_dialogs.h"
 
 #include <QApplication>
@@ -9,8 +12,8 @@
 #include <QSettings>
 
 #include "app/command_line.h"
-#include "widgets/gl_panel.h"
 #include "app/plain_file_icons.h"
+#include "widgets/gl_panel.h"
 
 namespace velquon {
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // One operation for each kind of decay, from before the kinds of events stood in a table. Nothing of
 // the program calls them any more; kept because these are operations that others may know and call.
 

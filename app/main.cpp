@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The desktop program.
 
 #include <QApplication>
@@ -6,17 +9,15 @@
 #include <string>
 #include <vector>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include "app/application.h"
 #include "app/command_line.h"
 #include "app/desktop.h"
+#include "app/desktop_dialogs.h"
 #include "app/event_documents.h"
 #include "app/pictures.h"
 #include "app/start_file.h"
-#include "app/desktop_dialogs.h"
 #include "app/x_display.h"
+#include "files/standard_streams.h"
 
 namespace {
 
@@ -42,16 +43,6 @@ class ArgumentVector {
   int count_;
 };
 
-/// Takes the places of standard streams that are closed, which the next files and connections to be
-/// opened would get: a message would be written into them. Writing to such a stream still fails.
-void keep_places_of_closed_streams() {
-  for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-    if (::fcntl(stream, F_GETFD) == -1) {
-      ::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
-    }
-  }
-}
-
 int end_with(const QString& text, int status) {
   std::FILE* const out = status == 0 ? stdout : stderr;
   const bool written = std::fputs(qPrintable(text), out) >= 0 && std::fflush(out) == 0;
@@ -65,7 +56,7 @@ int end_for_want_of(const QString& missing) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  keep_places_of_closed_streams();
+  velquon::keep_places_of_closed_streams();
   // A file that grows beyond a limit is an error to be told, not the program's end, and so is an
   // output that nobody reads any more.
   std::signal(SIGXFSZ, SIG_IGN);

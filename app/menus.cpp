@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/menus.h"
 
 #include <QActionGroup>
@@ -5,8 +8,8 @@
 #include <QMenuBar>
 
 #include "app/held_keys.h"
-#include "widgets/palette_icon.h"
 #include "ui_menus.h"
+#include "widgets/palette_icon.h"
 
 namespace velquon {
 

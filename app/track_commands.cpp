@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "app/track_commands.h"
 
 #include <QAction>
@@ -15,16 +18,15 @@ namespace {
 
 std::vector<Command> choices(const Ui::Menus& menus, TrackModel& model) {
   std::vector<Command> commands = one_of<TrackParticle>(
-      {{menus.electron_item, TrackParticle::e_minus},
-       {menus.positron_item, TrackParticle::e_plus}},
+      {{menus.electron_item, TrackParticle::e_minus}, {menus.positron_item, TrackParticle::e_plus}},
       [&model](TrackParticle particle) { model.setParticle(particle); },
       [&model] { return model.particle(); });
   const auto append = [&commands](const std::vector<Command>& more) {
     commands.insert(commands.end(), more.begin(), more.end());
   };
-  append(one_of<int>({{menus.v_item, 1}, {menus.two_v_item, 2}, {menus.three_v_item, 3}},
-                     [&model](int speed) { model.setSpeed(speed); },
-                     [&model] { return model.speed(); }));
+  append(one_of<int>(
+      {{menus.v_item, 1}, {menus.two_v_item, 2}, {menus.three_v_item, 3}},
+      [&model](int speed) { model.setSpeed(speed); }, [&model] { return model.speed(); }));
   append(one_of<TrackDirection>(
       {{menus.LtoR_item, TrackDirection::left_to_right},
        {menus.RtoL_item, TrackDirection::right_to_left}},

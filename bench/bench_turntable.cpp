@@ -15,17 +15,17 @@
 #include <cstdio>
 
 #include "app/application.h"
-#include "chamber/chamber_window.h"
 #include "app/desktop.h"
-#include "app/menus.h"
-#include "projection/projector_window.h"
 #include "app/desktop_dialogs.h"
+#include "app/menus.h"
 #include "app/x_display.h"
 #include "bench/event_loop.h"
 #include "bench/processor_time.h"
 #include "bench/requirement.h"
 #include "bench/tracks.h"
 #include "chamber/chamber_view.h"
+#include "chamber/chamber_window.h"
+#include "projection/projector_window.h"
 #include "ui_menus.h"
 
 namespace velquon::bench {

@@ -1,10 +1,13 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The replay of the chamber view.
 
 #include <QWindow>
 
 #include "chamber/chamber_view.h"
-#include "widgets/delayed_message.h"
 #include "chamber/input_watch.h"
+#include "widgets/delayed_message.h"
 
 namespace velquon {
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The turntable of the chamber view.
 
 #include <array>
@@ -35,8 +38,8 @@ void ChamberView::rotate() {
   Turntable& turntable = model_.turntable();
   const std::uint64_t now = clock_();
   const std::uint64_t steps = turntable.takeStepsDue(now);
-  step_timer_.start(static_cast<int>(std::lround(static_cast<double>(turntable.untilNext(now)) /
-                                                 microseconds_per_millisecond)));
+  step_timer_.start(static_cast<int>(
+      std::lround(static_cast<double>(turntable.untilNext(now)) / microseconds_per_millisecond)));
 
   constexpr std::array<Vector, 3> axes{along_x, along_y, along_z};
   const double angle = static_cast<double>(turntable.angle()) * static_cast<double>(steps);

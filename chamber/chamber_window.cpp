@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "chamber/chamber_window.h"
 
 #include <QLabel>
@@ -7,8 +10,8 @@
 
 #include "chamber/chamber_settings.h"
 #include "chamber/chamber_view.h"
-#include "widgets/wheel_guard.h"
 #include "ui_chamber_window.h"
+#include "widgets/wheel_guard.h"
 
 namespace velquon {
 

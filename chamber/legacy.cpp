@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // How events and values were passed on piece by piece before there was a model. Nothing of the program
 // does so any more; kept because these are operations that others may know and call.
 

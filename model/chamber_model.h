@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include <cstdint>
@@ -19,9 +22,9 @@ namespace velquon {
 struct ChamberPreferences {
   bool show_axes = true;
   bool show_values = true;
-  bool reset_each = false;      ///< go back to the resting viewpoint for each new event
-  bool slomo = false;           ///< show each new event point by point
-  bool chamber_on_top = true;   ///< the window brought to the front with each new event
+  bool reset_each = false;     ///< go back to the resting viewpoint for each new event
+  bool slomo = false;          ///< show each new event point by point
+  bool chamber_on_top = true;  ///< the window brought to the front with each new event
 };
 
 /// What the program knows of its chamber: the kind and the values of the next event, how events are

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include <cstddef>
@@ -26,8 +29,8 @@ struct ShownEvent {
   std::shared_ptr<const EventTracks> tracks = std::make_shared<const EventTracks>();
   /// Chamber values that the windows tell, the field without the sign of a negative particle.
   ChamberValues values;
-  std::string name;         ///< in the titles of the windows, UTF-8
-  bool has_event = false;   ///< false before the first event of the program's run
+  std::string name;        ///< in the titles of the windows, UTF-8
+  bool has_event = false;  ///< false before the first event of the program's run
 
   [[nodiscard]] std::span<const PlotPoint> points() const { return tracks->points; }
 };

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "printing/print_panel.h"
 
 #include <QBuffer>
@@ -14,8 +17,8 @@
 
 #include "printing/page_preview.h"
 #include "printing/print_view.h"
-#include "widgets/user_dialogs.h"
 #include "printing/whole_file.h"
+#include "widgets/user_dialogs.h"
 
 namespace velquon {
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "render/chamber_scene.h"
 
 #include <GL/freeglut.h>
@@ -77,7 +80,8 @@ void ChamberScene::draw(const Camera& camera, double scale, std::size_t points,
   glFlush();
 }
 
-std::optional<FeedbackPicture> ChamberScene::drawForPrinting(const Camera& camera, bool axes) const {
+std::optional<FeedbackPicture> ChamberScene::drawForPrinting(const Camera& camera,
+                                                             bool axes) const {
   glViewport(0, 0, chamber_width, chamber_height);
   camera.load();
   return draw_into_feedback(static_cast<int>(points_.size()), [&] {

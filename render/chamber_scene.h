@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include <optional>
@@ -20,7 +23,8 @@ inline constexpr float paper_cube_side = 2.25F;
 /// What is drawn beside the points.
 struct SceneOptions {
   bool axes = true;
-  std::string values;  ///< line of the overlay, which stands still while the chamber turns; or empty
+  std::string
+      values;  ///< line of the overlay, which stands still while the chamber turns; or empty
 };
 
 /// The picture of the chamber: its edges, axes and middle plane, and an event's points as cubes.
@@ -39,7 +43,8 @@ class ChamberScene {
   /// The picture as lines and rectangles for a page, in view units with y upwards, every point in
   /// it. Needs a current context, not a framebuffer.
   /// \return nothing when the driver does not hand the picture over
-  [[nodiscard]] std::optional<FeedbackPicture> drawForPrinting(const Camera& camera, bool axes) const;
+  [[nodiscard]] std::optional<FeedbackPicture> drawForPrinting(const Camera& camera,
+                                                               bool axes) const;
 
  private:
   std::vector<PlotPoint> points_;

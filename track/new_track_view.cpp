@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "track/new_track_view.h"
 
 #include <GL/gl.h>
@@ -218,7 +221,8 @@ void NewTrackView::drawTrack() const {
   const std::span<const float> y = track.y_points();
   glColor3f(1.0F, 1.0F, 1.0F);
   glBegin(GL_LINE_STRIP);
-  for (auto point = static_cast<std::size_t>(drawing_.firstPoint(track)); point < x.size(); ++point) {
+  for (auto point = static_cast<std::size_t>(drawing_.firstPoint(track)); point < x.size();
+       ++point) {
     glVertex3f(x[point], y[point], 0.0F);
   }
   glEnd();

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What the track view did before it had the step timer, kept to compare the timed steps with. No path
 // of the program leads here.
 

@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: The Velquon developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # Checks what an installation puts on a desktop. Nothing outside the build tree is written.
 #   check_desktop.sh CHECK SOURCE BUILD VERSION
 # Ends with 77 where a tool that the check needs is not installed.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include <QScrollBar>
 #include <algorithm>
 #include <array>
@@ -6,10 +9,10 @@
 
 #include "gui/support/matrices.h"
 #include "gui/support/waiting.h"
-#include "widgets/view_scroll_area.h"
 #include "support/documents_fixture.h"
 #include "support/event_bytes.h"
 #include "support/printing.h"
+#include "widgets/view_scroll_area.h"
 
 namespace velquon::test {
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What the program answers to its command line, as a shell sees it.
 
 #include <gtest/gtest.h>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include <sys/inotify.h>
 #include <unistd.h>
 
@@ -16,8 +19,8 @@
 #include <QTimer>
 #include <array>
 
-#include "app/event_documents.h"
 #include "app/desktop_dialogs.h"
+#include "app/event_documents.h"
 #include "gui/support/application_fixture.h"
 #include "gui/support/waiting.h"
 #include "support/event_bytes.h"

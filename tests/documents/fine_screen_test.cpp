@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The projector's window on a screen of twice the resolution, which a program has from its start.
 
 #include <X11/Xlib.h>
@@ -11,9 +14,9 @@
 #include <set>
 
 #include "gui/support/waiting.h"
-#include "widgets/cursors.h"
 #include "support/environment.h"
 #include "support/other_program.h"
+#include "widgets/cursors.h"
 
 namespace velquon::test {
 

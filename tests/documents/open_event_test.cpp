@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include <QAction>
 #include <QElapsedTimer>
 #include <QLabel>
@@ -5,9 +8,9 @@
 
 #include "gui/support/pictures.h"
 #include "gui/support/waiting.h"
-#include "widgets/value_slider.h"
 #include "support/documents_fixture.h"
 #include "support/event_bytes.h"
+#include "widgets/value_slider.h"
 
 namespace velquon::test {
 

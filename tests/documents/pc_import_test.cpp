@@ -1,8 +1,11 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include <QLabel>
 
-#include "widgets/value_slider.h"
 #include "support/documents_fixture.h"
 #include "support/event_bytes.h"
+#include "widgets/value_slider.h"
 
 namespace velquon::test {
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "printing/print_panel.h"
 
 #include <QAction>
@@ -11,8 +14,8 @@
 #include <QTest>
 #include <QTimer>
 
-#include "printing/page_preview.h"
 #include "gui/support/waiting.h"
+#include "printing/page_preview.h"
 #include "support/documents_fixture.h"
 #include "support/event_bytes.h"
 #include "support/modal.h"

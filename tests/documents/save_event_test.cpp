@@ -1,10 +1,13 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include <QAction>
 #include <array>
 
-#include "widgets/value_slider.h"
 #include "support/documents_fixture.h"
 #include "support/event_bytes.h"
 #include "support/printing.h"
+#include "widgets/value_slider.h"
 
 namespace velquon::test {
 

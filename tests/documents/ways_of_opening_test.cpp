@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include <QAction>
 #include <QApplication>
 #include <QDragEnterEvent>
@@ -6,12 +9,12 @@
 #include <array>
 
 #include "app/start_file.h"
-#include "track/track_window.h"
 #include "gui/support/pictures.h"
 #include "gui/support/waiting.h"
 #include "support/documents_fixture.h"
 #include "support/event_bytes.h"
 #include "support/other_program.h"
+#include "track/track_window.h"
 
 namespace velquon::test {
 

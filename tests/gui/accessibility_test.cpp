@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What a screen reader finds: names, values and actions of the controls.
 
 #include <QAbstractButton>
@@ -10,9 +13,9 @@
 #include <QToolButton>
 #include <cmath>
 
-#include "widgets/value_slider.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
+#include "widgets/value_slider.h"
 
 namespace velquon::test {
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What the chamber view draws, pixel by pixel against places worked out from its viewpoint.
 
 #include <QTest>

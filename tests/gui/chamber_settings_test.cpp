@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The controls of the chamber values, their labels, and the way of the values into an event.
 
 #include <QAccessible>
@@ -9,10 +12,10 @@
 #include <cmath>
 #include <limits>
 
-#include "widgets/value_label.h"
-#include "widgets/value_slider.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/waiting.h"
+#include "widgets/value_label.h"
+#include "widgets/value_slider.h"
 
 namespace velquon::test {
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The wait of the replay, by a clock that is moved by hand.
 
 #include "model/clock.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The cubes drawn from one array against one GLUT cube a point.
 
 #include <GL/gl.h>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Icons, chosen buttons and marks in the palettes that desktops have: what tells something must
 // stand out from what is around it.
 
@@ -7,10 +10,10 @@
 #include <QStyle>
 #include <QToolBar>
 
-#include "widgets/contrast.h"
-#include "widgets/value_slider.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/waiting.h"
+#include "widgets/contrast.h"
+#include "widgets/value_slider.h"
 
 namespace velquon::test {
 

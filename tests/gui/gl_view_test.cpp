@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // When a view draws and when its picture comes to the screen.
 
 #include "widgets/gl_view.h"

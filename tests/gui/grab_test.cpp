@@ -1,13 +1,16 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The grab tool of the projection view, and the cursors of both tools.
 
 #include <QAbstractButton>
 #include <QLabel>
 #include <QTest>
 
-#include "widgets/cursors.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
 #include "tests/gui/support/pictures.h"
+#include "widgets/cursors.h"
 
 namespace velquon::test {
 

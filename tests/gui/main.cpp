@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Runs the tests in a program set up as the desktop program is.
 
 #include <gtest/gtest.h>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The menus: their titles and shortcuts, their check marks, and what their choices set.
 
 #include <QApplication>

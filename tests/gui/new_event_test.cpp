@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What making a new event does to the views, the windows and the chamber values.
 
 #include <QAbstractButton>
@@ -11,12 +14,12 @@
 #include <cstdlib>
 
 #include "events/event_types.h"
-#include "widgets/value_slider.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/matrices.h"
 #include "tests/gui/support/pictures.h"
 #include "tests/gui/support/waiting.h"
 #include "tests/support/scripted_rand.h"
+#include "widgets/value_slider.h"
 
 namespace velquon::test {
 

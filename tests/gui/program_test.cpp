@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The program as a person starts it, by its process and the screen.
 
 #include <gtest/gtest.h>

@@ -1,15 +1,18 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The projection as it is seen on the screen.
 
 #include <QAbstractButton>
 #include <QScrollBar>
 #include <QTest>
 
-#include "widgets/view_scroll_area.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
 #include "tests/gui/support/pictures.h"
 #include "tests/gui/support/screen_view.h"
 #include "tests/gui/support/waiting.h"
+#include "widgets/view_scroll_area.h"
 
 namespace velquon::test {
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What is done with keys, clicks and requests to close that come while a replay keeps the program
 // from its event loop.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The replay of an event point by point, seen from inside and on the screen.
 
 #include <QElapsedTimer>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The chamber view on a screen with two pixels a view unit: the picture is the same, in finer
 // pixels. A program of its own, as the ratio is settled before the windows.
 

@@ -1,14 +1,17 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The views in windows that are smaller or larger than what they show.
 
 #include <QAbstractScrollArea>
 #include <QScrollBar>
 
-#include "widgets/view_scroll_area.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
 #include "tests/gui/support/matrices.h"
 #include "tests/gui/support/pictures.h"
 #include "tests/gui/support/waiting.h"
+#include "widgets/view_scroll_area.h"
 
 namespace velquon::test {
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The controls of the chamber values under keys, mouse and wheel.
 
 #include <QAbstractItemView>
@@ -7,10 +10,10 @@
 #include <QTest>
 #include <cmath>
 
-#include "widgets/value_slider.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
 #include "tests/gui/support/waiting.h"
+#include "widgets/value_slider.h"
 
 namespace velquon::test {
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Slow motion in a window that comes up for it.
 
 #include "tests/gui/support/application_fixture.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The windows on a screen that has no room for their usual sizes. To be run on such a screen.
 
 #include <QApplication>
@@ -11,10 +14,10 @@
 #include <QWindow>
 #include <array>
 
-#include "track/track_window.h"
-#include "widgets/view_scroll_area.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/waiting.h"
+#include "track/track_window.h"
+#include "widgets/view_scroll_area.h"
 
 // Last, because they define words such as None.
 #include <X11/Xatom.h>

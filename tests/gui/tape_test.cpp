@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The tape measure of the projection view.
 
 #include <QAbstractButton>
@@ -9,11 +12,11 @@
 
 #include "app/event_documents.h"
 #include "files/event_file.h"
-#include "widgets/value_label.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/input.h"
 #include "tests/gui/support/pictures.h"
 #include "tests/gui/support/waiting.h"
+#include "widgets/value_label.h"
 
 namespace velquon::test {
 

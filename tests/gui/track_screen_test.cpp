@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The live track as a person sees it: the X screen, looked at from outside the program.
 
 #include <QAbstractButton>

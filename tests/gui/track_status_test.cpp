@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What the other windows tell and offer while the track window is active, also when it was closed.
 
 #include <QAccessible>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The track window in the whole program: how it is reached and left, and what its menu sets.
 
 #include <QMenu>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The line of chamber values in the chamber view's picture.
 
 #include <GL/freeglut.h>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Titles and order of the windows, which of them has the keys, closing and coming back.
 
 #include <QApplication>
@@ -9,11 +12,11 @@
 #include <QToolBar>
 #include <csignal>
 
-#include "track/track_window.h"
 #include "tests/gui/support/application_fixture.h"
 #include "tests/gui/support/pictures.h"
 #include "tests/gui/support/waiting.h"
 #include "track/track_controller.h"
+#include "track/track_window.h"
 
 namespace velquon::test {
 

@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: The Velquon developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 """Tries to include each folder's headers in each folder, with the options its sources are built with.
 
 usage: check_layers.py BUILD_FOLDER SOURCE_FOLDER

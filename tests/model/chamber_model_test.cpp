@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Whole situations of the chamber without a window: a new event, one that is not handed over, an opened
 // file.
 
@@ -79,7 +82,8 @@ TEST(ChamberModelTest, AnEventThatIsNotHandedOverChangesValuesAndNameAlone) {
   std::vector<bool> handed_over;
   for (int event = 0; event < 50; ++event) {
     TrackBuffer buffer;
-    handed_over.push_back(make_event(event_types()[positive_muon], values, buffer) == HandOver::yes);
+    handed_over.push_back(make_event(event_types()[positive_muon], values, buffer) ==
+                          HandOver::yes);
   }
   std::srand(seed);
   int kept = 0;

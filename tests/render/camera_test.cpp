@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The camera against OpenGL's own matrices.
 
 #include "render/camera.h"
@@ -117,7 +120,8 @@ TEST(CameraTest, PixelsAreThoseOfTheUtilityLibrary) {
   camera.load();
   const Matrices shown;
   const std::array<GLint, 4> viewport{0, 0, chamber_width, chamber_height};
-  for (const Vector& place : {Vector{0.0, 0.0, 0.0}, {400.0, -400.0, 400.0}, {10.0, 20.0, -300.0}}) {
+  for (const Vector& place :
+       {Vector{0.0, 0.0, 0.0}, {400.0, -400.0, 400.0}, {10.0, 20.0, -300.0}}) {
     double x = 0.0;
     double y = 0.0;
     double depth = 0.0;

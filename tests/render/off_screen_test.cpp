@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The chamber's scene drawn without a window, at any size.
 
 #include "render/off_screen.h"
@@ -30,11 +33,10 @@ std::vector<PlotPoint> some_points() {
 QImage drawn_at(int scale, const Camera& camera) {
   ChamberScene scene;
   scene.setPoints(some_points());
-  const auto picture =
-      draw_off_screen(QSize(chamber_width, chamber_height) * scale, [&] {
-        scene.draw(camera, scale, some_points().size(),
-                   {.axes = true, .values = "B = 1 kG, T = 2 MeV, L = 3 m"});
-      });
+  const auto picture = draw_off_screen(QSize(chamber_width, chamber_height) * scale, [&] {
+    scene.draw(camera, scale, some_points().size(),
+               {.axes = true, .values = "B = 1 kG, T = 2 MeV, L = 3 m"});
+  });
   EXPECT_TRUE(picture);
   return picture.value_or(QImage()).convertToFormat(QImage::Format_RGB32);
 }

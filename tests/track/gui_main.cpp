@@ -1,10 +1,13 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <clocale>
 
-#include "widgets/surface_format.h"
 #include "tests/support/leaks.h"
+#include "widgets/surface_format.h"
 
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);

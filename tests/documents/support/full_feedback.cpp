@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // An OpenGL driver that finds every feedback buffer too small, whatever is drawn. Loaded ahead of
 // the library that it stands for.
 

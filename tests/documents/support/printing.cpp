@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "support/printing.h"
 
 #include <gtest/gtest.h>
@@ -7,8 +10,8 @@
 #include <QPdfWriter>
 #include <cmath>
 
-#include "printing/print_view.h"
 #include "chamber/chamber_view.h"
+#include "printing/print_view.h"
 
 namespace velquon::test {
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The desktop program with someone who answers from the command line in the user's place.
 //   scripted_program save FILE                     saves an event of three points
 //   scripted_program save-again-and-again FILE     saves two events in turn until it is killed
@@ -9,12 +12,12 @@
 
 #include "app/application.h"
 #include "app/chamber_controller.h"
-#include "chamber/chamber_window.h"
 #include "app/desktop.h"
 #include "app/event_documents.h"
-#include "projection/projector_window.h"
 #include "chamber/chamber_view.h"
+#include "chamber/chamber_window.h"
 #include "projection/projection_view.h"
+#include "projection/projector_window.h"
 #include "support/event_bytes.h"
 #include "support/printing.h"
 #include "support/recording_dialogs.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include <gtest/gtest.h>
@@ -13,13 +16,13 @@
 
 #include "app/application.h"
 #include "app/chamber_controller.h"
-#include "chamber/chamber_window.h"
-#include "projection/projector_window.h"
-#include "widgets/user_dialogs.h"
 #include "chamber/chamber_settings.h"
 #include "chamber/chamber_view.h"
+#include "chamber/chamber_window.h"
 #include "engine/event_record.h"
 #include "projection/projection_view.h"
+#include "projection/projector_window.h"
+#include "widgets/user_dialogs.h"
 
 namespace velquon::test {
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Looks at a rectangle of the screen again and again and prints, whenever it changes, how many of
 // its pixels have a colour, and a digest of the picture. Ends when its standard input does.
 //   screen_watch X Y WIDTH HEIGHT RRGGBB
