@@ -19,6 +19,7 @@
 
 #include "app/application.h"
 #include "app/desktop.h"
+#include "app/desktop_dialogs.h"
 #include "app/menus.h"
 #include "app/x_display.h"
 #include "bench/event_loop.h"
@@ -29,7 +30,6 @@
 #include "track/track_panel.h"
 #include "track/track_window.h"
 #include "ui_menus.h"
-#include "app/desktop_dialogs.h"
 #include "widgets/value_slider.h"
 
 namespace velquon::bench {

@@ -218,7 +218,8 @@ void NewTrackView::drawTrack() const {
   const std::span<const float> y = track.y_points();
   glColor3f(1.0F, 1.0F, 1.0F);
   glBegin(GL_LINE_STRIP);
-  for (auto point = static_cast<std::size_t>(drawing_.firstPoint(track)); point < x.size(); ++point) {
+  for (auto point = static_cast<std::size_t>(drawing_.firstPoint(track)); point < x.size();
+       ++point) {
     glVertex3f(x[point], y[point], 0.0F);
   }
   glEnd();

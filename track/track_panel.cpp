@@ -62,8 +62,8 @@ void TrackPanel::showModel() {
   const double field = model_.simulation().settings.B_field;
   const std::optional<double> reading = model_.reading();
   ui_->field_text->setText(QStringLiteral("B = %1").arg(fixed_text(field, 0, 2)));
-  ui_->tape_box->setText(
-      reading ? QStringLiteral("D = %1").arg(fixed_text(*reading, 5, 2)) : QString());
+  ui_->tape_box->setText(reading ? QStringLiteral("D = %1").arg(fixed_text(*reading, 5, 2))
+                                 : QString());
 }
 
 NewTrackView* TrackPanel::track_view() const {

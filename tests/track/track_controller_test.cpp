@@ -90,22 +90,38 @@ TEST_P(TrackChoice, ChecksItsItemAloneAndReachesTheView) {
 }
 
 using Rig = TrackRig;
-constexpr TrackParticle electron = TrackParticle::e_minus;
-constexpr TrackParticle positron = TrackParticle::e_plus;
-constexpr TrackDirection rightwards = TrackDirection::left_to_right;
-constexpr TrackDirection leftwards = TrackDirection::right_to_left;
+constexpr TrackParticle minus = TrackParticle::e_minus;
+constexpr TrackParticle plus = TrackParticle::e_plus;
+constexpr TrackDirection ltor = TrackDirection::left_to_right;
+constexpr TrackDirection rtol = TrackDirection::right_to_left;
 INSTANTIATE_TEST_SUITE_P(
     Table, TrackChoice,
     ::testing::Values(
-        ChoiceCase{"electron", &Rig::electron_item, {&Rig::positron_item}, -1, 2, 1, electron, 2, rightwards},
-        ChoiceCase{"positron", &Rig::positron_item, {&Rig::electron_item}, 1, 2, 1, positron, 2, rightwards},
-        ChoiceCase{"v", &Rig::v_item, {&Rig::two_v_item, &Rig::three_v_item}, -1, 1, 1, electron, 1, rightwards},
         ChoiceCase{
-            "two_v", &Rig::two_v_item, {&Rig::v_item, &Rig::three_v_item}, -1, 2, 1, electron, 2, rightwards},
+            "electron", &Rig::electron_item, {&Rig::positron_item}, -1, 2, 1, minus, 2, ltor},
+        ChoiceCase{"positron", &Rig::positron_item, {&Rig::electron_item}, 1, 2, 1, plus, 2, ltor},
         ChoiceCase{
-            "three_v", &Rig::three_v_item, {&Rig::v_item, &Rig::two_v_item}, -1, 3, 1, electron, 3, rightwards},
-        ChoiceCase{"LtoR", &Rig::LtoR_item, {&Rig::RtoL_item}, -1, 2, 1, electron, 2, rightwards},
-        ChoiceCase{"RtoL", &Rig::RtoL_item, {&Rig::LtoR_item}, -1, 2, 2, electron, 2, leftwards}),
+            "v", &Rig::v_item, {&Rig::two_v_item, &Rig::three_v_item}, -1, 1, 1, minus, 1, ltor},
+        ChoiceCase{"two_v",
+                   &Rig::two_v_item,
+                   {&Rig::v_item, &Rig::three_v_item},
+                   -1,
+                   2,
+                   1,
+                   minus,
+                   2,
+                   ltor},
+        ChoiceCase{"three_v",
+                   &Rig::three_v_item,
+                   {&Rig::v_item, &Rig::two_v_item},
+                   -1,
+                   3,
+                   1,
+                   minus,
+                   3,
+                   ltor},
+        ChoiceCase{"LtoR", &Rig::LtoR_item, {&Rig::RtoL_item}, -1, 2, 1, minus, 2, ltor},
+        ChoiceCase{"RtoL", &Rig::RtoL_item, {&Rig::LtoR_item}, -1, 2, 2, minus, 2, rtol}),
     [](const auto& row) { return row.param.name; });
 
 TEST(TrackController, AStrangerChoosesNothing) {
@@ -255,7 +271,8 @@ TEST_P(TrackMenus, EnableWhatTheStateAllows) {
       {"v_item", rig.v_item, row.choices},
       {"two_v_item", rig.two_v_item, row.choices},
       {"three_v_item", rig.three_v_item, row.choices},
-      {"screen_speed", rig.menus.speed_menu->menuAction(), row.screen_speed, TrackItem::screen_speed},
+      {"screen_speed", rig.menus.speed_menu->menuAction(), row.screen_speed,
+       TrackItem::screen_speed},
       {"faster_item", rig.faster_item, row.screen_speed, TrackItem::screen_speed},
       {"default_item", rig.default_item, row.screen_speed, TrackItem::screen_speed},
       {"slower_item", rig.slower_item, row.screen_speed, TrackItem::screen_speed}};
@@ -270,7 +287,8 @@ TEST_P(TrackMenus, EnableWhatTheStateAllows) {
       {"save_item", rig.menus.save_item, row.rest_of_program, TrackItem::rest_of_program},
       {"new_event_item", rig.menus.new_event_item, row.rest_of_program, TrackItem::rest_of_program},
       {"show_axes_item", rig.menus.axes_item, row.rest_of_program, TrackItem::rest_of_program},
-      {"rotation axis submenu", rig.menus.axis_menu->menuAction(), row.rest_of_program, TrackItem::rest_of_program},
+      {"rotation axis submenu", rig.menus.axis_menu->menuAction(), row.rest_of_program,
+       TrackItem::rest_of_program},
       {"pion_item", rig.menus.piminus_item, row.rest_of_program, TrackItem::rest_of_program}};
   for (const Item& item : other_items) {
     EXPECT_EQ(item.item->isEnabled(), item.enabled) << item.name;

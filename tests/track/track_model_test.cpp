@@ -260,7 +260,10 @@ INSTANTIATE_TEST_SUITE_P(
         TellingCase{"injection", [](TrackModel& m) { m.inject(); }},
         TellingCase{"tracking", [](TrackModel& m) { m.setTracking(true); }},
         TellingCase{"end", [](TrackModel& m) { m.endRun(); }},
-        TellingCase{"tape", [](TrackModel& m) { m.drag({3.0, 4.0}); }}),
+        TellingCase{"tape",
+                    [](TrackModel& m) {
+                      m.drag({3.0, 4.0});
+                    }}),
     [](const auto& row) { return row.param.name; });
 
 TEST_F(TrackModelTest, ChoicesReachTheParticle) {
@@ -314,8 +317,7 @@ TEST_P(TrackModelField, IsThatOfATickMarkThatIsNextToIt) {
 
 INSTANTIATE_TEST_SUITE_P(Values, TrackModelField,
                          ::testing::Values(FieldCase{0.3, 0.3, 0.3}, FieldCase{0.304, 0.3, 0.3},
-                                           FieldCase{0.296, 0.3, 0.3},
-                                           FieldCase{0.306, 0.3, 0.306},
+                                           FieldCase{0.296, 0.3, 0.3}, FieldCase{0.306, 0.3, 0.306},
                                            FieldCase{0.294, 0.3, 0.294},
                                            FieldCase{0.005, 0.0, 0.005},
                                            FieldCase{-0.0049, 0.0, 0.0},
