@@ -16,33 +16,37 @@ namespace velquon {
 
 namespace {
 
-std::vector<Command> choices(const Ui::Menus& menus, TrackModel& model) {
+using ControllerOf = std::function<TrackController&()>;
+
+std::vector<Command> choices(const Ui::Menus& menus, const TrackModel& model,
+                             const ControllerOf& controller) {
   std::vector<Command> commands = one_of<TrackParticle>(
       {{menus.electron_item, TrackParticle::e_minus}, {menus.positron_item, TrackParticle::e_plus}},
-      [&model](TrackParticle particle) { model.setParticle(particle); },
+      [controller](TrackParticle particle) { controller().setParticle(particle); },
       [&model] { return model.particle(); });
   const auto append = [&commands](const std::vector<Command>& more) {
     commands.insert(commands.end(), more.begin(), more.end());
   };
   append(one_of<int>(
       {{menus.v_item, 1}, {menus.two_v_item, 2}, {menus.three_v_item, 3}},
-      [&model](int speed) { model.setSpeed(speed); }, [&model] { return model.speed(); }));
+      [controller](int speed) { controller().setSpeed(speed); },
+      [&model] { return model.speed(); }));
   append(one_of<TrackDirection>(
       {{menus.LtoR_item, TrackDirection::left_to_right},
        {menus.RtoL_item, TrackDirection::right_to_left}},
-      [&model](TrackDirection direction) { model.setDirection(direction); },
+      [controller](TrackDirection direction) { controller().setDirection(direction); },
       [&model] { return model.direction(); }));
   return commands;
 }
 
-std::vector<Command> screen_speeds(const Ui::Menus& menus, TrackModel& model) {
+std::vector<Command> screen_speeds(const Ui::Menus& menus, const ControllerOf& controller) {
   std::vector<Command> commands;
   // None is checked: that of the start is none of them.
   for (const auto& [item, speed] : {std::pair{menus.faster_item, ScreenSpeed::faster},
                                     std::pair{menus.default_item, ScreenSpeed::standard},
                                     std::pair{menus.slower_item, ScreenSpeed::slower}}) {
     commands.push_back(
-        {.item = item, .run = [&model, speed = speed] { model.setScreenSpeed(speed); }});
+        {.item = item, .run = [controller, speed = speed] { controller().setScreenSpeed(speed); }});
   }
   return commands;
 }
@@ -74,8 +78,8 @@ void add_track_commands(Commands& commands, const Ui::Menus& menus, TrackModel& 
                 .title = [&model] { return TrackController::activateTitle(model); }});
   commands.add({.item = menus.inject_item, .run = [view] { view().injectParticle(); }});
   commands.add({.item = menus.clear_screen_item, .run = [view] { view().clearScreen(); }});
-  commands.add(choices(menus, model));
-  commands.add(screen_speeds(menus, model));
+  commands.add(choices(menus, model, controller));
+  commands.add(screen_speeds(menus, controller));
   enable_items(commands, menus, model);
   model.changed.add([table = QPointer(&commands)] {
     if (table != nullptr) {

@@ -15,6 +15,7 @@
 
 namespace velquon {
 
+/// The electron and the positron.
 enum class TrackParticle : std::uint8_t { e_minus, e_plus };
 
 enum class TrackDirection : std::uint8_t { left_to_right, right_to_left };

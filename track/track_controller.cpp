@@ -13,9 +13,7 @@ namespace velquon {
 
 TrackController::TrackController(TrackModel& model, NewTrackView& view, ValueSlider& slider,
                                  QWidget& window)
-    : model_(model), view_(view), slider_(&slider), window_(window) {
-  model_.changed.add([this] { Q_EMIT stateChanged(); });
-}
+    : model_(model), view_(view), slider_(&slider), window_(window) {}
 
 void TrackController::awakeFromNib() {
   doMenus(false);

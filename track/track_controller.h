@@ -21,7 +21,7 @@ class TrackController : public QObject {
   Q_OBJECT
 
  public:
-  /// All of it must outlive the controller, and the model be left alone once the controller is gone.
+  /// All of it must outlive the controller.
   TrackController(TrackModel& model, NewTrackView& view, ValueSlider& slider, QWidget& window);
 
   /// Puts choices, view and slider into their start-up state, when all windows have been built.
@@ -48,15 +48,12 @@ class TrackController : public QObject {
   /// Whether the user may do something in the present state.
   [[nodiscard]] bool validateMenuItem(TrackItem item) const;
 
-  [[nodiscard]] const TrackModel& model() const { return model_; }
   [[nodiscard]] ValueSlider* vSlider() const { return slider_; }
   void setVSlider(ValueSlider* slider) { slider_ = slider; }
 
  Q_SIGNALS:
   /// The track window has become active, or no longer is.
   void activatedChanged(bool active);
-  /// What the menu items show may have changed.
-  void stateChanged();
 
  private:
   TrackModel& model_;

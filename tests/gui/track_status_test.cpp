@@ -23,8 +23,13 @@ namespace {
 constexpr const char* status_text =
     "The Track window is active: Track > Deactivate gives the menus back.";
 
-QLabel& status_of(QMainWindow& window) {
-  auto* const label = window.findChild<QLabel*>(QStringLiteral("track_status_text"));
+/// The line of a window; null before the track window was wanted for the first time.
+QLabel* status_in(const QMainWindow& window) {
+  return window.findChild<QLabel*>(QStringLiteral("track_status_text"));
+}
+
+QLabel& status_of(const QMainWindow& window) {
+  QLabel* const label = status_in(window);
   if (label == nullptr) {
     throw std::runtime_error("a window without a status");
   }
@@ -52,9 +57,8 @@ class TrackStatusTest : public TrackWindowFixture {
   }
   void expectStatus(bool is_told) {
     for (QMainWindow* const window : otherWindows()) {
-      // There is none before the track window is first wanted.
-      const auto* const label = window->findChild<QLabel*>(QStringLiteral("track_status_text"));
-      EXPECT_EQ(label != nullptr && label->isVisible(), is_told)
+      const QLabel* const status = status_in(*window);
+      EXPECT_EQ(status != nullptr && status->isVisible(), is_told)
           << window->windowTitle().toStdString();
     }
   }
@@ -160,12 +164,8 @@ TEST_F(TrackStatusTest, TheScreenShowsTheWholeLine) {
 }
 
 TEST_F(TrackStatusTest, ScreenReadersFindItByItsText) {
-  activateTrack();
-  choose("activate_item");
   for (QMainWindow* const window : otherWindows()) {
-    auto* const hidden = QAccessible::queryAccessibleInterface(&status_of(*window));
-    ASSERT_NE(hidden, nullptr);
-    EXPECT_TRUE(hidden->state().invisible);
+    EXPECT_EQ(status_in(*window), nullptr);
   }
   activateTrack();
   for (QMainWindow* const window : otherWindows()) {
@@ -174,6 +174,12 @@ TEST_F(TrackStatusTest, ScreenReadersFindItByItsText) {
     EXPECT_EQ(told->text(QAccessible::Name), QLatin1String(status_text));
     EXPECT_EQ(told->parent()->role(), QAccessible::StatusBar);
     EXPECT_EQ(told->window(), window->windowHandle());
+  }
+  choose("activate_item");
+  for (QMainWindow* const window : otherWindows()) {
+    auto* const hidden = QAccessible::queryAccessibleInterface(&status_of(*window));
+    ASSERT_NE(hidden, nullptr);
+    EXPECT_TRUE(hidden->state().invisible);
   }
 }
 

@@ -93,60 +93,38 @@ TEST_P(TrackChoice, ChecksItsItemAloneAndReachesTheView) {
 }
 
 using Rig = TrackRig;
-constexpr TrackParticle electron = TrackParticle::e_minus;
-constexpr TrackParticle positron = TrackParticle::e_plus;
-constexpr TrackDirection rightwards = TrackDirection::left_to_right;
-constexpr TrackDirection leftwards = TrackDirection::right_to_left;
+constexpr TrackParticle minus = TrackParticle::e_minus;
+constexpr TrackParticle plus = TrackParticle::e_plus;
+constexpr TrackDirection ltor = TrackDirection::left_to_right;
+constexpr TrackDirection rtol = TrackDirection::right_to_left;
 INSTANTIATE_TEST_SUITE_P(
     Table, TrackChoice,
     ::testing::Values(
-        ChoiceCase{"electron",
-                   &Rig::electron_item,
-                   {&Rig::positron_item},
-                   -1,
-                   2,
-                   1,
-                   electron,
-                   2,
-                   rightwards},
-        ChoiceCase{"positron",
-                   &Rig::positron_item,
-                   {&Rig::electron_item},
-                   1,
-                   2,
-                   1,
-                   positron,
-                   2,
-                   rightwards},
-        ChoiceCase{"v",
-                   &Rig::v_item,
-                   {&Rig::two_v_item, &Rig::three_v_item},
-                   -1,
-                   1,
-                   1,
-                   electron,
-                   1,
-                   rightwards},
+        ChoiceCase{
+            "electron", &Rig::electron_item, {&Rig::positron_item}, -1, 2, 1, minus, 2, ltor},
+        ChoiceCase{"positron", &Rig::positron_item, {&Rig::electron_item}, 1, 2, 1, plus, 2, ltor},
+        ChoiceCase{
+            "v", &Rig::v_item, {&Rig::two_v_item, &Rig::three_v_item}, -1, 1, 1, minus, 1, ltor},
         ChoiceCase{"two_v",
                    &Rig::two_v_item,
                    {&Rig::v_item, &Rig::three_v_item},
                    -1,
                    2,
                    1,
-                   electron,
+                   minus,
                    2,
-                   rightwards},
+                   ltor},
         ChoiceCase{"three_v",
                    &Rig::three_v_item,
                    {&Rig::v_item, &Rig::two_v_item},
                    -1,
                    3,
                    1,
-                   electron,
+                   minus,
                    3,
-                   rightwards},
-        ChoiceCase{"LtoR", &Rig::LtoR_item, {&Rig::RtoL_item}, -1, 2, 1, electron, 2, rightwards},
-        ChoiceCase{"RtoL", &Rig::RtoL_item, {&Rig::LtoR_item}, -1, 2, 2, electron, 2, leftwards}),
+                   ltor},
+        ChoiceCase{"LtoR", &Rig::LtoR_item, {&Rig::RtoL_item}, -1, 2, 1, minus, 2, ltor},
+        ChoiceCase{"RtoL", &Rig::RtoL_item, {&Rig::LtoR_item}, -1, 2, 2, minus, 2, rtol}),
     [](const auto& row) { return row.param.name; });
 
 TEST(TrackController, AStrangerChoosesNothing) {

@@ -383,6 +383,17 @@ TEST_F(TrackTape, StaysOnTheScreenWhileTheParticleFliesOn) {
   EXPECT_TRUE(rig.redPixels().empty());
 }
 
+TEST_F(TrackTape, IsReadAgainByTheFirstStepOfARunThatIsInjectedWhileItIsStretched) {
+  QTest::mousePress(rig.view, Qt::LeftButton, {}, at(100, 100));
+  QTest::mouseMove(rig.view, at(130, 140));
+  rig.injectAndHold();
+  EXPECT_EQ(rig.panel->tape_box()->text(), QString());
+  rig.step(1);
+  EXPECT_EQ(rig.panel->tape_box()->text(), QStringLiteral("D =  5.00"));
+  EXPECT_FALSE(rig.redPixels().empty());
+  QTest::mouseRelease(rig.view, Qt::LeftButton, {}, at(130, 140));
+}
+
 TEST_F(TrackTape, BelongsToTheLeftButton) {
   QTest::mousePress(rig.view, Qt::RightButton, {}, at(100, 100));
   QTest::mouseMove(rig.view, at(100, 200));
