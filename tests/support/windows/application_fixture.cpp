@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "tests/support/windows/application_fixture.h"
+
+#include <QAbstractButton>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+
+#include "tests/support/windows/waiting.h"
+
+namespace velquon::test {
+
+namespace {
+
+QString plain_title(const QAction& action) {
+  return action.text().remove(QLatin1Char('&'));
+}
+
+QAction* find_named(const QList<QAction*>& actions, const QString& name) {
+  for (QAction* const action : actions) {
+    if (action->objectName() == name) {
+      return action;
+    }
+    if (action->menu() != nullptr) {
+      if (QAction* const found = find_named(action->menu()->actions(), name)) {
+        return found;
+      }
+    }
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void SilentDialogs::alert(const QString& title, const QString& message) {
+  alerts << title + QStringLiteral(": ") + message;
+}
+
+void SilentDialogs::alertAboutFile(const QString& title, const QString& message,
+                                   const QString& path) {
+  alert(title, message + QStringLiteral(" / ") + path);
+}
+
+QString SilentDialogs::fileToOpen(const QString& /*title*/, const QString& /*filter*/) {
+  return {};
+}
+
+QString SilentDialogs::fileToSave(const QString& /*title*/, const QString& /*suggestion*/,
+                                  const QString& /*filter*/, const QString& /*suffix*/) {
+  return {};
+}
+
+void ApplicationFixture::SetUp() {
+  application_ = std::make_unique<Application>(fixture_seed, dialogs());
+  chamber_ = &control<ChamberView>("chamber_view");
+  projection_ = &control<ProjectionView>("projection_view");
+  application_->showWindows();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&chamberWindow()));
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&projectorWindow()));
+  activate(chamberWindow());
+  ASSERT_TRUE(wait_until([this] { return chamber_->passes() > 0 && projection_->passes() > 0; }));
+}
+
+void ApplicationFixture::TearDown() {
+  EXPECT_TRUE(silent_dialogs_.alerts.isEmpty())
+      << silent_dialogs_.alerts.join(QLatin1Char('\n')).toStdString();
+  another_program_.reset();
+  application_.reset();
+}
+
+QAction& ApplicationFixture::item(const char* name) {
+  QAction* const found = item_named(chamberWindow(), QLatin1String(name));
+  if (found == nullptr) {
+    throw std::runtime_error(std::string("no menu item ") + name);
+  }
+  return *found;
+}
+
+void ApplicationFixture::clickButton(const char* name) {
+  QTest::mouseClick(&control<QAbstractButton>(name), Qt::LeftButton);
+}
+
+void ApplicationFixture::activate(QWidget& window) {
+  window.activateWindow();
+  ASSERT_TRUE(wait_until([&] { return window.isActiveWindow(); }));
+}
+
+void ApplicationFixture::activateAnotherProgram() {
+  another_program_ = std::make_unique<QWidget>();
+  another_program_->setGeometry(500, 700, 200, 100);
+  another_program_->show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(another_program_.get()));
+  activate(*another_program_);
+}
+
+void ApplicationFixture::showEvent(std::span<const PlotPoint> points) {
+  controller().setChamberData(points);
+  controller().model().setHasEvent();
+  controller().displayViews();
+}
+
+void ApplicationFixture::hideAxesAndValues() {
+  chamber().set_show_axes(false);
+  chamber().set_show_values(false);
+}
+
+QAction* item_named(const QMainWindow& window, const QString& name) {
+  return find_named(window.menuBar()->actions(), name);
+}
+
+QAction* item_titled(const QMainWindow& window, const QStringList& path) {
+  QList<QAction*> actions = window.menuBar()->actions();
+  QAction* found = nullptr;
+  for (const QString& title : path) {
+    const auto match = std::ranges::find_if(
+        actions, [&](const QAction* action) { return plain_title(*action) == title; });
+    if (match == actions.end()) {
+      return nullptr;
+    }
+    found = *match;
+    actions = found->menu() != nullptr ? found->menu()->actions() : QList<QAction*>();
+  }
+  return found;
+}
+
+PlotPoint point_at(double x, double y, double z, std::int16_t code) {
+  return {{x, y, z, 1.0}, 0.0, code};
+}
+
+}  // namespace velquon::test
