@@ -10,11 +10,11 @@
 #include <QTemporaryDir>
 
 #include "app/command_line.h"
-#include "tests/support/windows/pictures.h"
-#include "tests/support/windows/waiting.h"
 #include "tests/support/documents/event_bytes.h"
 #include "tests/support/documents/other_program.h"
 #include "tests/support/file_size_limit.h"
+#include "tests/support/windows/pictures.h"
+#include "tests/support/windows/waiting.h"
 
 namespace velquon::test {
 

@@ -21,11 +21,11 @@
 
 #include "app/desktop_dialogs.h"
 #include "app/event_documents.h"
-#include "tests/support/windows/application_fixture.h"
-#include "tests/support/windows/waiting.h"
 #include "tests/support/documents/event_bytes.h"
 #include "tests/support/documents/modal.h"
 #include "tests/support/documents/other_program.h"
+#include "tests/support/windows/application_fixture.h"
+#include "tests/support/windows/waiting.h"
 
 namespace velquon::test {
 

@@ -14,11 +14,11 @@
 #include <cstdlib>
 
 #include "events/event_types.h"
+#include "tests/support/scripted_rand.h"
 #include "tests/support/windows/application_fixture.h"
 #include "tests/support/windows/matrices.h"
 #include "tests/support/windows/pictures.h"
 #include "tests/support/windows/waiting.h"
-#include "tests/support/scripted_rand.h"
 #include "widgets/value_slider.h"
 
 namespace velquon::test {

@@ -6,10 +6,10 @@
 #include <QLabel>
 #include <limits>
 
-#include "tests/support/windows/pictures.h"
-#include "tests/support/windows/waiting.h"
 #include "tests/support/documents/documents_fixture.h"
 #include "tests/support/documents/event_bytes.h"
+#include "tests/support/windows/pictures.h"
+#include "tests/support/windows/waiting.h"
 #include "widgets/value_slider.h"
 
 namespace velquon::test {

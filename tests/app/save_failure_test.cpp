@@ -7,10 +7,10 @@
 #include <sys/stat.h>
 #include <cerrno>
 
-#include "tests/support/documents/documents_fixture.h"
-#include "tests/support/documents/event_bytes.h"
 #include "tests/support/call_faults.h"
 #include "tests/support/case_name.h"
+#include "tests/support/documents/documents_fixture.h"
+#include "tests/support/documents/event_bytes.h"
 #include "tests/support/file_size_limit.h"
 #include "tests/support/plain_rights.h"
 

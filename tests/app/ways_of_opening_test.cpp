@@ -9,11 +9,11 @@
 #include <array>
 
 #include "app/start_file.h"
-#include "tests/support/windows/pictures.h"
-#include "tests/support/windows/waiting.h"
 #include "tests/support/documents/documents_fixture.h"
 #include "tests/support/documents/event_bytes.h"
 #include "tests/support/documents/other_program.h"
+#include "tests/support/windows/pictures.h"
+#include "tests/support/windows/waiting.h"
 #include "track/track_window.h"
 
 namespace velquon::test {

@@ -13,9 +13,9 @@
 #include <memory>
 #include <set>
 
-#include "tests/support/windows/waiting.h"
 #include "tests/support/documents/environment.h"
 #include "tests/support/documents/other_program.h"
+#include "tests/support/windows/waiting.h"
 #include "widgets/cursors.h"
 
 namespace velquon::test {

@@ -10,11 +10,11 @@
 #include <cerrno>
 #include <random>
 
-#include "tests/support/windows/waiting.h"
+#include "tests/support/call_faults.h"
 #include "tests/support/documents/event_bytes.h"
 #include "tests/support/documents/other_program.h"
 #include "tests/support/documents/pdf_page.h"
-#include "tests/support/call_faults.h"
+#include "tests/support/windows/waiting.h"
 
 namespace velquon::test {
 

@@ -7,11 +7,11 @@
 #include <cmath>
 #include <limits>
 
-#include "tests/support/windows/matrices.h"
-#include "tests/support/windows/waiting.h"
 #include "tests/support/documents/documents_fixture.h"
 #include "tests/support/documents/event_bytes.h"
 #include "tests/support/documents/printing.h"
+#include "tests/support/windows/matrices.h"
+#include "tests/support/windows/waiting.h"
 #include "widgets/view_scroll_area.h"
 
 namespace velquon::test {

@@ -5,10 +5,10 @@
 #include <QLocale>
 #include <algorithm>
 
-#include "tests/support/windows/waiting.h"
 #include "tests/support/documents/documents_fixture.h"
 #include "tests/support/documents/event_bytes.h"
 #include "tests/support/documents/printing.h"
+#include "tests/support/windows/waiting.h"
 
 namespace velquon::test {
 

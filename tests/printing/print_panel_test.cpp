@@ -14,7 +14,6 @@
 #include <QTest>
 #include <QTimer>
 
-#include "tests/support/windows/waiting.h"
 #include "printing/page_preview.h"
 #include "tests/support/documents/documents_fixture.h"
 #include "tests/support/documents/event_bytes.h"
@@ -22,6 +21,7 @@
 #include "tests/support/documents/other_program.h"
 #include "tests/support/documents/print_server.h"
 #include "tests/support/documents/printing.h"
+#include "tests/support/windows/waiting.h"
 
 namespace velquon::test {
 

@@ -6,11 +6,11 @@
 #include <limits>
 #include <set>
 
-#include "tests/support/windows/input.h"
-#include "tests/support/windows/waiting.h"
 #include "tests/support/documents/documents_fixture.h"
 #include "tests/support/documents/event_bytes.h"
 #include "tests/support/documents/printing.h"
+#include "tests/support/windows/input.h"
+#include "tests/support/windows/waiting.h"
 #include "widgets/view_scroll_area.h"
 
 namespace velquon::test {

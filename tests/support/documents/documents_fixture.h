@@ -13,8 +13,8 @@
 #include <vector>
 
 #include "app/event_documents.h"
-#include "tests/support/windows/application_fixture.h"
 #include "tests/support/documents/recording_dialogs.h"
+#include "tests/support/windows/application_fixture.h"
 
 namespace velquon::test {
 
