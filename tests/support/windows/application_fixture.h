@@ -42,7 +42,7 @@ class SilentDialogs : public UserDialogs {
 
 /// The whole program with its windows on the screen, the chamber window having the keys, as it is
 /// right after its start.
-class ApplicationFixture : public testing::Test {
+class ApplicationFixture : public ::testing::Test {
  protected:
   void SetUp() override;
   void TearDown() override;
