@@ -39,6 +39,12 @@ QToolButton* make_event_type_button(QMenu* event_menu) {
   return button;
 }
 
+std::unique_ptr<Ui::ChamberWindow> controls_in(QMainWindow& window) {
+  auto controls = std::make_unique<Ui::ChamberWindow>();
+  controls->setupUi(&window);
+  return controls;
+}
+
 /// Gives a label room for a text; a value beyond all sense in a file does not widen the window.
 void give_room_for(QLabel& label, const QString& text) {
   label.setMinimumWidth(label.fontMetrics().horizontalAdvance(text));
@@ -47,10 +53,10 @@ void give_room_for(QLabel& label, const QString& text) {
 
 }  // namespace
 
-ChamberWindow::ChamberWindow(ChamberModel& model) : ui_(std::make_unique<Ui::ChamberWindow>()) {
-  ui_->setupUi(this);
-  view_ = new ChamberView(model, ui_->chamber_area->viewport());
-  settings_ = std::make_unique<ChamberSettings>(*ui_, model);
+ChamberWindow::ChamberWindow(ChamberModel& model)
+    : ui_(controls_in(*this)),
+      view_(new ChamberView(model, ui_->chamber_area->viewport())),
+      settings_(std::make_unique<ChamberSettings>(*ui_, model)) {
   view_->setObjectName(QStringLiteral("chamber_view"));
   view_->setAccessibleName(tr("Particle chamber"));
   ui_->chamber_area->setAccessibleName(tr("Part of the chamber that is seen"));

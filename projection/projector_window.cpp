@@ -17,6 +17,12 @@ namespace velquon {
 
 namespace {
 
+std::unique_ptr<Ui::ProjectorWindow> controls_in(QMainWindow& window) {
+  auto controls = std::make_unique<Ui::ProjectorWindow>();
+  controls->setupUi(&window);
+  return controls;
+}
+
 /// Calls something once whenever a button of a group is chosen: by a click, which may choose the same
 /// button again, or by a screen reader, which toggles without a click.
 template <typename Choose>
@@ -49,9 +55,9 @@ void connect_choices(ProjectionView* view, void (ProjectionView::*choose)(Value)
 }  // namespace
 
 ProjectorWindow::ProjectorWindow(Projector& projector)
-    : ui_(std::make_unique<Ui::ProjectorWindow>()), projector_(projector) {
-  ui_->setupUi(this);
-  view_ = new ProjectionView(projector, ui_->projector_area->viewport());
+    : ui_(controls_in(*this)),
+      projector_(projector),
+      view_(new ProjectionView(projector, ui_->projector_area->viewport())) {
   view_->setObjectName(QStringLiteral("projection_view"));
   ui_->tape_tool->setIcon(palette_icon(QStringLiteral("tape")));
   ui_->grab_tool->setIcon(palette_icon(QStringLiteral("grab")));

@@ -7,6 +7,8 @@
 #include <QGuiApplication>
 #include <QSurfaceFormat>
 
+#include "tests/support/leaks.h"
+
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   QSurfaceFormat format;
@@ -16,5 +18,7 @@ int main(int argc, char** argv) {
   QSurfaceFormat::setDefaultFormat(format);
   const QGuiApplication application(argc, argv);
   glutInit(&argc, argv);
-  return RUN_ALL_TESTS();
+  const int result = RUN_ALL_TESTS();
+  velquon::testing::look_for_leaks();
+  return result;
 }

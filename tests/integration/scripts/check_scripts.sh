@@ -86,29 +86,34 @@ check_fuzz_misses_a_program() {
   printed_has 'fuzz_event_layout is missing'
 }
 
-# A tree of two sources that include one header.
+# A tree of two sources, and a clang-tidy that notes what it is asked to look at and finds the word
+# "wrong". Two sources in one file with "apart" in them do not compile.
 lint_tree() {
   mkdir -p engine
-  touch .clang-tidy engine/one.cpp engine/two.cpp engine/both.h
-  local name
-  for name in one two; do
-    printf '{\n  "directory": "%s",\n  "command": "c++ -include /x/cmake_pch.hxx -c",\n  "file": "%s"\n},\n' \
-      "$PWD/build/ci" "$PWD/engine/$name.cpp"
-  done >build/ci/compile_commands.json
-  program programs/ninja <<'END'
-for name in one two; do
-  printf '%s.o: #deps 2\n    ../../engine/%s.cpp\n    ../../engine/both.h\n\n' $name $name
-done
-END
+  echo 'int one();' >engine/one.cpp
+  echo 'int two();' >engine/two.cpp
+  {
+    echo '['
+    printf '{"directory": "%s", "command": "c++ -include /x/cmake_pch.hxx -Ix -o y -c %s", "file": "%s"}' \
+      "$PWD/build/ci" "$PWD/engine/one.cpp" "$PWD/engine/one.cpp"
+    printf ',\n{"directory": "%s", "command": "c++ -Ix -Iz -o y -c %s", "file": "%s"}]\n' \
+      "$PWD/build/ci" "$PWD/engine/two.cpp" "$PWD/engine/two.cpp"
+  } >build/ci/compile_commands.json
   program programs/clang-tidy <<'END'
-[ "$1" = --version ] && { echo 'version 1'; exit; }
-echo '2 warnings generated.' >&2
 for word in "$@"; do
-  [ "$previous" != -p ] || folder=$word
-  previous=$word
+  case $word in
+    *.cpp) source=$word ;;
+    *cmake_pch*) echo 'a precompiled header'; exit 1 ;;
+  esac
 done
-! grep cmake_pch "$folder/compile_commands.json" >&2 || exit 1
-! grep -H wrong "$word" >&2
+echo "$source" >>looked-at
+echo '2 warnings generated.' >&2
+mapfile -t read < <(sed -n 's/#include "\(.*\)"/\1/p' "$source")
+if [ ${#read[@]} -gt 1 ] && grep -q apart "${read[@]}"; then
+  echo 'error: another definition [clang-diagnostic-error]'
+  exit 1
+fi
+! grep -H wrong "$source" "${read[@]}"
 END
 }
 
@@ -117,33 +122,34 @@ check_lint_shows_errors() {
   echo 'wrong' >engine/two.cpp
   run 1 scripts/lint engine/one.cpp engine/two.cpp
   printed_has 'engine/two.cpp:wrong'
-  printed_has 'engine/two.cpp does not pass'
+  printed_has 'engine/two.cpp: not all pass'
   if grep -q 'generated' <<<"$printed"; then fail "counts are printed"; fi
-  run 1 scripts/lint engine/one.cpp engine/two.cpp
-  printed_has 'engine/two.cpp does not pass'
 }
 
-check_lint_leaves_out_what_passed() {
+check_lint_passes() {
   lint_tree
-  local sources=(engine/one.cpp engine/two.cpp)
-  run 0 scripts/lint "${sources[@]}"
-  printed_has 'on 2 of 2 sources'
-  run 0 scripts/lint "${sources[@]}"
-  printed_has 'on 0 of 2 sources'
-  sleep 0.02
-  touch engine/one.cpp
-  run 0 scripts/lint "${sources[@]}"
-  printed_has 'on 1 of 2 sources'
-  sleep 0.02
-  touch engine/both.h
-  run 0 scripts/lint "${sources[@]}"
-  printed_has 'on 2 of 2 sources'
-  echo '# another rule' >>.clang-tidy
-  run 0 scripts/lint "${sources[@]}"
-  printed_has 'on 2 of 2 sources'
-  sed -i 's/"command": "c++ /"command": "c++ -O2 /' build/ci/compile_commands.json
-  run 0 scripts/lint "${sources[@]}"
-  printed_has 'on 2 of 2 sources'
+  run 0 scripts/lint
+  printed_has 'Running clang-tidy on 2 sources in 1 groups'
+  [ "$(wc -l <looked-at)" -eq 1 ] || fail "the sources are not looked at as one"
+}
+
+check_lint_keeps_apart_what_shares_a_name() {
+  lint_tree
+  for name in one two; do
+    printf 'namespace {\n\nint helper() {\n  return 1;\n}\n\n}  // namespace\n' >engine/$name.cpp
+  done
+  run 0 scripts/lint
+  printed_has 'Running clang-tidy on 2 sources in 2 groups'
+}
+
+check_lint_looks_one_by_one_at_what_does_not_compile_together() {
+  lint_tree
+  echo 'apart' >engine/one.cpp
+  run 0 scripts/lint
+  [ "$(wc -l <looked-at)" -eq 3 ] || fail "not looked at one by one: $(cat looked-at)"
+  echo 'apart wrong' >engine/one.cpp
+  run 1 scripts/lint
+  printed_has 'engine/one.cpp does not pass'
 }
 
 check_lint_misses_its_database() {
