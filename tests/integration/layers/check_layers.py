@@ -34,6 +34,13 @@ ALLOWED = {
 }
 
 
+def without_precompiled_header(words):
+    """A command line without what names the precompiled header, as g++ and as clang have it."""
+    return [word for at, word in enumerate(words)
+            if "cmake_pch" not in word and word not in ("-include", "-include-pch")
+            and not (word == "-Xclang" and words[at + 1].startswith(("-include", "/")))]
+
+
 def options_of(folder, commands, source_folder):
     """The compiler and its options for the first source of a folder that is no exception."""
     for command in commands:
@@ -43,10 +50,7 @@ def options_of(folder, commands, source_folder):
             if words[0] == "ccache":
                 words = words[1:]
             words = words[:words.index("-o")]
-            if "-include" in words:  # the precompiled header
-                at = words.index("-include")
-                del words[at:at + 2]
-            return command["directory"], words
+            return command["directory"], without_precompiled_header(words)
     raise SystemExit(f"no source of {folder}/ is built")
 
 
