@@ -74,13 +74,14 @@ EventRow row_of(const RecordedParticle& particle, const ChamberValues& values) {
   const Kind& kind = kind_of(particle.pdg);
   const auto field = static_cast<double>(values.B_field);
   const auto& [px, py, pz] = particle.momentum;
-  EventRow row{.name = kind.name,
-               .fate = words_of(particle.fate),
-               .parent = particle.parent,
-               .momentum = magnitude(particle.momentum),
-               .transverse_momentum = std::hypot(px, py),
-               .kinetic_energy = particle.energy - kind.values.mass,
-               .flight_cm = flight_of(particle, kind.charged, values)};
+  EventRow row;
+  row.name = kind.name;
+  row.fate = words_of(particle.fate);
+  row.parent = particle.parent;
+  row.momentum = magnitude(particle.momentum);
+  row.transverse_momentum = std::hypot(px, py);
+  row.kinetic_energy = particle.energy - kind.values.mass;
+  row.flight_cm = flight_of(particle, kind.charged, values);
   if (kind.charged && field != 0.0) {
     row.radius_cm = std::abs(helix_radius_cm(row.transverse_momentum, field));
   }
