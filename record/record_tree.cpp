@@ -74,9 +74,8 @@ RecordTree::RecordTree(QWidget* parent) : QTreeWidget(parent) {
 
 void RecordTree::showParticles(const std::vector<EventRow>& rows) {
   const QSignalBlocker quiet(this);
-  begin({tr("Particle"), tr("Fate"), tr("p (MeV/c)"), tr("p across the field (MeV/c)"),
-         tr("Radius (cm)"), tr("Kinetic energy (MeV)"), tr("Flight (cm)"),
-         tr("Mean decay length (cm)")});
+  begin({tr("Particle"), tr("Fate"), tr("p (MeV/c)"), tr("Transverse p (MeV/c)"), tr("Radius (cm)"),
+         tr("Kinetic energy (MeV)"), tr("Flight (cm)"), tr("Mean decay length (cm)")});
   std::vector<QTreeWidgetItem*> items;
   for (const EventRow& row : rows) {
     QTreeWidgetItem* const parent =
@@ -137,9 +136,11 @@ QTreeWidgetItem* RecordTree::addRow(QTreeWidgetItem* parent, const QStringList& 
 }
 
 void RecordTree::finish() {
+  constexpr int gap = 10;  // that numbers do not touch the next column
   expandAll();
   for (int column = 0; column < columnCount(); ++column) {
     resizeColumnToContents(column);
+    setColumnWidth(column, columnWidth(column) + gap);
   }
 }
 

@@ -270,7 +270,7 @@ TEST(EventRowsTest, AnEmptyRecordHasNoRows) {
 
 TEST(VisibleTracksTest, AreTheCodesWithTheirColorsAndPoints) {
   std::vector<PlotPoint> points;
-  for (const std::int16_t code : {4, 3, 4, 5, 6, 7, 9, 2, 3}) {
+  for (const std::int16_t code : std::array<std::int16_t, 9>{4, 3, 4, 5, 6, 7, 9, 2, 3}) {
     points.push_back({.code = code});
   }
   struct Expected {
