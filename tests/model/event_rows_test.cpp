@@ -171,13 +171,18 @@ TEST(EventRowsTest, MomentumAndKineticEnergyOfThePrimaryAreThoseOfTheBeam) {
 }
 
 TEST(EventRowsTest, TheTransverseMomentumIsThatAcrossTheFieldAlongZ) {
-  const Made event = made(positive_pion, usual, 1);
-  const auto rows = event_rows(event.record, usual);
-  ASSERT_GT(rows.size(), 1U);
-  const auto& [px, py, pz] = event.record.particles()[1].momentum;
-  EXPECT_GT(std::abs(pz), 0.1);
-  EXPECT_NEAR(rows[1].transverse_momentum, std::sqrt(px * px + py * py), 1e-9);
-  EXPECT_NEAR(rows[1].momentum, std::sqrt(px * px + py * py + pz * pz), 1e-9);
+  double most_along = 0.0;
+  for (unsigned seed = 1; seed <= 50; ++seed) {
+    const Made event = made(positive_pion, usual, seed);
+    const auto rows = event_rows(event.record, usual);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+      const auto& [px, py, pz] = event.record.particles()[i].momentum;
+      EXPECT_NEAR(rows[i].transverse_momentum, std::sqrt(px * px + py * py), 1e-9);
+      EXPECT_NEAR(rows[i].momentum, std::sqrt(px * px + py * py + pz * pz), 1e-9);
+      most_along = std::max(most_along, std::abs(pz));
+    }
+  }
+  EXPECT_GT(most_along, 10.0);
 }
 
 TEST(EventRowsTest, AParticleWithoutMassHasItsEnergyAsKineticEnergy) {
@@ -186,14 +191,15 @@ TEST(EventRowsTest, AParticleWithoutMassHasItsEnergyAsKineticEnergy) {
 }
 
 TEST(EventRowsTest, AFlightIsAsLongAsItsTrack) {
-  for (const float field : {0.0F, 1.0F}) {
+  for (const float field : {0.0F, 4.0F}) {
     const ChamberValues values{.B_field = field, .sides_cm = 400.0F, .kinetic_Mev = 30.0F};
     int curved = 0;
     for (unsigned seed = 1; seed <= 40; ++seed) {
       const Made event = made(negative_pion, values, seed);
       const auto rows = event_rows(event.record, values);
       for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (rows[i].points.empty()) {
+        // The chords between the points of a narrow helix say little of its length.
+        if (rows[i].points.empty() || rows[i].radius_cm.value_or(100.0) < 10.0) {
           continue;
         }
         Vector3 at = event.record.particles()[i].place_cm;
@@ -209,7 +215,7 @@ TEST(EventRowsTest, AFlightIsAsLongAsItsTrack) {
           EXPECT_NEAR(*rows[i].flight_cm / chords, 1.0, 1e-9);
         } else {
           EXPECT_GE(*rows[i].flight_cm, chords * (1.0 - 1e-9));
-          EXPECT_LT(*rows[i].flight_cm, chords * 1.6);
+          EXPECT_LT(*rows[i].flight_cm, chords * 1.05);
           const double straight = distance(event.record.particles()[i].place_cm, at);
           curved += *rows[i].flight_cm > 1.2 * straight ? 1 : 0;
         }
