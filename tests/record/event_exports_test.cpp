@@ -70,7 +70,7 @@ class EventExportsTest : public RecordWindowFixture {
   }
 };
 
-class ExportBytesTest : public EventExportsTest, public testing::WithParamInterface<ToolCase> {
+class ExportBytesTest : public EventExportsTest, public ::testing::WithParamInterface<ToolCase> {
  protected:
   void SetUp() override {
     EventExportsTest::SetUp();
@@ -98,7 +98,7 @@ TEST_P(ExportBytesTest, TheHepmc3RecordIsThatOfTheCommandLine) {
   EXPECT_EQ(exported("export_record_item", QStringLiteral("record.hepmc3")), fromTool("hepmc3"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Events, ExportBytesTest, testing::ValuesIn(tool_cases),
+INSTANTIATE_TEST_SUITE_P(Events, ExportBytesTest, ::testing::ValuesIn(tool_cases),
                          [](const auto& tested) { return tested.param.name; });
 
 /// Dialogs as the program shows them, with a user at the keys.
