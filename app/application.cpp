@@ -10,6 +10,7 @@
 #include "app/chamber_controller.h"
 #include "app/commands.h"
 #include "app/event_documents.h"
+#include "app/event_exports.h"
 #include "app/guide_window.h"
 #include "app/menus.h"
 #include "app/readable_style.h"
@@ -18,6 +19,7 @@
 #include "chamber/chamber_window.h"
 #include "projection/projection_view.h"
 #include "projection/projector_window.h"
+#include "record/record_window.h"
 #include "track/new_track_view.h"
 #include "track/track_controller.h"
 #include "track/track_panel.h"
@@ -36,6 +38,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
       controller_(std::make_unique<ChamberController>(model_, *chamber_window_, *projector_window_,
                                                       dialogs)),
       documents_(std::make_unique<EventDocuments>(*controller_, dialogs)),
+      exports_(std::make_unique<EventExports>(model_, dialogs)),
       commands_(std::make_unique<Commands>()) {
   make_style_readable();
   const Ui::Menus& items = menus_->items();
@@ -56,6 +59,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
 Application::~Application() {
   // Before what it tells of: windows that go change the state of what they showed.
   commands_.reset();
+  record_window_.reset();
 }
 
 void Application::showWindows() {
@@ -94,6 +98,14 @@ TrackWindow& Application::trackWindow() {
   return *track_window_;
 }
 
+RecordWindow& Application::recordWindow() {
+  if (!record_window_) {
+    record_window_ = std::make_unique<RecordWindow>(model_);
+    join(*record_window_);
+  }
+  return *record_window_;
+}
+
 void Application::join(GLPanel& window) {
   menus_->installIn(window);
   // Queued: the program that the file comes from waits for the drop's end, not for an alert's.
@@ -125,6 +137,12 @@ void Application::addFileCommands() {
   commands_->add({{.item = items.open_item, .run = [=] { documents->open_event_file(false); }},
                   {.item = items.import_item, .run = [=] { documents->open_event_file(true); }},
                   {.item = items.save_item, .run = [=] { documents->save_event_file(); }},
+                  {.item = items.export_points_item,
+                   .run = [this] { exports_->exportPoints(); },
+                   .is_enabled = [this] { return exports_->hasPoints(); }},
+                  {.item = items.export_record_item,
+                   .run = [this] { exports_->exportRecord(); },
+                   .is_enabled = [this] { return exports_->hasRecord(); }},
                   // Not quit(): that would first ask the windows to close, and they only hide.
                   {.item = items.quit_item, .run = [] { QCoreApplication::exit(); }}});
 }
@@ -136,7 +154,9 @@ void Application::addWindowCommands() {
         .run = [this] { chamber_window_->makeKeyAndOrderFront(); }},
        {.item = items.projector_window_item,
         .run = [this] { projector_window_->makeKeyAndOrderFront(); }},
-       {.item = items.track_window_item, .run = [this] { trackWindow().makeKeyAndOrderFront(); }}});
+       {.item = items.track_window_item, .run = [this] { trackWindow().makeKeyAndOrderFront(); }},
+       {.item = items.event_record_item,
+        .run = [this] { recordWindow().makeKeyAndOrderFront(); }}});
 }
 
 void Application::addHelpCommands() {

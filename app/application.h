@@ -18,10 +18,12 @@ class ChamberController;
 class ChamberWindow;
 class Commands;
 class EventDocuments;
+class EventExports;
 class GLPanel;
 class GuideWindow;
 class Menus;
 class ProjectorWindow;
+class RecordWindow;
 class ScreenRoom;
 class TrackWindow;
 class UserDialogs;
@@ -51,6 +53,7 @@ class Application : public QObject {
   [[nodiscard]] ChamberWindow& chamberWindow() { return *chamber_window_; }
   [[nodiscard]] ProjectorWindow& projectorWindow() { return *projector_window_; }
   [[nodiscard]] TrackWindow& trackWindow();
+  [[nodiscard]] RecordWindow& recordWindow();
   [[nodiscard]] ChamberController& controller() { return *controller_; }
   [[nodiscard]] EventDocuments& documents() { return *documents_; }
 
@@ -70,10 +73,12 @@ class Application : public QObject {
   std::unique_ptr<Menus> menus_;
   std::unique_ptr<ChamberWindow> chamber_window_;
   std::unique_ptr<ProjectorWindow> projector_window_;
-  std::unique_ptr<TrackWindow> track_window_;  ///< made when first asked for, as the guide is
+  std::unique_ptr<TrackWindow> track_window_;    ///< made when first asked for, as the guide is
+  std::unique_ptr<RecordWindow> record_window_;  ///< likewise
   std::unique_ptr<GuideWindow> guide_window_;
   std::unique_ptr<ChamberController> controller_;
   std::unique_ptr<EventDocuments> documents_;
+  std::unique_ptr<EventExports> exports_;
   std::unique_ptr<Commands> commands_;
 };
 

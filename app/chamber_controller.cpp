@@ -47,6 +47,7 @@ ChamberController::ChamberController(ChamberModel& model, ChamberWindow& chamber
       print_choices_(std::make_unique<PrintChoices>()) {
   connectWindows();
   model_.changed.add([this] { handOver(); });
+  model_.marks_changed.add([this] { displayViews(); });
 }
 
 ChamberController::~ChamberController() = default;
@@ -203,6 +204,7 @@ void ChamberController::connectWindows() {
 void ChamberController::handOver() {
   chamber_view_.show(model_.shown());
   projection_view_.show(model_.shown());
+  projection_view_.mark(model_.marked());
 }
 
 }  // namespace velquon

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSettings>
 
 #include "app/command_line.h"
@@ -62,6 +63,23 @@ QString with_suffix(QString path, const QString& suffix) {
     path.chop(ending.size());
   }
   return path.isEmpty() ? path : path + ending;
+}
+
+/// The first ending of a kind of files, "Name (*.one *.two)", without the dot.
+QString suffix_of_kind(const QString& kind) {
+  static const QRegularExpression ending(QStringLiteral(R"(\*\.(\w+))"));
+  return ending.match(kind).captured(1);
+}
+
+/// The ending of a path if one of the kinds offered has it, else that of the kind chosen.
+QString suffix_for(const QString& path, const QFileDialog& dialog) {
+  for (const QString& kind : dialog.nameFilters()) {
+    const QString suffix = suffix_of_kind(kind);
+    if (path.endsWith(QLatin1Char('.') + suffix, Qt::CaseInsensitive)) {
+      return suffix;
+    }
+  }
+  return suffix_of_kind(dialog.selectedNameFilter());
 }
 
 bool may_overwrite(const QString& path) {
@@ -119,7 +137,8 @@ QString DesktopDialogs::fileToSave(const QString& title, const QString& suggesti
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   dialog.selectFile(with_suffix(suggestion, suffix));
   for (;;) {
-    QString path = with_suffix(chosen_file(dialog), suffix);
+    const QString chosen = chosen_file(dialog);
+    QString path = with_suffix(chosen, suffix_for(chosen, dialog));
     if (path.isEmpty() || !QFileInfo::exists(path) || may_overwrite(path)) {
       return path;
     }

@@ -15,7 +15,7 @@
 
 #include "bench/requirement.h"
 #include "events/event_types.h"
-#include "tools/csv_writer.h"
+#include "files/csv_writer.h"
 
 namespace velquon::bench {
 

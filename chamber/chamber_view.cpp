@@ -95,7 +95,7 @@ std::string ChamberView::valuesOnPageOf(const Printable& printed) const {
 }
 
 SceneOptions ChamberView::sceneOptions() const {
-  return {.axes = show_axes(), .values = valuesOnPageOf(*this)};
+  return {.axes = show_axes(), .values = valuesOnPageOf(*this), .marked = model_.marked()};
 }
 
 template <typename Change>

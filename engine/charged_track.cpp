@@ -31,7 +31,7 @@ void set_up_path(ParticleState& particle, HelixPath& path, double& survival, dou
 
   // A circle in the x-y plane, along which a step covers the part pt / p of its length.
   const double pt = std::sqrt(p * p - pz * pz);
-  path.radius = (pt * 10.0) / (field * 3.0) * scale;
+  path.radius = helix_radius_cm(pt, field) * scale;
   path.dphi = (step * pt / p) / (-path.radius);
   const double phi_start = std::atan2(py, px);
   path.centre_x = particle.position[0] + path.radius * std::sin(phi_start);

@@ -17,6 +17,13 @@ enum class TrackEnd : bool {
   stopped = true,   ///< at the wall or at the point limit, without an end point
 };
 
+/// Radius of a track in cm, in a field along z; with the field's sign, and infinite without one.
+/// \param pt    momentum across the field, MeV/c
+/// \param field kG
+[[nodiscard]] inline double helix_radius_cm(double pt, double field) {
+  return (pt * 10.0) / (field * 3.0);
+}
+
 /// Makes the helix of a particle in the field along z.
 /// \param particle its energy becomes sqrt(m^2 + p^2) and its z moves one step on: the first point
 /// of

@@ -10,8 +10,9 @@
 
 namespace velquon {
 
-ChamberModel::ChamberModel(std::optional<std::uint32_t> seed) {
-  std::srand(seed.value_or(static_cast<std::uint32_t>(Microseconds())));
+ChamberModel::ChamberModel(std::optional<std::uint32_t> seed)
+    : seed_(seed.value_or(static_cast<std::uint32_t>(Microseconds()))) {
+  std::srand(seed_);
 }
 
 void ChamberModel::setEventType(int type) {
@@ -25,6 +26,9 @@ void ChamberModel::setNext(const ChamberValues& values) {
 }
 
 void ChamberModel::setPreferences(const ChamberPreferences& preferences) {
+  if (preferences.hide_answers && !preferences_.hide_answers) {
+    revealed_ = false;
+  }
   preferences_ = preferences;
   changed.tell();
 }
@@ -49,14 +53,15 @@ void ChamberModel::makeTracks(const EventType& type) {
   auto tracks = std::make_shared<EventTracks>();
   tracks->points.assign(points.begin(), points.end());
   tracks->type = static_cast<std::size_t>(&type - event_types().data());
+  tracks->values = next_;
   tracks->record = std::move(record);
-  changeShown([&](ShownEvent& shown) { shown.tracks = std::move(tracks); });
+  takeTracks(std::move(tracks));
 }
 
 void ChamberModel::showTracks(std::span<const PlotPoint> points) {
   auto tracks = std::make_shared<EventTracks>();
   tracks->points.assign(points.begin(), points.end());
-  changeShown([&](ShownEvent& shown) { shown.tracks = std::move(tracks); });
+  takeTracks(std::move(tracks));
 }
 
 void ChamberModel::showNextValues() {
@@ -69,6 +74,26 @@ void ChamberModel::showName(const std::string& name) {
 
 void ChamberModel::setHasEvent() {
   changeShown([](ShownEvent& shown) { shown.has_event = true; });
+}
+
+void ChamberModel::mark(std::vector<std::size_t> points) {
+  if (points == marked_) {
+    return;
+  }
+  marked_ = std::move(points);
+  changed.tell();
+  marks_changed.tell();
+}
+
+void ChamberModel::revealAnswers() {
+  revealed_ = true;
+  changed.tell();
+}
+
+void ChamberModel::takeTracks(std::shared_ptr<const EventTracks> tracks) {
+  marked_.clear();
+  revealed_ = false;
+  changeShown([&](ShownEvent& shown) { shown.tracks = std::move(tracks); });
 }
 
 template <typename Change>

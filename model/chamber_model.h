@@ -8,6 +8,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "engine/chamber_values.h"
 #include "engine/event_record.h"
@@ -25,6 +26,7 @@ struct ChamberPreferences {
   bool reset_each = false;     ///< go back to the resting viewpoint for each new event
   bool slomo = false;          ///< show each new event point by point
   bool chamber_on_top = true;  ///< the window brought to the front with each new event
+  bool hide_answers = false;   ///< tell nothing of an event but what is seen, until asked to
 };
 
 /// What the program knows of its chamber: the kind and the values of the next event, how events are
@@ -33,10 +35,16 @@ class ChamberModel {
  public:
   /// Told after each change of what is shown or chosen.
   Listeners changed;
+  /// Told when the user has marked other points of the shown event, or none, after `changed`. Another
+  /// event takes the marks away without a word here.
+  Listeners marks_changed;
 
   /// Seeds the process-wide random generator, once for the program's run.
   /// \param seed the seed; without one the low 32 bits of the microsecond clock
   explicit ChamberModel(std::optional<std::uint32_t> seed);
+
+  /// With which the random generator began.
+  [[nodiscard]] std::uint32_t seed() const { return seed_; }
 
   /// Kind of the next event, an index of `event_types`.
   [[nodiscard]] int event_type() const { return event_type_; }
@@ -47,6 +55,7 @@ class ChamberModel {
   void setNext(const ChamberValues& values);
 
   [[nodiscard]] const ChamberPreferences& preferences() const { return preferences_; }
+  /// Hiding the answers from now on takes back that those of the shown event were asked for.
   void setPreferences(const ChamberPreferences& preferences);
 
   /// The turntable's choices and motion. Whoever changes them calls `turntableChanged`.
@@ -72,15 +81,30 @@ class ChamberModel {
   void showName(const std::string& name);
   void setHasEvent();
 
+  /// Points of the shown event that the views emphasise: their indices, rising. Another event has
+  /// none.
+  [[nodiscard]] const std::vector<std::size_t>& marked() const { return marked_; }
+  /// \param points indices below the number of points, rising
+  void mark(std::vector<std::size_t> points);
+
+  /// Whether what happened in the shown event may be told.
+  [[nodiscard]] bool answersShown() const { return !preferences_.hide_answers || revealed_; }
+  /// Has what happened told, until there is another event.
+  void revealAnswers();
+
  private:
   template <typename Change>
   void changeShown(Change change);
+  void takeTracks(std::shared_ptr<const EventTracks> tracks);
 
+  std::uint32_t seed_;
   int event_type_ = 0;
   ChamberValues next_;
   ChamberPreferences preferences_;
   Turntable turntable_;
   std::shared_ptr<const ShownEvent> shown_ = std::make_shared<const ShownEvent>();
+  std::vector<std::size_t> marked_;
+  bool revealed_ = false;
 };
 
 /// Values as the controls of the windows hold them, who have the side in metres.

@@ -20,6 +20,7 @@ namespace velquon {
 struct EventTracks {
   std::vector<PlotPoint> points;
   std::optional<std::size_t> type;       ///< of a simulated event
+  ChamberValues values;                  ///< under which a simulated event was made
   std::optional<ParticleRecord> record;  ///< what happened, of a simulated event
 };
 

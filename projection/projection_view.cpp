@@ -16,6 +16,7 @@ namespace velquon {
 namespace {
 
 constexpr double half_square = 0.5;
+constexpr double half_marked_square = 1.5;
 
 /// \param dot length of a dot and of a gap, device pixels
 void draw_dotted_frame(const ProjectedFrame& frame, int dot) {
@@ -96,13 +97,21 @@ void ProjectionView::drawRect() {
 }
 
 void ProjectionView::drawTracks() {
-  const ProjectionMapping mapping = projector_.mapping();
   glColor3f(1.0F, 1.0F, 1.0F);
-  draw_dotted_frame(mapping.frame(), std::max(qRound(devicePixelRatioF()), 1));
-  for (const Place& point : display_points_) {
-    const auto [x, y] = mapping.map(point);
-    glRectd(x - half_square, y - half_square, x + half_square, y + half_square);
+  draw_dotted_frame(projector_.mapping().frame(), std::max(qRound(devicePixelRatioF()), 1));
+  for (std::size_t point = 0; point < display_points_.size(); ++point) {
+    drawSquare(point, half_square);
   }
+  for (const std::size_t point : marked_) {
+    if (point < display_points_.size()) {
+      drawSquare(point, half_marked_square);
+    }
+  }
+}
+
+void ProjectionView::drawSquare(std::size_t point, double half_side) const {
+  const auto [x, y] = projector_.mapping().map(display_points_[point]);
+  glRectd(x - half_side, y - half_side, x + half_side, y + half_side);
 }
 
 void ProjectionView::drawTape() const {

@@ -4,7 +4,9 @@
 #pragma once
 
 #include <QCursor>
+#include <cstddef>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "model/projector.h"
@@ -25,6 +27,10 @@ class ProjectionView : public GLView, public Printable {
 
   /// Takes the event to draw. A tape on the screen is read anew. Does not draw.
   void show(std::shared_ptr<const ShownEvent> event);
+
+  /// Emphasises points of the event on the screen, not on a page. Does not draw.
+  /// \param points their indices, rising
+  void mark(std::vector<std::size_t> points) { marked_ = std::move(points); }
 
   /// Chooses the plane; hides the tape and puts the picture back to its place.
   void setProjection(ProjectionPlane plane);
@@ -60,6 +66,7 @@ class ProjectionView : public GLView, public Printable {
   [[nodiscard]] double pictureHeight() const;
   void makeDisplayPoints();
   void drawTracks();
+  void drawSquare(std::size_t point, double half_side) const;
   void drawTape() const;
   void resetCursorRects();
   void makeCursors();
@@ -67,6 +74,7 @@ class ProjectionView : public GLView, public Printable {
   Projector& projector_;
   std::shared_ptr<const ShownEvent> event_ = std::make_shared<const ShownEvent>();
   std::vector<Place> display_points_;
+  std::vector<std::size_t> marked_;
   QCursor cross_hair_cursor_;
   QCursor grabber_cursor_;
   double cursor_ratio_ = 0.0;  ///< device pixels to a pixel that the cursors are made for

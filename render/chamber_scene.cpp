@@ -5,6 +5,7 @@
 
 #include <GL/freeglut.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -74,10 +75,24 @@ void ChamberScene::draw(const Camera& camera, double scale, std::size_t points,
   camera.load();
   draw_chamber(options.axes);
   cubes_.draw(points, camera.eye());
+  drawMarked(options.marked, points, camera.eye());
   if (!options.values.empty()) {
     overlay_text_.draw(options.values, scale, camera);
   }
   glFlush();
+}
+
+void ChamberScene::drawMarked(std::span<const std::size_t> marked, std::size_t points,
+                              const Vector& eye) {
+  std::vector<PlotPoint> chosen;
+  for (const std::size_t point : marked) {
+    if (point < std::min(points, points_.size())) {
+      chosen.push_back(points_[point]);
+    }
+  }
+  CubeArray cubes;
+  cubes.build(chosen, marked_cube_side);
+  cubes.draw(chosen.size(), eye);
 }
 
 std::optional<FeedbackPicture> ChamberScene::drawForPrinting(const Camera& camera,

@@ -19,15 +19,20 @@ namespace velquon {
 /// Side of a point's cube on the screen and on paper, drawing units.
 inline constexpr float screen_cube_side = 4.5F;
 inline constexpr float paper_cube_side = 2.25F;
+/// Side of a marked point's cube on the screen.
+inline constexpr float marked_cube_side = 11.0F;
 
 /// What is drawn beside the points.
 struct SceneOptions {
   bool axes = true;
   std::string
       values;  ///< line of the overlay, which stands still while the chamber turns; or empty
+  /// Points that are drawn larger and over the others: their indices, rising.
+  std::span<const std::size_t> marked{};
 };
 
-/// The picture of the chamber: its edges, axes and middle plane, and an event's points as cubes.
+/// The picture of the chamber: its edges, axes and middle plane, and an event's points as cubes. On
+/// a page no point is marked.
 class ChamberScene {
  public:
   /// Takes the points of an event.
@@ -47,6 +52,8 @@ class ChamberScene {
                                                                bool axes) const;
 
  private:
+  void drawMarked(std::span<const std::size_t> marked, std::size_t points, const Vector& eye);
+
   std::vector<PlotPoint> points_;
   CubeArray cubes_;
   OverlayText overlay_text_;

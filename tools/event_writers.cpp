@@ -6,11 +6,11 @@
 #include <string>
 #include <utility>
 
+#include "files/csv_writer.h"
 #include "files/hepmc3_writer.h"
-#include "tools/csv_writer.h"
+#include "files/particle_table.h"
 #include "tools/event_writer.h"
 #include "tools/npy_writer.h"
-#include "tools/particle_table.h"
 #include "tools/summary.h"
 
 namespace velquon {
@@ -29,6 +29,20 @@ class CsvEvents : public EventWriter {
 
  private:
   CsvWriter writer_;
+};
+
+class ParticleEvents : public EventWriter {
+ public:
+  explicit ParticleEvents(ByteOutput output) : writer_(std::move(output)) {}
+
+  std::error_code write(std::uint64_t number, std::span<const PlotPoint> /*points*/,
+                        const ParticleRecord& record) override {
+    return writer_.write(number, record);
+  }
+  std::error_code finish() override { return writer_.finish(); }
+
+ private:
+  ParticleTable writer_;
 };
 
 class Hepmc3Events : public EventWriter {
@@ -57,7 +71,7 @@ std::unique_ptr<EventWriter> make_event_writer(EventFormat format, OutputTarget&
     case EventFormat::npy:
       return std::make_unique<NpyWriter>(target);
     case EventFormat::particles:
-      return std::make_unique<ParticleTable>(target.bytes());
+      return std::make_unique<ParticleEvents>(target.bytes());
     case EventFormat::hepmc3:
       return std::make_unique<Hepmc3Events>(target.bytes(), run);
     case EventFormat::summary:

@@ -12,7 +12,7 @@
 #include <system_error>
 
 #include "files/atomic_file.h"
-#include "tools/byte_output.h"
+#include "files/byte_output.h"
 
 namespace velquon {
 

@@ -34,7 +34,9 @@ class UserDialogs {
   /// Asks for the name of a file to save, and once whether an existing one may be overwritten;
   /// if not, for another name.
   /// \param suggestion name offered
-  /// \param suffix     ending that the name gets when the user leaves it out, without the dot
+  /// \param filter     kinds of files offered, joined by ";;"; the name gets the ending of the kind
+  ///                   that the user chooses, unless he gives it one of another kind
+  /// \param suffix     ending of the first kind, without the dot
   /// \return its path, or empty when the user gives up
   virtual QString fileToSave(const QString& title, const QString& suggestion, const QString& filter,
                              const QString& suffix) = 0;

@@ -45,6 +45,8 @@ const std::vector<TitleCase> titles{
     {{"File", "Open Event…"}, "open_item", "Ctrl+O"},
     {{"File", "Import PC Event…"}, "import_item", "Ctrl+I"},
     {{"File", "Save Event…"}, "save_item", "Ctrl+S"},
+    {{"File", "Export Points…"}, "export_points_item", ""},
+    {{"File", "Export Record…"}, "export_record_item", ""},
     {{"File", "Print…"}, "print_item", "Ctrl+P"},
     {{"File", "Quit"}, "quit_item", "Ctrl+Q"},
     {{"Action", "New Event"}, "new_event_item", "Ctrl+N"},
@@ -74,6 +76,7 @@ const std::vector<TitleCase> titles{
     {{"Track", "Clear Screen"}, "clear_screen_item", "Ctrl+L"},
     {{"Window", "Chamber"}, "chamber_window_item", ""},
     {{"Window", "Projector"}, "projector_window_item", ""},
+    {{"Window", "Event Record"}, "event_record_item", "Ctrl+E"},
     {{"Help", "Velquon Guide"}, "guide_item", "F1"},
     {{"Help", "About Velquon"}, "about_item", ""},
 };

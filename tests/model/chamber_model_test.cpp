@@ -147,6 +147,77 @@ TEST(ChamberModelTest, TellsOfEachChange) {
   EXPECT_GT(told, 3);
 }
 
+TEST(ChamberModelTest, TellsUnderWhatItsTracksWereMade) {
+  ChamberModel model(seed);
+  EXPECT_EQ(model.seed(), seed);
+  model.setNext({.B_field = 3.0F, .sides_cm = 300.0F, .kinetic_Mev = 50.0F});
+  model.makeNewEvent();
+  model.setNext({.B_field = 4.0F, .sides_cm = 310.0F, .kinetic_Mev = 60.0F});
+  model.showNextValues();
+  const ChamberValues& values = model.shown()->tracks->values;
+  EXPECT_EQ(values.B_field, 3.0F);
+  EXPECT_EQ(values.sides_cm, 300.0F);
+  EXPECT_EQ(values.kinetic_Mev, 50.0F);
+}
+
+TEST(ChamberModelTest, MarksStayUntilThereIsAnotherEvent) {
+  ChamberModel model(seed);
+  model.makeNewEvent();
+  model.mark({0, 2});
+  model.showName("other");
+  model.setNext({});
+  EXPECT_EQ(model.marked(), (std::vector<std::size_t>{0, 2}));
+  model.makeNewEvent();
+  EXPECT_TRUE(model.marked().empty());
+  model.mark({1});
+  model.showTracks({});
+  EXPECT_TRUE(model.marked().empty());
+}
+
+TEST(ChamberModelTest, TellsOfMarksWhenTheUserChangesThemAndNotOfANewEvent) {
+  ChamberModel model(seed);
+  int told = 0;
+  std::vector<std::size_t> seen;
+  bool first_changed = false;
+  model.changed.add([&] { first_changed = true; });
+  model.marks_changed.add([&] {
+    ++told;
+    seen = model.marked();
+    EXPECT_TRUE(first_changed);
+  });
+  model.makeNewEvent();
+  EXPECT_EQ(told, 0);
+  model.mark({3, 4});
+  EXPECT_EQ(told, 1);
+  EXPECT_EQ(seen, (std::vector<std::size_t>{3, 4}));
+  model.mark({3, 4});
+  EXPECT_EQ(told, 1);
+  model.makeNewEvent();
+  EXPECT_EQ(told, 1);
+  model.mark({});
+  EXPECT_EQ(told, 1);
+}
+
+TEST(ChamberModelTest, HiddenAnswersAreShownOnRequestUntilThereIsAnotherEvent) {
+  ChamberModel model(seed);
+  model.makeNewEvent();
+  EXPECT_TRUE(model.answersShown());
+  model.setPreferences({.hide_answers = true});
+  EXPECT_FALSE(model.answersShown());
+  model.revealAnswers();
+  EXPECT_TRUE(model.answersShown());
+  model.showName("other");
+  EXPECT_TRUE(model.answersShown());
+  model.makeNewEvent();
+  EXPECT_FALSE(model.answersShown());
+  model.revealAnswers();
+  model.setPreferences({.slomo = true, .hide_answers = true});
+  EXPECT_TRUE(model.answersShown());
+  model.setPreferences({.hide_answers = false});
+  model.setPreferences({.hide_answers = true});
+  EXPECT_FALSE(model.answersShown());
+}
+
 TEST(ChamberModelTest, AnEnergyOf0MakesAnEventWithoutPoints) {
   ChamberModel model(seed);
   model.setNext({.B_field = 1.0F, .sides_cm = 100.0F, .kinetic_Mev = 0.0F});

@@ -41,6 +41,17 @@ QImage drawn_at(int scale, const Camera& camera) {
   return picture.value_or(QImage()).convertToFormat(QImage::Format_RGB32);
 }
 
+/// The first points of an event, some of which are marked.
+QImage drawn_with_marks(std::size_t points, const std::vector<std::size_t>& marked) {
+  ChamberScene scene;
+  scene.setPoints(some_points());
+  const auto picture = draw_off_screen(QSize(chamber_width, chamber_height), [&] {
+    scene.draw(Camera(), 1.0, points, {.axes = true, .values = {}, .marked = marked});
+  });
+  EXPECT_TRUE(picture);
+  return picture.value_or(QImage());
+}
+
 double brightness(QRgb pixel) {
   return std::max({qRed(pixel), qGreen(pixel), qBlue(pixel)}) / 255.0;
 }
@@ -107,6 +118,14 @@ TEST(OffScreenTest, ItIsDrawnInTheColoursOfItsTracks) {
   const QRgb pixel = picture.pixel(static_cast<int>(std::lround(4.0 * x)),
                                    static_cast<int>(std::lround(4.0 * (chamber_height - y))));
   EXPECT_EQ(QColor(pixel), QColor::fromRgbF(0.2F, 0.8F, 1.0F).toRgb());
+}
+
+TEST(OffScreenTest, MarksAreOnThePointsThatAreDrawn) {
+  const QImage plain = drawn_with_marks(10, {});
+  const QImage marked = drawn_with_marks(10, {5});
+  EXPECT_NE(marked, plain);
+  EXPECT_EQ(drawn_with_marks(10, {5, 10, 40, 1000}), marked);
+  EXPECT_EQ(drawn_with_marks(10, {10, 40}), plain);
 }
 
 TEST(OffScreenTest, ThePictureOfAnImpossibleSizeIsRefused) {

@@ -21,7 +21,7 @@ DRAWN = MODEL | {"render", "widgets", "printing"}
 ALLOWED = {
     "engine": set(),
     "events": {"engine"},
-    "files": {"engine"},
+    "files": {"engine", "events"},
     "tools": {"engine", "events", "files"},
     "model": {"engine", "events", "files"},
     "render": {"engine"},
@@ -30,7 +30,8 @@ ALLOWED = {
     "chamber": DRAWN,
     "projection": DRAWN,
     "track": MODEL | {"widgets"},
-    "app": DRAWN | {"chamber", "projection", "track"},
+    "record": MODEL | {"widgets"},
+    "app": DRAWN | {"chamber", "projection", "track", "record"},
 }
 
 

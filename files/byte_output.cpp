@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "tools/byte_output.h"
+#include "files/byte_output.h"
 
 #include <cerrno>
 

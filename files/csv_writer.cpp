@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "tools/csv_writer.h"
+#include "files/csv_writer.h"
 
 #include <algorithm>
 #include <array>
@@ -9,7 +9,7 @@
 #include <string_view>
 #include <utility>
 
-#include "tools/decimal_text.h"
+#include "files/decimal_text.h"
 
 namespace velquon {
 

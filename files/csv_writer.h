@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "engine/event_record.h"
-#include "tools/byte_output.h"
+#include "files/byte_output.h"
 
 namespace velquon {
 

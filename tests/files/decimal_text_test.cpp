@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "tools/decimal_text.h"
+#include "files/decimal_text.h"
 
 #include <gtest/gtest.h>
 

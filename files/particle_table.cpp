@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "tools/particle_table.h"
+#include "files/particle_table.h"
 
 #include <array>
 #include <charconv>
 #include <utility>
 
-#include "tools/decimal_text.h"
+#include "files/decimal_text.h"
 
 namespace velquon {
 
@@ -64,8 +64,7 @@ void append_particle(std::string& text, const RecordedParticle& particle) {
 
 ParticleTable::ParticleTable(ByteOutput output) : output_(std::move(output)), text_(header) {}
 
-std::error_code ParticleTable::write(std::uint64_t number, std::span<const PlotPoint> /*points*/,
-                                     const ParticleRecord& record) {
+std::error_code ParticleTable::write(std::uint64_t number, const ParticleRecord& record) {
   for (std::size_t i = 0; i < record.particles().size(); ++i) {
     append_integer(text_, number);
     text_ += ',';

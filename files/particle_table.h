@@ -3,22 +3,28 @@
 
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <system_error>
 
-#include "tools/byte_output.h"
-#include "tools/event_writer.h"
+#include "events/particle_record.h"
+#include "files/byte_output.h"
 
 namespace velquon {
 
 /// Writes what happened as a table, a line a particle, below a header with the names of the
 /// columns. cm and MeV; the origin is in the middle of the chamber.
-class ParticleTable : public EventWriter {
+class ParticleTable {
  public:
   explicit ParticleTable(ByteOutput output);
 
-  std::error_code write(std::uint64_t number, std::span<const PlotPoint> points,
-                        const ParticleRecord& record) override;
-  std::error_code finish() override;
+  /// Adds the lines of one event.
+  /// \param number of the event, from 1; particles are numbered from 0
+  /// \return what went wrong while a full buffer was written
+  std::error_code write(std::uint64_t number, const ParticleRecord& record);
+
+  /// Writes what is still in the buffer.
+  std::error_code finish();
 
  private:
   ByteOutput output_;

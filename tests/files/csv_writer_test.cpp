@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "tools/csv_writer.h"
+#include "files/csv_writer.h"
 
 #include <gtest/gtest.h>
 

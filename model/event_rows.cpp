@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "model/event_rows.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdlib>
+
+#include "engine/charged_track.h"
+#include "engine/kinematics.h"
+#include "events/tracking.h"
+
+namespace velquon {
+
+namespace {
+
+/// A particle as people know it.
+struct Kind {
+  int pdg;
+  std::string_view name;
+  const ParticleState& values;  ///< its mass and its decay length
+  bool charged;
+};
+
+// The neutrinos take no part but in the balance: without a mass and without an end.
+constexpr ParticleState neutrino{.decay_length = stable_decay_length};
+
+constexpr std::array kinds{
+    Kind{pdg::pion, "Positive pion π⁺", pion, true},
+    Kind{-pdg::pion, "Negative pion π⁻", pion, true},
+    Kind{pdg::pizero, "Neutral pion π⁰", pizero, false},
+    Kind{pdg::muon, "Negative muon μ⁻", muon, true},
+    Kind{-pdg::muon, "Positive muon μ⁺", muon, true},
+    Kind{pdg::electron, "Electron e⁻", electron, true},
+    Kind{-pdg::electron, "Positron e⁺", positron, true},
+    Kind{pdg::muon_neutrino, "Neutrino ν", neutrino, false},
+    Kind{-pdg::muon_neutrino, "Antineutrino ν̄", neutrino, false},
+    Kind{pdg::both_neutrinos, "Neutrino and antineutrino ν ν̄", neutrino, false},
+    Kind{pdg::photon, "Photon γ", photon, false},
+    Kind{pdg::lambda, "Lambda Λ", lambda, false},
+    Kind{pdg::proton, "Proton p", proton, true},
+    Kind{pdg::neutron, "Neutron n", neutron, false},
+};
+
+const Kind& kind_of(int pdg) {
+  return *std::ranges::find(kinds, pdg, &Kind::pdg);
+}
+
+std::string_view words_of(Fate fate) {
+  constexpr std::array<std::string_view, 6> words{
+      "decayed",          "converted to a pair",
+      "left the chamber", "cut: the event holds no more points",
+      "left unseen",      "not detected"};
+  return words[static_cast<std::size_t>(fate)];
+}
+
+double distance(const Vector3& from, const Vector3& to) {
+  return magnitude({to[0] - from[0], to[1] - from[1], to[2] - from[2]});
+}
+
+std::optional<double> flight_of(const RecordedParticle& particle, bool charged,
+                                const ChamberValues& values) {
+  if (!particle.end_cm) {
+    return std::nullopt;
+  }
+  // A charged particle leaves a point each step.
+  return charged ? particle.points * track_step / drawing_scale(values)
+                 : distance(particle.place_cm, *particle.end_cm);
+}
+
+EventRow row_of(const RecordedParticle& particle, const ChamberValues& values) {
+  const Kind& kind = kind_of(particle.pdg);
+  const auto field = static_cast<double>(values.B_field);
+  const auto& [px, py, pz] = particle.momentum;
+  EventRow row;
+  row.name = kind.name;
+  row.fate = words_of(particle.fate);
+  row.parent = particle.parent;
+  row.momentum = magnitude(particle.momentum);
+  row.transverse_momentum = std::hypot(px, py);
+  row.kinetic_energy = particle.energy - kind.values.mass;
+  row.flight_cm = flight_of(particle, kind.charged, values);
+  if (kind.charged && field != 0.0) {
+    row.radius_cm = std::abs(helix_radius_cm(row.transverse_momentum, field));
+  }
+  if (kind.values.mass > 0.0 && kind.values.decay_length < stable_decay_length) {
+    row.decay_length_cm = row.momentum / kind.values.mass * kind.values.decay_length;
+  }
+  return row;
+}
+
+std::string_view color_name(std::int16_t code) {
+  constexpr std::array<std::string_view, 5> names{"Red", "Yellow", "Green", "Blue", "Light blue"};
+  const int index = code - 3;
+  return index >= 0 && index < static_cast<int>(names.size())
+             ? names[static_cast<std::size_t>(index)]
+             : names.back();
+}
+
+}  // namespace
+
+std::vector<EventRow> event_rows(const ParticleRecord& record, const ChamberValues& values) {
+  std::vector<EventRow> rows;
+  for (const RecordedParticle& particle : record.particles()) {
+    rows.push_back(row_of(particle, values));
+  }
+  for (std::size_t point = 0; point < record.owners().size(); ++point) {
+    rows[record.owners()[point]].points.push_back(point);
+  }
+  return rows;
+}
+
+std::vector<VisibleTrack> visible_tracks(std::span<const PlotPoint> points) {
+  std::vector<VisibleTrack> tracks;
+  for (std::size_t point = 0; point < points.size(); ++point) {
+    const std::int16_t code = points[point].code;
+    auto track = std::ranges::find(tracks, code, &VisibleTrack::code);
+    if (track == tracks.end()) {
+      track = tracks.insert(track, {.code = code, .color = color_name(code), .points = {}});
+    }
+    track->points.push_back(point);
+  }
+  return tracks;
+}
+
+}  // namespace velquon
