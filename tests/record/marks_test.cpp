@@ -22,7 +22,7 @@ class MarksTest : public RecordWindowFixture {
   /// An event with a red, a yellow and a green track on the screen, and its window beside it.
   void SetUp() override {
     RecordWindowFixture::SetUp();
-    newEventUntil(negative_pion, lively, [](const ShownEvent& shown) {
+    newEventUntil(negative_pion, curling, [](const ShownEvent& shown) {
       const auto rows = event_rows(*shown.tracks->record, shown.tracks->values);
       return rows.size() == 5 && rows[0].points.size() > 5 && rows[1].points.size() > 5 &&
              rows[3].points.size() > 5;

@@ -162,7 +162,7 @@ TEST_F(RecordWindowTest, EveryRowIsSeenAtOnce) {
 
 TEST_F(RecordWindowTest, HiddenAnswersLeaveTheColorsOfTheTracks) {
   openRecord();
-  newEventUntil(negative_pion, lively,
+  newEventUntil(negative_pion, curling,
                 [](const ShownEvent& shown) { return visible_tracks(shown.points()).size() == 3; });
   EXPECT_FALSE(hideBox().isChecked());
   EXPECT_FALSE(revealButton().isEnabled());
