@@ -49,7 +49,7 @@ constexpr std::array<Column, 11> columns{{
     {40.0, false, QT_TRANSLATE_NOOP("velquon::AnswerKey", "Particle"), ""},
     {84.0, false, QT_TRANSLATE_NOOP("velquon::AnswerKey", "From"), ""},
     {158.0, true, QT_TRANSLATE_NOOP("velquon::AnswerKey", "p"), "MeV/c"},
-    {210.0, true, QT_TRANSLATE_NOOP("velquon::AnswerKey", "p across"), "MeV/c"},
+    {210.0, true, QT_TRANSLATE_NOOP("velquon::AnswerKey", "p trans."), "MeV/c"},
     {260.0, true, QT_TRANSLATE_NOOP("velquon::AnswerKey", "Radius"), "cm"},
     {310.0, true, QT_TRANSLATE_NOOP("velquon::AnswerKey", "Length"), "cm"},
     {360.0, true, QT_TRANSLATE_NOOP("velquon::AnswerKey", "on paper"), "cm"},
@@ -60,8 +60,8 @@ constexpr std::array<Column, 11> columns{{
 
 constexpr std::array<const char*, 3> notes{
     QT_TRANSLATE_NOOP("velquon::AnswerKey",
-                      "p across is the part of the momentum across the field: p across = 0.3 B R "
-                      "for B in kG and the radius R in cm."),
+                      "p trans. is the transverse momentum, the part across the field: 0.3 B R for "
+                      "B in kG and the radius R in cm."),
     QT_TRANSLATE_NOOP("velquon::AnswerKey",
                       "Lengths and angles are those in space and those on the paper; the angle is "
                       "that to the parent's flight at the vertex."),

@@ -6,6 +6,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QString>
+#include <cmath>
 
 #include "printing/page.h"
 
@@ -36,7 +37,11 @@ void print_text_centred(QPainter& page, QPointF place, const QString& text) {
 
 QString sheet_number(double value) {
   constexpr int digits = 4;
-  return QString::number(value, 'g', digits);
+  constexpr double long_number = 1e3;
+  constexpr double too_long_number = 1e7;
+  const double size = std::fabs(value);
+  return size >= long_number && size < too_long_number ? QString::number(value, 'f', 0)
+                                                       : QString::number(value, 'g', digits);
 }
 
 }  // namespace velquon

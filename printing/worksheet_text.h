@@ -22,7 +22,8 @@ void print_text_right(QPainter& page, QPointF place, const QString& text);
 /// \param place middle of the text's lower edge
 void print_text_centred(QPainter& page, QPointF place, const QString& text);
 
-/// A number as worksheets and their answers give it: four significant digits, a decimal point.
+/// A number as worksheets and their answers give it: four significant digits or, of a
+/// thousand and more, all whole ones; a decimal point.
 [[nodiscard]] QString sheet_number(double value);
 
 }  // namespace velquon
