@@ -108,6 +108,7 @@ void paint_direction_sign(QPainter& page, QPointF middle, bool to_reader) {
   page.drawEllipse(middle, radius, radius);
   if (to_reader) {
     page.save();
+    page.setPen(Qt::NoPen);
     page.setBrush(Qt::black);
     page.drawEllipse(middle, dot, dot);
     page.restore();

@@ -54,7 +54,7 @@ struct Refusal {
 class WorksheetRefusals : public WorksheetTest, public ::testing::WithParamInterface<Refusal> {};
 
 TEST_P(WorksheetRefusals, EndWithStatus2AndOneLine) {
-  const QuietEnding ending = run_without_display(
+  QuietEnding ending = run_without_display(
       VELQUON_PROGRAM, QString::fromUtf8(GetParam().arguments).replace(u'@', sheets()).split(u' '));
   EXPECT_EQ(ending.status, 2);
   EXPECT_EQ(ending.output, QString());

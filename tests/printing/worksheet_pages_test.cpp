@@ -76,7 +76,7 @@ std::vector<double> marks_of(const PdfPage& page, double length) {
   std::vector<double> marks;
   for (const PaperLine& line : page.lines) {
     const auto [low, high] = std::minmax(line.from.y(), line.to.y());
-    if (line.from.x() == line.to.x() && std::fabs(high - ruler) < 0.1 &&
+    if (std::fabs(line.from.x() - line.to.x()) < 1e-6 && std::fabs(high - ruler) < 0.1 &&
         std::fabs(high - low - length) < 0.1) {
       marks.push_back(line.from.x());
     }
@@ -151,7 +151,8 @@ TEST_F(WorksheetPagesTest, TheFieldPointsWhereTheForceOnTheChargeSaysSo) {
     // The point of the arrow, or its feathers.
     EXPECT_EQ(made[0].other_fills, out ? 1 : 0) << arguments;
     const auto slanted = std::ranges::count_if(made[0].lines, [](const PaperLine& line) {
-      return line.from.x() != line.to.x() && line.from.y() != line.to.y();
+      return std::fabs(line.from.x() - line.to.x()) > 1.0 &&
+             std::fabs(line.from.y() - line.to.y()) > 1.0;
     });
     EXPECT_EQ(slanted, out ? 0 : 2) << arguments;
   }
