@@ -60,11 +60,11 @@ constexpr std::array<Column, 11> columns{{
 
 constexpr std::array<const char*, 3> notes{
     QT_TRANSLATE_NOOP("velquon::AnswerKey",
-                      "p trans. is the transverse momentum, the part across the field: 0.3 B R for "
-                      "B in kG and the radius R in cm."),
+                      "p trans. is the momentum across the field: 0.3 B R for B in kG and the "
+                      "radius R in cm."),
     QT_TRANSLATE_NOOP("velquon::AnswerKey",
-                      "Lengths and angles are those in space and those on the paper; the angle is "
-                      "that to the parent's flight at the vertex."),
+                      "Lengths and angles are given in space and on the paper; the angle is that "
+                      "to the parent at the vertex."),
     QT_TRANSLATE_NOOP("velquon::AnswerKey",
                       "Fates: decayed, left the chamber, or full: the track is cut where the "
                       "event holds no more points."),
