@@ -75,7 +75,7 @@ std::vector<double> marks_of(const PdfPage& page, double length) {
   const double ruler = frame_of(page).top() - 8.0;
   std::vector<double> marks;
   for (const PaperLine& line : page.lines) {
-    const auto [low, high] = std::minmax(line.from.y(), line.to.y());
+    const auto [low, high] = std::minmax({line.from.y(), line.to.y()});
     if (std::fabs(line.from.x() - line.to.x()) < 1e-6 && std::fabs(high - ruler) < 0.1 &&
         std::fabs(high - low - length) < 0.1) {
       marks.push_back(line.from.x());
