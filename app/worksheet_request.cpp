@@ -81,9 +81,8 @@ ReadWorksheetOptions read_worksheet_options(const QCommandLineParser& parser,
   if (const QString problem = problem_of_names(parser); !problem.isEmpty()) {
     return refused(problem);
   }
-  WorksheetRequest request{.order = {},
-                           .sheets = parser.value(sheets_key),
-                           .answers = parser.value(answers_key)};
+  WorksheetRequest request{
+      .order = {}, .sheets = parser.value(sheets_key), .answers = parser.value(answers_key)};
   for (const OrderEntry& entry : order_entries()) {
     const QString key = text_of(entry.key);
     if (parser.isSet(key) && !entry.take(request.order, parser.value(key).toStdString())) {

@@ -53,8 +53,8 @@ double paper_length_of(const RecordedParticle& particle, const ChamberValues& va
     const Vector3& end = *particle.end_cm;
     return std::hypot(end[0] - particle.place_cm[0], end[1] - particle.place_cm[1]);
   }
-  return length_of(particle, static_cast<double>(values.sides_cm)) *
-         transverse(particle.momentum) / magnitude(particle.momentum);
+  return length_of(particle, static_cast<double>(values.sides_cm)) * transverse(particle.momentum) /
+         magnitude(particle.momentum);
 }
 
 /// A particle's momentum where it ends. In the field that of a charged one has turned by the angle
@@ -108,9 +108,8 @@ std::vector<TrackAnswer> answers_of(const ParticleRecord& record, const ChamberV
   std::vector<TrackAnswer> answers;
   for (const RecordedParticle& particle : particles) {
     if (charge_of(particle.pdg) != 0 && particle.points > 0) {
-      const auto* parent = particle.parent < 0
-                               ? nullptr
-                               : &particles[static_cast<std::size_t>(particle.parent)];
+      const auto* parent =
+          particle.parent < 0 ? nullptr : &particles[static_cast<std::size_t>(particle.parent)];
       answers.push_back(answer_of(particle, parent, values));
     }
   }

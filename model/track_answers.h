@@ -15,14 +15,14 @@ namespace velquon {
 /// projection onto the xy plane, which the field is perpendicular to.
 struct TrackAnswer {
   int pdg = 0;
-  std::optional<int> parent_pdg{};         ///< none for the incoming particle
-  double momentum = 0.0;                   ///< MeV/c, at creation
-  double transverse_momentum = 0.0;        ///< its part in the xy plane, MeV/c
-  std::optional<double> radius_cm{};       ///< of the circle on the paper; none for a straight track
-  double length_cm = 0.0;                  ///< along the track, from its vertex to its last point
-  double paper_length_cm = 0.0;            ///< the same on the paper
-  std::optional<double> angle_deg{};       ///< to its parent's direction at the vertex, 0 to 180
-  std::optional<double> paper_angle_deg{}; ///< the same on the paper
+  std::optional<int> parent_pdg{};    ///< none for the incoming particle
+  double momentum = 0.0;              ///< MeV/c, at creation
+  double transverse_momentum = 0.0;   ///< its part in the xy plane, MeV/c
+  std::optional<double> radius_cm{};  ///< of the circle on the paper; none for a straight track
+  double length_cm = 0.0;             ///< along the track, from its vertex to its last point
+  double paper_length_cm = 0.0;       ///< the same on the paper
+  std::optional<double> angle_deg{};  ///< to its parent's direction at the vertex, 0 to 180
+  std::optional<double> paper_angle_deg{};  ///< the same on the paper
   Fate fate = Fate::left;
 };
 

@@ -142,8 +142,7 @@ void paint_head(QPainter& page, QSizeF paper, const WorksheetOrder& order, int i
   print_text(page, {left, top - kind_depth}, tr("Incoming particle: %1").arg(kind));
   print_text_right(page, {right, top - kind_depth},
                    tr("Seed %1, events 1 to %2").arg(order.seed).arg(order.events));
-  print_text(page, {left, top - values_depth},
-             QString::fromStdString(values_text(order.values)));
+  print_text(page, {left, top - values_depth}, QString::fromStdString(values_text(order.values)));
 }
 
 }  // namespace
@@ -168,12 +167,11 @@ int lines_on_key_page(QSizeF paper) {
 void paint_key_page(QPainter& page, QSizeF paper, const WorksheetOrder& order,
                     const std::vector<AnswerLine>& lines, int index) {
   constexpr double note_height = 12.0;
-  const auto first = static_cast<std::size_t>(index) *
-                     static_cast<std::size_t>(lines_on_key_page(paper));
+  const auto first =
+      static_cast<std::size_t>(index) * static_cast<std::size_t>(lines_on_key_page(paper));
   const std::size_t end =
       std::min(first + static_cast<std::size_t>(lines_on_key_page(paper)), lines.size());
-  const int pages =
-      (static_cast<int>(lines.size()) - 1) / lines_on_key_page(paper) + 1;
+  const int pages = (static_cast<int>(lines.size()) - 1) / lines_on_key_page(paper) + 1;
   page.setPen(QPen(Qt::black, thin_line, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
   paint_head(page, paper, order, index, pages);
   set_text_size(page, small_text_size);

@@ -71,8 +71,7 @@ struct TextArea {
 double paint_blank(QPainter& page, QPointF place, const QString& label, double length) {
   constexpr double gap = 4.0;
   print_text(page, place, label);
-  const double start =
-      place.x() + QFontMetricsF(page.font()).horizontalAdvance(label) + gap;
+  const double start = place.x() + QFontMetricsF(page.font()).horizontalAdvance(label) + gap;
   page.drawLine(QLineF(start, place.y() + 1.0, start + length, place.y() + 1.0));
   return start + length;
 }
@@ -85,8 +84,8 @@ void paint_head(QPainter& page, const TextArea& area, const WorksheetOrder& orde
   const double title_height = area.top - title_depth;
   print_text(page, {area.left, title_height}, tr("Worksheet %1").arg(number));
   set_text_size(page, text_size);
-  const double name_end = paint_blank(page, {area.left + blanks_indent, title_height}, tr("Name"),
-                                      name_length);
+  const double name_end =
+      paint_blank(page, {area.left + blanks_indent, title_height}, tr("Name"), name_length);
   const QString date = tr("Date");
   const double date_width = QFontMetricsF(page.font()).horizontalAdvance(date) + 4.0;
   paint_blank(page, {name_end + blank_gap, title_height}, date,

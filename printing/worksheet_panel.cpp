@@ -46,8 +46,8 @@ WorksheetPanel::WorksheetPanel(const WorksheetOrder& preset, QWidget* parent)
   layout->addLayout(form);
   addChoices(*form);
   addNumbers(*form);
-  answers_check_ = named(new QCheckBox(tr("With an &answer key in a file of its own")),
-                         "answers_check");
+  answers_check_ =
+      named(new QCheckBox(tr("With an &answer key in a file of its own")), "answers_check");
   answers_check_->setChecked(true);
   layout->addWidget(answers_check_);
   problem_label_ = named(new QLabel, "problem_label");

@@ -74,9 +74,8 @@ QByteArray answer_document(const WorksheetOrder& order, const std::vector<Answer
   const int lines_on_page = lines_on_key_page(document.paper());
   const int pages = (static_cast<int>(lines.size()) - 1) / lines_on_page + 1;
   for (int index = 0; index < pages; ++index) {
-    document.addPage([&](QPainter& page) {
-      paint_key_page(page, document.paper(), order, lines, index);
-    });
+    document.addPage(
+        [&](QPainter& page) { paint_key_page(page, document.paper(), order, lines, index); });
   }
   return document.finish();
 }

@@ -71,7 +71,7 @@ class TrackAnswersTest : public testing::TestWithParam<ChamberValues> {
 bool is_measurable(const MeasuredTrack& track, double radius_cm, double side_cm) {
   const double step_cm = side_cm / 40.0;
   const std::size_t steps = track.places.size() - 1;
-  return steps >= 4 && step_cm < radius_cm && static_cast<double>(steps) * step_cm > radius_cm / 20;
+  return steps >= 4 && step_cm<radius_cm&& static_cast<double>(steps) * step_cm> radius_cm / 20;
 }
 
 TEST_P(TrackAnswersTest, RadiusLengthAndAngleAreThoseOfTheCirclesThroughThePoints) {
@@ -106,8 +106,9 @@ TEST_P(TrackAnswersTest, RadiusLengthAndAngleAreThoseOfTheCirclesThroughThePoint
         ++radii;
         const auto parent = std::ranges::find_if(tracks, [&](const MeasuredTrack& track) {
           return tracks[i].particle->parent >= 0 &&
-                 track.particle == &event.record->particles()[static_cast<std::size_t>(
-                                       tracks[i].particle->parent)];
+                 track.particle ==
+                     &event.record
+                          ->particles()[static_cast<std::size_t>(tracks[i].particle->parent)];
         });
         if (parent == tracks.end()) {
           continue;
@@ -144,13 +145,10 @@ TEST_P(TrackAnswersTest, LengthsInSpaceAreTheStepsOfThePoints) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(BothFields, TrackAnswersTest,
-                         testing::Values(ChamberValues{.B_field = 10.0F,
-                                                       .sides_cm = 300.0F,
-                                                       .kinetic_Mev = 30.0F},
-                                         ChamberValues{.B_field = -4.0F,
-                                                       .sides_cm = 1000.0F,
-                                                       .kinetic_Mev = 20.0F}));
+INSTANTIATE_TEST_SUITE_P(
+    BothFields, TrackAnswersTest,
+    testing::Values(ChamberValues{.B_field = 10.0F, .sides_cm = 300.0F, .kinetic_Mev = 30.0F},
+                    ChamberValues{.B_field = -4.0F, .sides_cm = 1000.0F, .kinetic_Mev = 20.0F}));
 
 TEST(TrackAnswers, NameTheParentsAndLeaveOutWhatLeavesNoTrack) {
   const ChamberValues values{.B_field = 10.0F, .sides_cm = 2000.0F, .kinetic_Mev = 5.0F};

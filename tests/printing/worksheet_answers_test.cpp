@@ -45,11 +45,11 @@ QStringList words(const char* text) {
 
 QString symbol_of(const QString& pdg) {
   static const std::map<QString, QString> symbols{
-      {QStringLiteral("11"), QStringLiteral("e⁻")},   {QStringLiteral("-11"), QStringLiteral("e⁺")},
-      {QStringLiteral("13"), QStringLiteral("μ⁻")},   {QStringLiteral("-13"), QStringLiteral("μ⁺")},
-      {QStringLiteral("211"), QStringLiteral("π⁺")},  {QStringLiteral("-211"), QStringLiteral("π⁻")},
-      {QStringLiteral("111"), QStringLiteral("π⁰")},  {QStringLiteral("22"), QStringLiteral("γ")},
-      {QStringLiteral("3122"), QStringLiteral("Λ")},  {QStringLiteral("2212"), QStringLiteral("p")}};
+      {QStringLiteral("11"), QStringLiteral("e⁻")},  {QStringLiteral("-11"), QStringLiteral("e⁺")},
+      {QStringLiteral("13"), QStringLiteral("μ⁻")},  {QStringLiteral("-13"), QStringLiteral("μ⁺")},
+      {QStringLiteral("211"), QStringLiteral("π⁺")}, {QStringLiteral("-211"), QStringLiteral("π⁻")},
+      {QStringLiteral("111"), QStringLiteral("π⁰")}, {QStringLiteral("22"), QStringLiteral("γ")},
+      {QStringLiteral("3122"), QStringLiteral("Λ")}, {QStringLiteral("2212"), QStringLiteral("p")}};
   return symbols.at(pdg);
 }
 
@@ -164,7 +164,8 @@ TEST_F(WorksheetAnswersTest, AWorksheetWithoutATrackIsNamedInItsPlace) {
 }
 
 TEST_F(WorksheetAnswersTest, StraightTracksAreCalledSo) {
-  for (const QStringList& line : key(words("--type mu+ --field 0 --energy 90 --seed 1 --events 3"))) {
+  for (const QStringList& line :
+       key(words("--type mu+ --field 0 --energy 90 --seed 1 --events 3"))) {
     EXPECT_EQ(line.at(5), QStringLiteral("straight"));
   }
 }

@@ -37,9 +37,9 @@ TEST_F(WorksheetCommandTest, WithoutASeedTheClockGivesOne) {
 
 TEST_F(WorksheetCommandTest, ReplacesFormerFilesByWholeOnes) {
   for (const char* const events : {"40", "1"}) {
-    const auto made = pages(words("--type mu- --seed 1 --events") +
-                            QStringList{QLatin1String(events)} +
-                            QStringList{QStringLiteral("--answers"), answers()});
+    const auto made =
+        pages(words("--type mu- --seed 1 --events") + QStringList{QLatin1String(events)} +
+              QStringList{QStringLiteral("--answers"), answers()});
     EXPECT_EQ(made.size(), QByteArray(events).toUInt());
     EXPECT_EQ(title_of_pdf(answers()), QStringLiteral("Answers to the worksheets"));
   }
@@ -99,8 +99,7 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"--worksheets @ --type pi- --answers=", "--answers: no file is named"},
         Refusal{"--worksheets= --type pi-", "--worksheets: no file is named"},
         Refusal{"--worksheets @ --type pi- a.cwd", "'a.cwd' is one argument too many"},
-        Refusal{"--worksheets @ --type pi- --pictures d",
-                "--pictures goes without --worksheets"},
+        Refusal{"--worksheets @ --type pi- --pictures d", "--pictures goes without --worksheets"},
         Refusal{"--type pi-", "--type goes with --worksheets"},
         Refusal{"--field 5 a.cwd", "--field goes with --worksheets"},
         Refusal{"--side 5", "--side goes with --worksheets"},
@@ -111,22 +110,22 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(WorksheetCommandTest, AFileThatCannotBeWrittenIsNamedWithTheReason) {
   const QString nowhere = path(QStringLiteral("no/such.pdf"));
-  for (const QStringList& arguments :
-       {QStringList{QStringLiteral("--worksheets"), nowhere},
-        QStringList{QStringLiteral("--worksheets"), sheets(), QStringLiteral("--answers"),
-                    nowhere}}) {
+  for (const QStringList& arguments : {QStringList{QStringLiteral("--worksheets"), nowhere},
+                                       QStringList{QStringLiteral("--worksheets"), sheets(),
+                                                   QStringLiteral("--answers"), nowhere}}) {
     const QuietEnding ending =
         run_without_display(VELQUON_PROGRAM, arguments + words("--type pi- --seed 1"));
     EXPECT_EQ(ending.status, 1);
-    EXPECT_EQ(ending.errors, QStringLiteral("velquon: cannot write %1: No such file or directory\n")
-                                 .arg(nowhere));
+    EXPECT_EQ(ending.errors,
+              QStringLiteral("velquon: cannot write %1: No such file or directory\n").arg(nowhere));
   }
 }
 
 TEST_F(WorksheetCommandTest, OnAFullDiskTheFormerFileStaysAndNothingElse) {
   static_cast<void>(pages(words("--type pi- --seed 1")));
   const QByteArray before = read(sheets());
-  const QStringList many = words("--type pi- --seed 2 --events 30 --answers") + QStringList{answers()};
+  const QStringList many =
+      words("--type pi- --seed 2 --events 30 --answers") + QStringList{answers()};
   {
     const velquon::testing::FileSizeLimit limit(3000);
     const QuietEnding ending = leave(many);

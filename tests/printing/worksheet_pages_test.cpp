@@ -91,8 +91,8 @@ TEST_F(WorksheetPagesTest, TheRulersNumbersAreCentimetresOfTheChamber) {
   };
   for (const auto& [side_cm, numbers] :
        {Case{"500", 11}, Case{"347", 7}, Case{"1000", 11}, Case{"0.8", 9}, Case{"90000", 10}}) {
-    const auto made = pages(words("--type pi+ --seed 1 --side") +
-                            QStringList{QLatin1String(side_cm)});
+    const auto made =
+        pages(words("--type pi+ --seed 1 --side") + QStringList{QLatin1String(side_cm)});
     const double points_per_cm = 400.0 / QByteArray(side_cm).toDouble();
     const QRectF frame = frame_of(made.at(0));
     const std::vector<double> marks = marks_of(made[0], 9.0);
@@ -144,7 +144,8 @@ TEST_F(WorksheetPagesTest, TheFieldPointsWhereTheForceOnTheChargeSaysSo) {
         Case{"--type mu+ --field -2.5", 1, "Magnetic field of 2.5 kG, into the paper", false},
         Case{"--type mu- --field -2.5", -1, "Magnetic field of 2.5 kG, into the paper", false}}) {
     const auto made = pages(words(arguments) + words("--energy 50 --seed 1"));
-    EXPECT_TRUE(lines_of_pdf_page(sheets(), 1).join(QLatin1Char('\n')).contains(QLatin1String(text)))
+    EXPECT_TRUE(
+        lines_of_pdf_page(sheets(), 1).join(QLatin1Char('\n')).contains(QLatin1String(text)))
         << arguments;
     // q v x B with B to the reader turns a positive charge with the hands of a clock.
     EXPECT_LT(turn_of(made.at(0)) * charge * (out ? 1 : -1), 0.0) << arguments;

@@ -66,9 +66,9 @@ QRectF frame_of(const PdfPage& page) {
 QStringList lines_of_pdf_page(const QString& path, int page) {
   QProcess tool;
   const QString number = QString::number(page);
-  tool.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), QStringLiteral("-f"), number,
-                                           QStringLiteral("-l"), number, path,
-                                           QStringLiteral("-")});
+  tool.start(QStringLiteral("pdftotext"),
+             {QStringLiteral("-layout"), QStringLiteral("-f"), number, QStringLiteral("-l"), number,
+              path, QStringLiteral("-")});
   EXPECT_TRUE(tool.waitForFinished() && tool.exitCode() == 0);
   QStringList lines;
   for (const QString& line :
