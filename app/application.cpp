@@ -15,6 +15,7 @@
 #include "app/menus.h"
 #include "app/readable_style.h"
 #include "app/track_commands.h"
+#include "app/worksheet_commands.h"
 #include "chamber/chamber_view.h"
 #include "chamber/chamber_window.h"
 #include "projection/projection_view.h"
@@ -48,6 +49,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   join(*chamber_window_);
   join(*projector_window_);
   addFileCommands();
+  add_worksheet_command(*commands_, items, model_, dialogs);
   add_chamber_commands(*commands_, items, *controller_, *chamber_window_->view());
   addTrackCommands();
   addWindowCommands();

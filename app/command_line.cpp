@@ -98,6 +98,7 @@ ParsedCommandLine parse_command_line(const QStringList& arguments) {
       QStringLiteral("Leave a picture of an event of each kind in a folder, and end."),
       QStringLiteral("DIR"));
   parser.addOptions({help, version, seed, pictures});
+  parser.addOptions(worksheet_options());
   parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Event file to open."),
                                QStringLiteral("[FILE]"));
   const auto [of_qt, others, display] = tell_apart(arguments);
@@ -133,8 +134,17 @@ ParsedCommandLine parse_command_line(const QStringList& arguments) {
       return refusal(QStringLiteral("--pictures: no folder is named"));
     }
   }
+  const auto [worksheets, problem] = read_worksheet_options(parser, options.seed);
+  if (!problem.isEmpty()) {
+    return refusal(problem);
+  }
+  if (worksheets && parser.isSet(pictures)) {
+    return refusal(QStringLiteral("--pictures goes without --worksheets"));
+  }
+  options.worksheets = worksheets;
   const QStringList files = parser.positionalArguments();
-  if (files.size() > 1 || (!files.isEmpty() && parser.isSet(pictures))) {
+  const bool takes_no_file = worksheets || parser.isSet(pictures);
+  if (files.size() > 1 || (!files.isEmpty() && takes_no_file)) {
     return refusal(QStringLiteral("'%1' is one argument too many").arg(files.back()));
   }
   if (!files.isEmpty()) {

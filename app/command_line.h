@@ -8,13 +8,16 @@
 #include <cstdint>
 #include <optional>
 
+#include "app/worksheet_request.h"
+
 namespace velquon {
 
 /// What the program is started with.
 struct CommandLine {
   std::optional<std::uint32_t> seed;
-  QString file;              ///< absolute path of the event file to open, or empty
-  QString pictures;          ///< absolute path of the folder to leave pictures in, or empty
+  QString file;      ///< absolute path of the event file to open, or empty
+  QString pictures;  ///< absolute path of the folder to leave pictures in, or empty
+  std::optional<WorksheetRequest> worksheets;
   QString display;           ///< the X display to show windows on, or empty for the usual one
   QStringList qt_arguments;  ///< the program's name and the options that are Qt's
 };

@@ -16,6 +16,7 @@
 #include "app/event_documents.h"
 #include "app/pictures.h"
 #include "app/start_file.h"
+#include "app/worksheet_request.h"
 #include "app/x_display.h"
 #include "files/standard_streams.h"
 
@@ -68,6 +69,9 @@ int main(int argc, char** argv) {
   const velquon::ParsedCommandLine parsed = velquon::parse_command_line(arguments);
   if (!parsed.options) {
     return end_with(parsed.message, parsed.status);
+  }
+  if (parsed.options->worksheets) {
+    return velquon::leave_worksheets(*parsed.options->worksheets);
   }
   if (!parsed.options->display.isEmpty()) {
     // For what of the program has its display not from Qt.

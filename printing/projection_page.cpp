@@ -61,13 +61,21 @@ QLineF tape_on_page(const Projector& projector) {
   return {on_page(tape.start), on_page(tape.end)};
 }
 
+QRectF frame_on_page(const ProjectionMapping& mapping) {
+  const ProjectedFrame outline = mapping.frame();
+  return {on_page(outline.lower_left), on_page(outline.upper_right)};
+}
+
 }  // namespace
+
+QRectF projection_frame(const Projector& projector) {
+  return frame_on_page(projector.mappingAt(projection_height));
+}
 
 void paint_projection(QPainter& page, std::span<const PlotPoint> points,
                       const Projector& projector) {
   const ProjectionMapping mapping = projector.mappingAt(projection_height);
-  const ProjectedFrame outline = mapping.frame();
-  const QRectF frame(on_page(outline.lower_left), on_page(outline.upper_right));
+  const QRectF frame = frame_on_page(mapping);
   const std::vector<QRectF> squares = squares_of(points, projector.plane(), mapping);
   const QLineF tape = tape_on_page(projector);
   const auto reaches_header = [](double top) { return top > page_picture.bottom(); };

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QRectF>
 #include <span>
 
 #include "engine/event_record.h"
@@ -16,5 +17,8 @@ namespace velquon {
 /// of one point a point, and the tape while it is laid out. Needs no window.
 void paint_projection(QPainter& page, std::span<const PlotPoint> points,
                       const Projector& projector);
+
+/// Where on a page `paint_projection` draws the chamber's outline, y upwards.
+[[nodiscard]] QRectF projection_frame(const Projector& projector);
 
 }  // namespace velquon

@@ -5,12 +5,10 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <charconv>
-#include <cstdlib>
 #include <string_view>
-#include <type_traits>
 #include <vector>
 
+#include "files/number_in.h"
 #include "files/one_line.h"
 
 namespace velquon {
@@ -41,26 +39,6 @@ constexpr std::uint64_t most_events = 1'000'000'000;
 
 /// More processes than that at a time are one, too.
 constexpr unsigned most_jobs = 1024;
-
-/// The whole text as a number, if it is one. A whole number must fit; a double that is too small is
-/// 0, one that is too large infinite.
-template <typename Number>
-std::optional<Number> number_in(std::string_view text) {
-  if (text.starts_with('+') && !text.starts_with("+-")) {
-    text.remove_prefix(1);
-  }
-  Number number{};
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if constexpr (std::is_same_v<Number, double>) {
-    if (error == std::errc::result_out_of_range && end == text.data() + text.size()) {
-      return std::strtod(std::string(text).c_str(), nullptr);
-    }
-  }
-  if (error != std::errc() || end != text.data() + text.size()) {
-    return std::nullopt;
-  }
-  return number;
-}
 
 std::vector<std::string> type_keys() {
   std::vector<std::string> keys;

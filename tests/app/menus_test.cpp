@@ -48,6 +48,7 @@ const std::vector<TitleCase> titles{
     {{"File", "Export Points…"}, "export_points_item", ""},
     {{"File", "Export Record…"}, "export_record_item", ""},
     {{"File", "Print…"}, "print_item", "Ctrl+P"},
+    {{"File", "Print Worksheets…"}, "worksheets_item", ""},
     {{"File", "Quit"}, "quit_item", "Ctrl+Q"},
     {{"Action", "New Event"}, "new_event_item", "Ctrl+N"},
     {{"Action", "Replay"}, "replay_item", "Ctrl+R"},

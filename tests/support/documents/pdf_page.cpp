@@ -120,10 +120,11 @@ QByteArray unpacked(const QByteArray& stream) {
   return qUncompress(sized + stream);
 }
 
-/// The drawing operators: the one stream of the document that sets a matrix.
-QByteArray page_stream(const QByteArray& document) {
+/// The drawing operators of each page: the streams of the document that set a matrix.
+std::vector<QByteArray> page_streams(const QByteArray& document) {
   const QByteArray opening("stream\n");
   const QByteArray closing("endstream");
+  std::vector<QByteArray> pages;
   for (auto start = document.indexOf(opening); start >= 0;
        start = document.indexOf(opening, start + 1)) {
     const auto begin = start + opening.size();
@@ -134,10 +135,13 @@ QByteArray page_stream(const QByteArray& document) {
     }
     QByteArray bytes = unpacked(document.mid(begin, end - begin));
     if (bytes.contains(" cm\n")) {
-      return bytes;
+      pages.push_back(bytes);
     }
   }
-  throw std::runtime_error("the document has no page");
+  if (pages.empty()) {
+    throw std::runtime_error("the document has no page");
+  }
+  return pages;
 }
 
 QSizeF paper_size(const QByteArray& document) {
@@ -149,11 +153,18 @@ QSizeF paper_size(const QByteArray& document) {
 }  // namespace
 
 PdfPage read_pdf(const QByteArray& document) {
-  PdfPage page;
-  page.paper = paper_size(document);
-  page.operators = page_stream(document).toStdString();
-  PageReader(page).read(page.operators);
-  return page;
+  return read_pdf_pages(document).front();
+}
+
+std::vector<PdfPage> read_pdf_pages(const QByteArray& document) {
+  std::vector<PdfPage> pages;
+  for (const QByteArray& operators : page_streams(document)) {
+    PdfPage& page = pages.emplace_back();
+    page.paper = paper_size(document);
+    page.operators = operators.toStdString();
+    PageReader(page).read(page.operators);
+  }
+  return pages;
 }
 
 std::set<std::string> line_styles_of(const PdfPage& page) {

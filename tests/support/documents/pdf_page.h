@@ -47,8 +47,10 @@ struct PdfPage {
 /// How the page's lines end and meet: each "number J" and "number j" that it sets.
 std::set<std::string> line_styles_of(const PdfPage& page);
 
-/// Reads the drawing of a PDF file as Qt writes it.
+/// Reads the drawing of a PDF file as Qt writes it: that of its first page.
 PdfPage read_pdf(const QByteArray& document);
+/// The same of all its pages.
+std::vector<PdfPage> read_pdf_pages(const QByteArray& document);
 
 /// The title by which a PDF file names itself.
 QString title_of_pdf(const QString& path);

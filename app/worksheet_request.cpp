@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/worksheet_request.h"
+
+#include <QCommandLineParser>
+#include <QGuiApplication>
+#include <array>
+#include <clocale>
+#include <cstdio>
+
+#include "app/command_line.h"
+#include "model/clock.h"
+#include "printing/whole_file.h"
+#include "printing/worksheets.h"
+
+namespace velquon {
+
+namespace {
+
+const QString sheets_key = QStringLiteral("worksheets");
+const QString answers_key = QStringLiteral("answers");
+
+QString text_of(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+ReadWorksheetOptions refused(const QString& reason) {
+  return {std::nullopt, reason};
+}
+
+/// What is wrong with the names of the files; empty when nothing is.
+QString problem_of_names(const QCommandLineParser& parser) {
+  for (const QString& key : {sheets_key, answers_key}) {
+    if (parser.isSet(key) && parser.value(key).isEmpty()) {
+      return QStringLiteral("--%1: no file is named").arg(key);
+    }
+  }
+  return parser.value(sheets_key) == parser.value(answers_key)
+             ? QStringLiteral("--answers: '%1' is the file of the worksheets")
+                   .arg(parser.value(answers_key))
+             : QString();
+}
+
+bool save(const QString& path, const QByteArray& bytes) {
+  const auto reason = write_whole_file(path, bytes);
+  if (reason) {
+    std::fprintf(stderr, "velquon: cannot write %s: %s\n", qPrintable(as_one_line(path)),
+                 qPrintable(*reason));
+  }
+  return !reason;
+}
+
+}  // namespace
+
+QList<QCommandLineOption> worksheet_options() {
+  QList<QCommandLineOption> options{
+      {sheets_key, QStringLiteral("Leave worksheets for a class in a PDF file, and end."),
+       QStringLiteral("FILE.pdf")},
+      {answers_key, QStringLiteral("With --worksheets: leave their answers in a PDF file."),
+       QStringLiteral("FILE.pdf")}};
+  for (const OrderEntry& entry : order_entries()) {
+    options << QCommandLineOption(text_of(entry.key),
+                                  QStringLiteral("With --worksheets: %1.").arg(text_of(entry.help)),
+                                  text_of(entry.placeholder));
+  }
+  return options;
+}
+
+ReadWorksheetOptions read_worksheet_options(const QCommandLineParser& parser,
+                                            std::optional<std::uint32_t> seed) {
+  if (!parser.isSet(sheets_key)) {
+    for (const QCommandLineOption& option : worksheet_options()) {
+      const QString name = option.names().constFirst();
+      if (parser.isSet(name)) {
+        return refused(QStringLiteral("--%1 goes with --worksheets").arg(name));
+      }
+    }
+    return {};
+  }
+  if (const QString problem = problem_of_names(parser); !problem.isEmpty()) {
+    return refused(problem);
+  }
+  WorksheetRequest request{
+      .order = {}, .sheets = parser.value(sheets_key), .answers = parser.value(answers_key)};
+  for (const OrderEntry& entry : order_entries()) {
+    const QString key = text_of(entry.key);
+    if (parser.isSet(key) && !entry.take(request.order, parser.value(key).toStdString())) {
+      return refused(QStringLiteral("--%1: '%2' is not %3")
+                         .arg(key, parser.value(key), text_of(entry.wanted)));
+    }
+  }
+  if (request.order.type == nullptr) {
+    return refused(QStringLiteral("--type is needed with --worksheets"));
+  }
+  request.order.seed = seed.value_or(static_cast<std::uint32_t>(Microseconds()));
+  return {request, {}};
+}
+
+int leave_worksheets(const WorksheetRequest& request) {
+  // Pages are drawn by Qt alone; its platform without a screen has fonts as well.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qunsetenv("QT_QPA_PLATFORMTHEME");
+  qunsetenv("DISPLAY");
+  char name[] = "velquon";
+  std::array<char*, 2> arguments{name, nullptr};
+  int count = 1;
+  const QGuiApplication application(count, arguments.data());
+  // A locale would put a comma into the values.
+  std::setlocale(LC_NUMERIC, "C");
+  const auto documents = make_worksheets(request.order, [](int) { return true; });
+  const bool saved = save(request.sheets, documents->sheets) &&
+                     (request.answers.isEmpty() || save(request.answers, documents->answers));
+  return saved ? 0 : 1;
+}
+
+}  // namespace velquon
