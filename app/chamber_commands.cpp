@@ -35,7 +35,7 @@ void add_actions(Commands& commands, const Ui::Menus& menus, ChamberController& 
        {.item = menus.reset_orientation_item, .run = [&] { view.resetOrientation(); }},
        {.item = menus.print_item,
         .run = [&] { controller.print(); },
-        .is_enabled = [&] { return controller.printView() != nullptr; }}});
+        .is_enabled = [&] { return controller.validateMenuItem(*menus.print_item); }}});
 }
 
 void add_settings(Commands& commands, const Ui::Menus& menus, ChamberController& controller,

@@ -3,6 +3,7 @@
 
 #include "app/chamber_controller.h"
 
+#include <QAction>
 #include <QFileInfo>
 #include <cstdio>
 #include <cstdlib>
@@ -152,7 +153,7 @@ Monitor ChamberController::monitor() const {
 }
 
 void ChamberController::set_axis(int axis) {
-  chamber_view_.setRotationAxis(axis);
+  chamber_view_.setRotationAxis(axis == 1 || axis == 2 ? axis : 3);
 }
 
 void ChamberController::set_slomo() {
@@ -171,6 +172,10 @@ void ChamberController::set_chamber_prefs(ChamberPreference preference) {
       chamber_view_.set_reset_each(!chamber_view_.reset_each());
       break;
   }
+}
+
+bool ChamberController::validateMenuItem(const QAction& item) const {
+  return item.objectName() != QStringLiteral("print_item") || print_view_ != nullptr;
 }
 
 void ChamberController::setPrintView(Printable* view) {

@@ -11,6 +11,8 @@
 #include "engine/event_record.h"
 #include "model/chamber_model.h"
 
+class QAction;
+
 namespace velquon {
 
 class ChamberSettings;
@@ -81,13 +83,15 @@ class ChamberController : public QObject {
   void set_event_type(int type);
   void set_monitor(Monitor monitor);
   [[nodiscard]] Monitor monitor() const;
-  /// \param axis 1 for x, 2 for y, 3 for z
+  /// \param axis 1 for x, 2 for y; any other is z
   void set_axis(int axis);
   /// Switches slow motion on or off.
   void set_slomo();
   /// Switches a preference on or off.
   void set_chamber_prefs(ChamberPreference preference);
 
+  /// Whether an item of this controller may be chosen now.
+  [[nodiscard]] bool validateMenuItem(const QAction& item) const;
   /// The view that is printed; null while neither view's window has the keys.
   [[nodiscard]] Printable* printView() const { return print_view_; }
 

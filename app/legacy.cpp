@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // One operation for each kind of decay, from before the kinds of events stood in a table. Nothing of
-// the program calls them any more; kept because these are operations that others may know and call.
+// the program calls them any more; kept because these are operations that others may know and call. The
+// field is taken as it is, and the particle for the positive one.
 
 #include <algorithm>
 

@@ -58,7 +58,7 @@ class ChamberModel {
   /// Hiding the answers from now on takes back that those of the shown event were asked for.
   void setPreferences(const ChamberPreferences& preferences);
 
-  /// The turntable's choices and motion. Whoever changes them calls `turntableChanged`.
+  /// The turntable's choices and motion. Whoever changes rate or axis calls `turntableChanged`.
   [[nodiscard]] Turntable& turntable() { return turntable_; }
   [[nodiscard]] const Turntable& turntable() const { return turntable_; }
   void turntableChanged() { changed.tell(); }

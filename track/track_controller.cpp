@@ -18,7 +18,7 @@ TrackController::TrackController(TrackModel& model, NewTrackView& view, ValueSli
 void TrackController::awakeFromNib() {
   doMenus(false);
   view_.setSpeed(static_cast<float>(model_.speed()));
-  view_.setCharge(charge_of(TrackParticle::e_minus));
+  view_.setCharge(charge_of(model_.particle()));
   view_.setDirection(number_of(model_.direction()));
   window_.setAttribute(Qt::WA_DeleteOnClose, false);
   slider_->setFloatValue(0.0F);

@@ -3,6 +3,7 @@
 
 // The track window in the whole program: how it is reached and left, and what its menu sets.
 
+#include <QApplication>
 #include <QMenu>
 #include <QTest>
 #include <QTimer>
@@ -53,6 +54,17 @@ struct TitleCase {
 };
 
 }  // namespace
+
+TEST_F(TrackWindowTest, IsMadeWhenItIsFirstWanted) {
+  const auto made = [] {
+    return std::ranges::count_if(QApplication::topLevelWidgets(), [](const QWidget* widget) {
+      return qobject_cast<const TrackWindow*>(widget) != nullptr;
+    });
+  };
+  EXPECT_EQ(made(), 0);
+  activateTrack();
+  EXPECT_EQ(made(), 1);
+}
 
 TEST_F(TrackWindowTest, ItemsAreFoundByTheirTitlesInEveryWindow) {
   constexpr std::array cases{TitleCase{"Track/Activate", "activate_item", "Ctrl+K"},

@@ -65,11 +65,9 @@ def preprocesses(folder, source, commands, source_folder):
 
 def is_as_wanted(folder, header, wanted, commands, source_folder):
     """Whether a source of the folder finds a header, or does not, as wanted."""
-    if wanted:
-        # It is not read: what it includes in turn takes its time.
-        source = f'#if !__has_include("{header}")\n#error\n#endif\n'
-        return preprocesses(folder, source, commands, source_folder)
-    return not preprocesses(folder, f'#include "{header}"\n', commands, source_folder)
+    # The header is not read: what it includes in turn may take its time, or not be found.
+    source = f'#if !__has_include("{header}")\n#error\n#endif\n'
+    return preprocesses(folder, source, commands, source_folder) == wanted
 
 
 def main():
