@@ -42,7 +42,8 @@ std::vector<EventTracks> seeded_events(const EventType& type, const ChamberValue
   events.reserve(count);
   TrackBuffer buffer;
   for (std::size_t i = 0; i < count; ++i) {
-    EventTracks event{.points = {}, .type = type_index, .record = ParticleRecord()};
+    EventTracks event{
+        .points = {}, .type = type_index, .values = values, .record = ParticleRecord()};
     if (make_event(type, values, buffer, &*event.record) == HandOver::yes) {
       const auto points = buffer.points();
       event.points.assign(points.begin(), points.end());

@@ -17,9 +17,9 @@
 #include <QTest>
 #include <cstdlib>
 
-#include "tests/support/windows/application_fixture.h"
 #include "tests/support/documents/modal.h"
 #include "tests/support/documents/pdf_page.h"
+#include "tests/support/windows/application_fixture.h"
 
 namespace velquon::test {
 
