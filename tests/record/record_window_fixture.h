@@ -50,7 +50,7 @@ class RecordWindowFixture : public DocumentsFixture {
 /// Values at which particles decay within the chamber.
 inline constexpr ChamberValues lively{.B_field = 2.0F, .sides_cm = 500.0F, .kinetic_Mev = 40.0F};
 
-/// Values at which a pion's muon curls within the chamber and often decays there.
-inline constexpr ChamberValues curling{.B_field = 6.0F, .sides_cm = 1000.0F, .kinetic_Mev = 5.0F};
+/// Values at which a pion and its muon leave long tracks.
+inline constexpr ChamberValues slow{.B_field = 0.6F, .sides_cm = 500.0F, .kinetic_Mev = 0.4F};
 
 }  // namespace velquon::test

@@ -162,14 +162,13 @@ TEST_F(RecordWindowTest, EveryRowIsSeenAtOnce) {
 
 TEST_F(RecordWindowTest, HiddenAnswersLeaveTheColorsOfTheTracks) {
   openRecord();
-  newEventUntil(negative_pion, curling,
-                [](const ShownEvent& shown) { return visible_tracks(shown.points()).size() == 3; });
+  newEventUntil(negative_pion, slow,
+                [](const ShownEvent& shown) { return visible_tracks(shown.points()).size() == 2; });
   EXPECT_FALSE(hideBox().isChecked());
   EXPECT_FALSE(revealButton().isEnabled());
   QTest::mouseClick(&hideBox(), Qt::LeftButton, {}, QPoint(8, hideBox().height() / 2));
   EXPECT_EQ(titles(), QStringList{QStringLiteral("Track")});
-  EXPECT_EQ(texts(), (QStringList{QStringLiteral("Red"), QStringLiteral("Yellow"),
-                                  QStringLiteral("Green")}));
+  EXPECT_EQ(texts(), (QStringList{QStringLiteral("Red"), QStringLiteral("Yellow")}));
   EXPECT_FALSE(message().contains(QRegularExpression(QStringLiteral("[0-9]"))));
   QTest::mouseClick(&revealButton(), Qt::LeftButton);
   expectRowsOfTheRecord();
