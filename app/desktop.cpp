@@ -18,9 +18,9 @@ namespace velquon {
 void prepare_desktop() {
   // GLUT needs X, so on a Wayland desktop the windows go through its X server.
   qputenv("QT_QPA_PLATFORM", "xcb");
-  // Nothing is kept between runs, no compiled shaders either.
+  // The program keeps nothing between runs, no compiled shaders either. What the graphics driver keeps of
+  // its own, as for every program that draws, is left to it: without it a start takes twice as long.
   QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
-  qputenv("MESA_SHADER_CACHE_DISABLE", "true");
   use_compatibility_contexts();
 }
 
