@@ -40,8 +40,8 @@ constexpr int counting_time = 3000;      // milliseconds
 void turn(benchmark::State& state, Application& application) {
   ChamberView& view = *application.chamberWindow().view();
   const Ui::Menus& items = application.menus().items();
-  view.setData(points_on_tracks(static_cast<int>(state.range())));
-  view.setHasEvent(true);
+  application.model().showTracks(points_on_tracks(static_cast<int>(state.range())));
+  application.model().setHasEvent();
   items.rotate_faster_item->trigger();
   items.rotate_item->trigger();
   run_event_loop(settling_time);
