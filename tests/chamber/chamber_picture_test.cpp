@@ -30,7 +30,7 @@ class ChamberPictureTest : public ApplicationFixture {
 
   /// A place on the line from the middle of the chamber to the eye.
   [[nodiscard]] Place onTheWayToTheEye(double part) const {
-    const Matrix& view = camera_.model_view;
+    const Matrix& view = camera_.modelView();
     Place place{};
     for (std::size_t axis = 0; axis < place.size(); ++axis) {
       for (std::size_t row = 0; row < place.size(); ++row) {

@@ -6,28 +6,21 @@
 #include <QPointF>
 #include <array>
 
+#include "render/camera.h"
+
 namespace velquon::test {
 
-/// Four rows of four, applied to columns.
-using Matrix = std::array<std::array<double, 4>, 4>;
 using Place = std::array<double, 3>;
 
-Matrix operator*(const Matrix& left, const Matrix& right);
+inline constexpr Place along_x = velquon::along_x;
+inline constexpr Place along_y = velquon::along_y;
+inline constexpr Place along_z = velquon::along_z;
 
-Matrix translation(const Place& by);
-/// A turn about an axis of length 1.
-Matrix rotation(double degrees, const Place& axis);
-Matrix perspective(double degrees_up, double aspect, double near_plane, double far_plane);
-Matrix look_at(const Place& eye, const Place& centre, const Place& up);
-
-inline constexpr Place along_x{1.0, 0.0, 0.0};
-inline constexpr Place along_y{0.0, 1.0, 0.0};
-inline constexpr Place along_z{0.0, 0.0, 1.0};
-
-/// The chamber view's projection and viewpoint, built up from the numbers they are made of.
-struct Camera {
-  Matrix projection;
-  Matrix model_view;
+/// The chamber's camera, which has tests of its own against OpenGL's matrices, with pixels counted as
+/// pictures count them.
+class Camera {
+ public:
+  explicit Camera(const velquon::Camera& camera) : camera_(camera) {}
 
   /// A place in the picture of 682 by 500 pixels, from its top left corner.
   [[nodiscard]] QPointF pixel(const Place& place) const;
@@ -35,6 +28,11 @@ struct Camera {
   [[nodiscard]] Camera turned(double degrees, const Place& axis) const;
   /// The same camera with the picture scrolled.
   [[nodiscard]] Camera scrolled(QPointF origin) const;
+
+  [[nodiscard]] const Matrix& modelView() const { return camera_.modelView(); }
+
+ private:
+  velquon::Camera camera_;
 };
 
 /// The viewpoint at rest.
