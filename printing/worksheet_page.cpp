@@ -23,13 +23,6 @@ namespace velquon {
 namespace {
 
 // Points. Heights count from the upper margin downwards.
-constexpr int text_size = 11;
-constexpr int small_text_size = 9;
-constexpr int title_size = 16;
-constexpr double thin_line = 0.5;
-constexpr double title_depth = 14.0;
-constexpr double kind_depth = 36.0;
-constexpr double values_depth = 52.0;
 constexpr double field_depth = 68.0;
 constexpr double frame_depth = 80.0;
 constexpr double ruler_gap = 8.0;

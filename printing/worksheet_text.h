@@ -10,6 +10,16 @@ class QString;
 
 namespace velquon {
 
+// What worksheets and answer keys have in common: sizes and depths in points, depths from the upper
+// margin downwards.
+inline constexpr int text_size = 11;
+inline constexpr int small_text_size = 9;
+inline constexpr int title_size = 16;
+inline constexpr double thin_line = 0.5;
+inline constexpr double title_depth = 14.0;
+inline constexpr double kind_depth = 36.0;
+inline constexpr double values_depth = 52.0;
+
 enum class TextWeight : bool { normal = false, bold = true };
 
 /// Sets the size in which a page's texts are written, points.
