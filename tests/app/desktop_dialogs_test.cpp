@@ -374,8 +374,9 @@ TEST(DesktopDialogs, KeepNothingBetweenRuns) {
   for (QDirIterator entry(home.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
        entry.hasNext();) {
     const QString name = QDir(home.path()).relativeFilePath(entry.next());
-    // Fontconfig keeps what it knows of the fonts, for any program.
-    if (!name.startsWith(QStringLiteral("cache/fontconfig/"))) {
+    // What fontconfig knows of the fonts and Mesa's compiled shaders are kept for any program.
+    if (!name.startsWith(QStringLiteral("cache/fontconfig/")) &&
+        !name.startsWith(QStringLiteral("cache/mesa_shader_cache"))) {
       left << name;
     }
   }
