@@ -3,11 +3,8 @@
 
 #include "app/desktop.h"
 
-#include <GL/freeglut.h>
-
 #include <QApplication>
 #include <QIcon>
-#include <array>
 #include <clocale>
 
 #include "widgets/accessible_value_slider.h"
@@ -22,14 +19,6 @@ void prepare_desktop() {
   // its own, as for every program that draws, is left to it: without it a start takes twice as long.
   QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
   use_compatibility_contexts();
-}
-
-void start_glut() {
-  // The options that GLUT knows are not for the user.
-  char name[] = "velquon";
-  std::array<char*, 2> arguments{name, nullptr};
-  int count = 1;
-  glutInit(&count, arguments.data());
 }
 
 void finish_desktop() {

@@ -8,11 +8,6 @@ namespace velquon {
 /// Chooses the windowing system and the kind of OpenGL context. Before the application object.
 void prepare_desktop();
 
-/// Starts GLUT, which the views need before they draw. It ends the program where there is no X
-/// display with OpenGL. After the application object: both change the locale and read the
-/// environment.
-void start_glut();
-
 /// Settles what the application object has changed or left open: the decimal point of numbers in C,
 /// the icon, and what screen readers see of the program's own controls.
 void finish_desktop();

@@ -89,7 +89,6 @@ int main(int argc, char** argv) {
             .arg(platform),
         1);
   }
-  velquon::start_glut();
   velquon::finish_desktop();
   velquon::DesktopDialogs dialogs;
   velquon::Application application(parsed.options->seed, dialogs);

@@ -147,7 +147,6 @@ int run(int argc, char** argv) {
   }
   prepare_desktop();
   const QApplication qt_application(argc, argv);
-  start_glut();
   finish_desktop();
   DesktopDialogs dialogs;
   Application application(1, dialogs);

@@ -7,9 +7,11 @@
 #include <GL/glu.h>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "printing/projection_page.h"
+#include "render/line_arrays.h"
 
 namespace velquon {
 
@@ -23,12 +25,11 @@ void draw_dotted_frame(const ProjectedFrame& frame, int dot) {
   const auto& [low, high] = frame;
   glEnable(GL_LINE_STIPPLE);
   glLineStipple(dot, 0xAAAA);
-  glBegin(GL_LINE_LOOP);
-  glVertex2d(low.x, low.y);
-  glVertex2d(high.x, low.y);
-  glVertex2d(high.x, high.y);
-  glVertex2d(low.x, high.y);
-  glEnd();
+  const auto corner = [](double x, double y) {
+    return Corner{static_cast<float>(x), static_cast<float>(y), 0.0F};
+  };
+  draw_line_loop(std::array{corner(low.x, low.y), corner(high.x, low.y), corner(high.x, high.y),
+                            corner(low.x, high.y)});
   glDisable(GL_LINE_STIPPLE);
 }
 

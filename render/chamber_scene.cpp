@@ -8,31 +8,22 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
 
 #include "engine/chamber_values.h"
+#include "render/glut_start.h"
+#include "render/line_arrays.h"
 #include "render/track_colors.h"
 
 namespace velquon {
 
 namespace {
 
-using Corner = std::array<float, 3>;
-
 constexpr auto half_side = static_cast<float>(CHAMBER_SIDE / 2.0);
 
-/// As an array, which is how GLUT draws its cube: a software renderer makes a program for each kind
-/// of vertices it meets, and that takes its time when the view comes up.
-void draw_line_strip(std::span<const Corner> corners, const Color& color) {
-  glColor3fv(color.data());
-  glPushClientAttrib(GL_CLIENT_VERTEX_ARRAY_BIT);
-  glEnableClientState(GL_VERTEX_ARRAY);
-  glVertexPointer(3, GL_FLOAT, 0, corners.data());
-  glDrawArrays(GL_LINE_STRIP, 0, static_cast<GLsizei>(corners.size()));
-  glPopClientAttrib();
-}
-
 void draw_axis(const Corner& tip, const Color& color) {
-  draw_line_strip(std::array<Corner, 2>{{{0.0F, 0.0F, 0.0F}, tip}}, color);
+  glColor3fv(color.data());
+  draw_line_strip(std::array<Corner, 2>{{{0.0F, 0.0F, 0.0F}, tip}});
 }
 
 void draw_middle_plane() {
@@ -41,15 +32,17 @@ void draw_middle_plane() {
                                            {-half_side, half_side, 0.0F},
                                            {-half_side, -half_side, 0.0F},
                                            {half_side, -half_side, 0.0F}}};
-  draw_line_strip(corners, {0.6F, 0.2F, 0.2F});
+  glColor3f(0.6F, 0.2F, 0.2F);
+  draw_line_strip(corners);
 }
 
 /// The wire cube, the axes if wanted, and the outline of the middle plane.
-void draw_chamber(bool with_axes) {
+/// \param wire_cube draws the edges of the chamber
+void draw_chamber(bool with_axes, const std::function<void()>& wire_cube) {
   constexpr Color white{1.0F, 1.0F, 1.0F};
   constexpr Color green{0.0F, 0.737F, 0.0F};
   glColor3f(0.2F, 0.804F, 1.0F);
-  glutWireCube(CHAMBER_SIDE);
+  wire_cube();
   if (with_axes) {
     draw_axis({half_side, 0.0F, 0.0F}, white);
     draw_axis({0.0F, half_side, 0.0F}, white);
@@ -73,7 +66,7 @@ void ChamberScene::draw(const Camera& camera, double scale, std::size_t points,
   glClear(GL_COLOR_BUFFER_BIT);
   glLineWidth(static_cast<float>(scale));
   camera.load();
-  draw_chamber(options.axes);
+  draw_chamber(options.axes, [] { draw_wire_cube(static_cast<float>(CHAMBER_SIDE)); });
   cubes_.draw(points, camera.eye());
   drawMarked(options.marked, points, camera.eye());
   if (!options.values.empty()) {
@@ -97,15 +90,17 @@ void ChamberScene::drawMarked(std::span<const std::size_t> marked, std::size_t p
 
 std::optional<FeedbackPicture> ChamberScene::drawForPrinting(const Camera& camera,
                                                              bool axes) const {
+  need_glut();
   glViewport(0, 0, chamber_width, chamber_height);
   camera.load();
   return draw_into_feedback(static_cast<int>(points_.size()), [&] {
-    draw_chamber(axes);
+    draw_chamber(axes, [] { glutWireCube(CHAMBER_SIDE); });
     draw_solid_cubes(points_, paper_cube_side, true);
   });
 }
 
 void draw_solid_cubes(std::span<const PlotPoint> points, float side, bool mark_cubes) {
+  need_glut();
   glMatrixMode(GL_MODELVIEW);
   for (const PlotPoint& point : points) {
     glPushMatrix();

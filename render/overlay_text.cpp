@@ -12,6 +12,8 @@
 #include <array>
 #include <numeric>
 
+#include "render/glut_start.h"
+
 namespace velquon {
 
 namespace {
@@ -69,6 +71,7 @@ QImage picture_of_line(const std::string& text) {
 }  // namespace
 
 void OverlayText::draw(const std::string& text, double ratio, const Camera& camera) {
+  need_glut();
   if (ratio != 1.0 && (text != text_ || ratio != ratio_)) {
     magnify(text, ratio);
   }

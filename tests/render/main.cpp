@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <GL/freeglut.h>
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
@@ -17,7 +16,6 @@ int main(int argc, char** argv) {
   format.setProfile(QSurfaceFormat::NoProfile);
   QSurfaceFormat::setDefaultFormat(format);
   const QGuiApplication application(argc, argv);
-  glutInit(&argc, argv);
   const int result = RUN_ALL_TESTS();
   velquon::testing::look_for_leaks();
   return result;

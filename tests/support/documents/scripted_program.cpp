@@ -83,7 +83,6 @@ int run(const QStringList& arguments) {
 int main(int argc, char** argv) {
   velquon::prepare_desktop();
   const QApplication qt_application(argc, argv);
-  velquon::start_glut();
   velquon::finish_desktop();
   return velquon::test::run(QApplication::arguments());
 }

@@ -20,7 +20,6 @@ int main(int argc, char** argv) {
   }
   velquon::prepare_desktop();
   const QApplication qt_application(argc, argv);
-  velquon::start_glut();
   velquon::finish_desktop();
   int result = RUN_ALL_TESTS();
   if (testing::UnitTest::GetInstance()->test_to_run_count() == 0 &&
