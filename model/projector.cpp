@@ -75,6 +75,13 @@ double Projector::tapeLength() const {
   return tape_.length() * scaler_ / static_cast<double>(zoom_);
 }
 
+std::vector<Reading> Projector::readings() const {
+  if (tool_ != ProjectorTool::tape || !tape_.visible) {
+    return {};
+  }
+  return {{.quantity = Quantity::length, .value = reading_}};
+}
+
 void Projector::setViewHeight(double height) {
   const Place moved{0.0, height - view_height_};
   view_height_ = height;

@@ -4,9 +4,11 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "model/listeners.h"
 #include "model/projection_mapping.h"
+#include "model/reading.h"
 #include "model/tape.h"
 
 namespace velquon {
@@ -57,6 +59,9 @@ class Projector {
   [[nodiscard]] double tapeLength() const;
   /// What the tape reads, cm; 0 while it is hidden.
   [[nodiscard]] double reading() const { return reading_; }
+
+  /// What the chosen tool reads of what is laid out; empty while nothing is.
+  [[nodiscard]] std::vector<Reading> readings() const;
 
   /// The picture hangs from the top of the view: with another height of the view tape and grab stay
   /// on what they are at.
