@@ -56,7 +56,7 @@ void RecordWindow::layOut() {
   setTabOrder(tree_, hide_box_);
   setTabOrder(hide_box_, reveal_button_);
   tree_->setFocus();
-  constexpr QSize window_size(1000, 340);
+  constexpr QSize window_size(1140, 340);  // all columns
   resize(window_size);
 }
 
