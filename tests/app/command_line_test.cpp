@@ -347,7 +347,7 @@ TEST_F(PicturesTest, AnOutputThatIsClosedEndsTheProgramWithOneLine) {
 }
 
 TEST_F(PicturesTest, ThatDoNotFitOnTheDiskAreNamedAndNotLeftByHalves) {
-  const velquon::testing::FileSizeLimit limit(3000);
+  const velquon::test::FileSizeLimit limit(3000);
   const Ending ending = leavePictures();
   EXPECT_EQ(ending.status, 1);
   EXPECT_TRUE(ending.errors.contains(QStringLiteral("velquon: cannot write ")))

@@ -143,12 +143,12 @@ TEST_F(NewEventTest, AnEventThatIsNotHandedOverLeavesThePointsAndRefreshesTheRes
   choose("muplus_item");
   const int chamber_passes = chamber().passes();
   const int projection_passes = projection().passes();
-  using velquon::testing::draw_of;
-  using velquon::testing::highest_draw;
-  using velquon::testing::lowest_draw;
+  using velquon::test::draw_of;
+  using velquon::test::highest_draw;
+  using velquon::test::lowest_draw;
   // The muon's second step ends it, the electron goes straight ahead, and its second step ends it,
   // which practically never happens: the last particle of a chain is stable.
-  const velquon::testing::ScriptedRand script({lowest_draw, highest_draw, draw_of(0.5),
+  const velquon::test::ScriptedRand script({lowest_draw, highest_draw, draw_of(0.5),
                                                highest_draw, lowest_draw, lowest_draw, lowest_draw,
                                                highest_draw});
   choose("new_event_item");

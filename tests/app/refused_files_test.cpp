@@ -201,7 +201,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(RefusedFileTest, AFileThatMayNotBeReadIsLeftWithoutAWord) {
   const QString file = write(QStringLiteral("secret.cwd"), event_file(spiral(3)));
   ASSERT_TRUE(QFile::setPermissions(file, QFile::Permissions()));
-  const int faults = velquon::testing::with_plain_rights([&] {
+  const int faults = velquon::test::with_plain_rights([&] {
     const bool is_shown = documents().readAndDisplayFile(file);
     const bool is_told = !dialogs().alerts.empty();
     const bool is_changed =

@@ -48,7 +48,7 @@ TEST_P(FullDiskTest, LeavesTheOldFileAndNoOther) {
   controller().setChamberData(spiral(GetParam()));
   const QByteArray before = read(file);
   {
-    const velquon::testing::FileSizeLimit limit(1000);
+    const velquon::test::FileSizeLimit limit(1000);
     expectFailure(file, "File too large");
   }
   EXPECT_EQ(read(file), before);
@@ -58,7 +58,7 @@ TEST_P(FullDiskTest, LeavesTheOldFileAndNoOther) {
 TEST_P(FullDiskTest, LeavesNothingOfANewFile) {
   controller().setChamberData(spiral(GetParam()));
   {
-    const velquon::testing::FileSizeLimit limit(1000);
+    const velquon::test::FileSizeLimit limit(1000);
     expectFailure(path(QStringLiteral("new.cwd")), "File too large");
   }
   EXPECT_TRUE(filesInFolder().isEmpty());
@@ -89,7 +89,7 @@ TEST_F(SaveFailureTest, AFolderThatMayNotBeWritten) {
   const QString file = write(QStringLiteral("a.cwd"), "old");
   const QFile::Permissions rights = QFile::permissions(folder());
   ASSERT_TRUE(QFile::setPermissions(folder(), QFile::ReadOwner | QFile::ExeOwner));
-  const int told = velquon::testing::with_plain_rights([&] {
+  const int told = velquon::test::with_plain_rights([&] {
     dialogs().answer = file;
     choose("save_item");
     return dialogs().alerts == std::vector{not_saved(file, "Permission denied")} ? 1 : 0;
@@ -102,7 +102,7 @@ TEST_F(SaveFailureTest, AFolderThatMayNotBeWritten) {
 /// A call of the system that fails, and the reason as it is told.
 struct FailingCall {
   std::string name;
-  std::vector<velquon::testing::CallFault> faults;
+  std::vector<velquon::test::CallFault> faults;
   const char* reason;
 };
 class FailingDiskTest : public SaveFailureTest,
@@ -113,7 +113,7 @@ TEST_P(FailingDiskTest, LeavesTheOldFileAndNoOther) {
   const QByteArray before = read(file);
   controller().setChamberData(spiral(50));
   {
-    const velquon::testing::CallFaultsInForce faults(GetParam().faults);
+    const velquon::test::CallFaultsInForce faults(GetParam().faults);
     expectFailure(file, GetParam().reason);
   }
   EXPECT_EQ(read(file), before);
@@ -129,7 +129,7 @@ INSTANTIATE_TEST_SUITE_P(
         FailingCall{"SyncQuota", {{.call = "fsync", .error = EDQUOT}}, "Disk quota exceeded"},
         FailingCall{"WriteEio", {{.call = "write", .error = EIO}}, "Input/output error"},
         FailingCall{"Rename", {{.call = "renameat", .error = EIO}}, "Input/output error"}),
-    velquon::testing::case_name<FailingCall>);
+    velquon::test::case_name<FailingCall>);
 
 TEST_F(SaveFailureTest, APipeInPlaceOfTheFile) {
   makeEvent(0);

@@ -19,11 +19,11 @@
 namespace velquon {
 namespace {
 
-using testing::highest_draw;
-using testing::lowest_draw;
-using testing::moving;
-using testing::ScriptedRand;
-using testing::usual_scale;
+using test::highest_draw;
+using test::lowest_draw;
+using test::moving;
+using test::ScriptedRand;
+using test::usual_scale;
 
 constexpr double bound = 404.0;
 constexpr double step = 20.0;
@@ -34,7 +34,7 @@ struct Track {
   TrackEnd end = TrackEnd::stopped;
 
   [[nodiscard]] std::vector<std::int16_t> codes() const {
-    return testing::codes_of(std::span(slots).first(static_cast<std::size_t>(count)));
+    return test::codes_of(std::span(slots).first(static_cast<std::size_t>(count)));
   }
 };
 
@@ -80,7 +80,7 @@ class ChargedTrack : public ::testing::TestWithParam<WalkerCase> {
 INSTANTIATE_TEST_SUITE_P(Walks, ChargedTrack,
                          ::testing::Values(WalkerCase{"Helix", walk_helix},
                                            WalkerCase{"Line", walk_line}),
-                         testing::case_name<WalkerCase>);
+                         test::case_name<WalkerCase>);
 
 TEST_P(ChargedTrack, WithTheCountAt350WritesNothingAndStops) {
   const ScriptedRand script({});
@@ -127,7 +127,7 @@ TEST_P(ChargedTrack, TheEndPointTakesTheLastSlot) {
 }
 
 TEST_P(ChargedTrack, WithoutAChanceToSurviveDecaysAtOnceWithoutADraw) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   ParticleState particle = central_muon();
   particle.decay_length = 1e-4;  // exp(-10^6) is 0
   const ScriptedRand script({});
@@ -135,9 +135,9 @@ TEST_P(ChargedTrack, WithoutAChanceToSurviveDecaysAtOnceWithoutADraw) {
   EXPECT_EQ(track.end, TrackEnd::decayed);
   EXPECT_EQ(track.codes(), (std::vector<std::int16_t>{4}));
   // One step from the start on either walk; the chord of an arc of 20 units is a little shorter.
-  const auto where = testing::difference(testing::position_of(track.slots[0]), particle.position);
-  EXPECT_LE(testing::length(where), step + 1e-9);
-  EXPECT_GT(testing::length(where), 5.0);
+  const auto where = test::difference(test::position_of(track.slots[0]), particle.position);
+  EXPECT_LE(test::length(where), step + 1e-9);
+  EXPECT_GT(test::length(where), 5.0);
 }
 
 TEST_P(ChargedTrack, ASurvivalThatIsNotANumberDecaysAtOnceToo) {
@@ -159,7 +159,7 @@ TEST_P(ChargedTrack, WithoutAChanceToSurviveAndWithoutRoomItStops) {
 }
 
 TEST_P(ChargedTrack, AStableParticleRunsToTheWallOrTheLimit) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   std::srand(51);
   ParticleState particle = central_muon();
   particle.decay_length = stable_decay_length;

@@ -20,8 +20,8 @@
 namespace velquon {
 namespace {
 
-using testing::moving;
-using testing::usual_scale;
+using test::moving;
+using test::usual_scale;
 
 constexpr double no_wall = 1e9;
 constexpr double step = 20.0;
@@ -60,7 +60,7 @@ struct LawCase {
 class DecayLength : public ::testing::TestWithParam<LawCase> {};
 
 TEST_P(DecayLength, OfAPionIsExponentialAndDilatedByItsMomentum) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   const LawCase& law = GetParam();
   std::srand(61);
   const ParticleState particle = moving(pion, {0.0, 139.6 * law.momentum_per_mass, 0.0});
@@ -82,7 +82,7 @@ TEST_P(DecayLength, OfAPionIsExponentialAndDilatedByItsMomentum) {
   for (std::size_t bin = 0; bin < bins; ++bin) {
     expected[bin] = tracks * (longer_than(bin) - (bin + 1 < bins ? longer_than(bin + 1) : 0.0));
   }
-  EXPECT_LT(testing::chi_square(counted, expected), testing::critical_chi_square(bins - 1.0));
+  EXPECT_LT(test::chi_square(counted, expected), test::critical_chi_square(bins - 1.0));
 }
 
 INSTANTIATE_TEST_SUITE_P(Walks, DecayLength,
@@ -90,7 +90,7 @@ INSTANTIATE_TEST_SUITE_P(Walks, DecayLength,
                                            LawCase{"FastOnAHelix", steps_on_helix, 1.5},
                                            LawCase{"SlowOnALine", steps_on_line, 0.2},
                                            LawCase{"FastOnALine", steps_on_line, 1.5}),
-                         testing::case_name<LawCase>);
+                         test::case_name<LawCase>);
 
 }  // namespace
 }  // namespace velquon

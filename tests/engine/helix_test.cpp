@@ -18,12 +18,12 @@
 namespace velquon {
 namespace {
 
-using testing::highest_draw;
-using testing::lowest_draw;
-using testing::moving;
-using testing::position_of;
-using testing::ScriptedRand;
-using testing::usual_scale;
+using test::highest_draw;
+using test::lowest_draw;
+using test::moving;
+using test::position_of;
+using test::ScriptedRand;
+using test::usual_scale;
 
 constexpr double bound = 404.0;
 constexpr double step = 20.0;
@@ -91,7 +91,7 @@ TEST(SetUpPath, AMasslessParticleAlwaysSurvives) {
 }
 
 TEST(SetUpPath, TheCircleStartsAtThePositionAlongTheMomentum) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   std::srand(31);
   for (int i = 0; i < 1000; ++i) {
     const Vector3 momentum{my_rand(-90, 90), my_rand(-90, 90), my_rand(-90, 90)};
@@ -212,7 +212,7 @@ TEST(PathCalculation, TheEndPointMayLieBeyondTheWall) {
 }
 
 TEST(PathCalculation, ATinyFieldGivesAHelixOfEnormousRadiusThatRunsNearlyStraight) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   ParticleState particle = moving(muon, {0.0, 100.0, 0.0}, {0.0, -400.0, 0.0});
   Helix helix = helix_of(particle, 1e-6);
   EXPECT_GT(helix.path.radius, 1e8);
@@ -242,7 +242,7 @@ TEST(PathCalculation, MovingInThePlaneKeepsZAtExactly0) {
 }
 
 TEST(PathCalculation, EveryPointLiesOnTheCircleOneChordFromTheLast) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   std::srand(32);
   for (int i = 0; i < 300; ++i) {
     ParticleState particle =

@@ -50,7 +50,7 @@ TEST(ToTheLab, AgainstZMirrorsTheSecondAcrossComponent) {
 }
 
 TEST(ToTheLab, TheAcrossComponentsLieAgainstThePolarAndAzimuthalUnitVectors) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   std::srand(11);
   for (int i = 0; i < 2000; ++i) {
     const Vector3 direction = random_vector(100.0);
@@ -64,7 +64,7 @@ TEST(ToTheLab, TheAcrossComponentsLieAgainstThePolarAndAzimuthalUnitVectors) {
     to_the_lab(direction, out, along, across_1, across_2);
     Vector3 expected{};
     for (std::size_t axis = 0; axis < 3; ++axis) {
-      expected[axis] = along * direction[axis] / testing::length(direction) -
+      expected[axis] = along * direction[axis] / test::length(direction) -
                        across_2 * polar[axis] - across_1 * azimuthal[axis];
     }
     expect_near(out, expected, 1e-11);
@@ -72,15 +72,15 @@ TEST(ToTheLab, TheAcrossComponentsLieAgainstThePolarAndAzimuthalUnitVectors) {
 }
 
 TEST(ToTheLab, IsAPureRotation) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   std::srand(12);
   for (int i = 0; i < 2000; ++i) {
     const Vector3 direction = random_vector(1.0);
     const Vector3 components = random_vector(30.0);
     Vector3 out{};
     to_the_lab(direction, out, components[0], components[1], components[2]);
-    EXPECT_NEAR(testing::length(out), testing::length(components), 1e-12);
-    EXPECT_NEAR(testing::scalar(out, direction) / testing::length(direction), components[0], 1e-11);
+    EXPECT_NEAR(test::length(out), test::length(components), 1e-12);
+    EXPECT_NEAR(test::scalar(out, direction) / test::length(direction), components[0], 1e-11);
   }
 }
 

@@ -18,12 +18,12 @@
 namespace velquon {
 namespace {
 
-using testing::draw_of;
-using testing::highest_draw;
-using testing::lowest_draw;
-using testing::moving;
-using testing::ScriptedRand;
-using testing::usual_scale;
+using test::draw_of;
+using test::highest_draw;
+using test::lowest_draw;
+using test::moving;
+using test::ScriptedRand;
+using test::usual_scale;
 
 constexpr double bound = 400.0;
 
@@ -110,7 +110,7 @@ TEST(NeutralPath, WithoutMassItDecaysWhereItIsWithoutADraw) {
 }
 
 TEST(NeutralPath, VerticesFallOnMultiplesOfAFifthOfTheMeanWithAGeometricLaw) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   std::srand(21);
   constexpr int walks = 40000;
   constexpr std::size_t bins = 20;
@@ -130,7 +130,7 @@ TEST(NeutralPath, VerticesFallOnMultiplesOfAFifthOfTheMeanWithAGeometricLaw) {
   for (std::size_t k = 0; k < bins; ++k) {
     expected[k] = walks * std::pow(s, static_cast<double>(k)) * (k + 1 < bins ? 1.0 - s : 1.0);
   }
-  EXPECT_LT(testing::chi_square(counted, expected), testing::critical_chi_square(bins - 1.0));
+  EXPECT_LT(test::chi_square(counted, expected), test::critical_chi_square(bins - 1.0));
 }
 
 ParticleState photon_of(double energy, const Vector3& position = {}) {
@@ -177,7 +177,7 @@ TEST(GammaPath, AnEnergyThatIsNotANumberDoesNotStopIt) {
 }
 
 TEST(GammaPath, WalksAlongTheMomentum) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   const Vector3 momentum{10.0, -20.0, 20.0};
   ParticleState particle = moving(photon, momentum);
   const ScriptedRand script({highest_draw});
@@ -188,7 +188,7 @@ TEST(GammaPath, WalksAlongTheMomentum) {
 }
 
 TEST(GammaPath, TheMeanNumberOfStepsIsThatOfItsFixedSurvival) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   std::srand(22);
   constexpr int walks = 50000;
   double steps = 0.0;
@@ -200,7 +200,7 @@ TEST(GammaPath, TheMeanNumberOfStepsIsThatOfItsFixedSurvival) {
   // A geometric law from 1 has the mean 1 / (1 - s) and the variance s / (1 - s)^2.
   const double s = std::exp(-0.15);
   const double spread = std::sqrt(s / walks) / (1.0 - s);
-  EXPECT_LT(std::fabs(steps / walks - 1.0 / (1.0 - s)) / spread, testing::critical_z);
+  EXPECT_LT(std::fabs(steps / walks - 1.0 / (1.0 - s)) / spread, test::critical_z);
 }
 
 }  // namespace

@@ -74,7 +74,7 @@ INSTANTIATE_TEST_SUITE_P(
                       WallCase{"NotANumberIsInside", 404.0, not_a_number, false},
                       WallCase{"BoundBetweenWholeNumbersKeepsTheNextOneOut", 404.5, 405.0, true},
                       WallCase{"BoundBetweenWholeNumbersLetsFractionsIn", 404.5, 404.9, false}),
-    testing::case_name<WallCase>);
+    test::case_name<WallCase>);
 
 TEST(EventRecord, AnEventHasRoomFor350Points) {
   const TrackBuffer event;
@@ -126,7 +126,7 @@ INSTANTIATE_TEST_SUITE_P(
                       ValuesCase{"NegativeEnergy", {.kinetic_Mev = -smallest_f}, false},
                       ValuesCase{"EnergyNotANumber", {.kinetic_Mev = nan_f}, false},
                       ValuesCase{"EnergyInfinite", {.kinetic_Mev = inf_f}, false}),
-    testing::case_name<ValuesCase>);
+    test::case_name<ValuesCase>);
 
 TEST(ChamberValues, TheSidesOfTheSliderComeThroughMetresUnchanged) {
   for (int tick = 1; tick <= 20; ++tick) {

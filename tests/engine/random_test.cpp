@@ -15,10 +15,10 @@
 namespace velquon {
 namespace {
 
-using testing::draw_of;
-using testing::highest_draw;
-using testing::lowest_draw;
-using testing::ScriptedRand;
+using test::draw_of;
+using test::highest_draw;
+using test::lowest_draw;
+using test::ScriptedRand;
 
 TEST(RandOne, ReturnsExactlyZeroAndExactlyOne) {
   const ScriptedRand script({lowest_draw, highest_draw});
@@ -73,7 +73,7 @@ TEST(MyRand, IsUniform) {
     value = my_rand(-3.0, 5.0);
   }
   const auto uniform = [](double x) { return (x + 3.0) / 8.0; };
-  EXPECT_LT(testing::kolmogorov_statistic(sample, uniform), testing::critical_kolmogorov);
+  EXPECT_LT(test::kolmogorov_statistic(sample, uniform), test::critical_kolmogorov);
 }
 
 TEST(MyRand, TheTestOfUniformityNoticesASmallSlope) {
@@ -83,8 +83,8 @@ TEST(MyRand, TheTestOfUniformityNoticesASmallSlope) {
     const double u = rand_one();
     value = u + 0.05 * u * (1.0 - u);
   }
-  EXPECT_GT(testing::kolmogorov_statistic(sample, [](double x) { return x; }),
-            testing::critical_kolmogorov);
+  EXPECT_GT(test::kolmogorov_statistic(sample, [](double x) { return x; }),
+            test::critical_kolmogorov);
 }
 
 TEST(Seeding, TheSameSeedGivesTheSameDraws) {
@@ -108,7 +108,7 @@ TEST(ScriptedRandDeathTest, AScriptThatRunsDryEndsTheProgram) {
 }
 
 TEST(ScriptedRand, ForwardsToTheLibraryWhenNoScriptPlays) {
-  const std::size_t before = testing::real_draws();
+  const std::size_t before = test::real_draws();
   std::srand(7);
   const int first = std::rand();
   std::srand(7);
@@ -117,7 +117,7 @@ TEST(ScriptedRand, ForwardsToTheLibraryWhenNoScriptPlays) {
     EXPECT_EQ(std::rand(), 42);
   }
   EXPECT_EQ(std::rand(), first);
-  EXPECT_EQ(testing::real_draws() - before, 2U);
+  EXPECT_EQ(test::real_draws() - before, 2U);
 }
 
 }  // namespace

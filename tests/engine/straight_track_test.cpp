@@ -16,12 +16,12 @@
 namespace velquon {
 namespace {
 
-using testing::highest_draw;
-using testing::lowest_draw;
-using testing::moving;
-using testing::position_of;
-using testing::ScriptedRand;
-using testing::usual_scale;
+using test::highest_draw;
+using test::lowest_draw;
+using test::moving;
+using test::position_of;
+using test::ScriptedRand;
+using test::usual_scale;
 
 constexpr double bound = 404.0;
 constexpr double step = 20.0;
@@ -120,7 +120,7 @@ TEST(StraightPath, SurvivesWhileTheSurvivalIsGreaterThanTheDraw) {
   particle.decay_length = 4.0 * step / (2.0 * usual_scale);
   const double survival = std::exp(-0.25);
   Walk walk;
-  const ScriptedRand script({testing::draw_of(survival - 1e-6), testing::draw_of(survival + 1e-6)});
+  const ScriptedRand script({test::draw_of(survival - 1e-6), test::draw_of(survival + 1e-6)});
   EXPECT_EQ(walk.run(particle), TrackEnd::decayed);
   EXPECT_EQ(walk.count, 3);
 }
@@ -135,7 +135,7 @@ TEST(StraightPath, ADrawEqualToTheSurvivalIsADecay) {
 }
 
 TEST(StraightPath, EveryStepHasTheSameDirectionAndLengthOneStep) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   std::srand(41);
   for (int i = 0; i < 500; ++i) {
     const Vector3 momentum{my_rand(-30, 30), my_rand(-30, 30), my_rand(-30, 30)};
@@ -145,8 +145,8 @@ TEST(StraightPath, EveryStepHasTheSameDirectionAndLengthOneStep) {
     ASSERT_GT(walk.count, 0);
     for (std::size_t k = 1; k < static_cast<std::size_t>(walk.count); ++k) {
       const Vector3 advance =
-          testing::difference(position_of(walk.slots[k]), position_of(walk.slots[k - 1]));
-      EXPECT_NEAR(testing::length(advance), step, 1e-9);
+          test::difference(position_of(walk.slots[k]), position_of(walk.slots[k - 1]));
+      EXPECT_NEAR(test::length(advance), step, 1e-9);
       EXPECT_NEAR(std::atan2(advance[1], advance[0]), std::atan2(momentum[1], momentum[0]), 1e-9);
     }
   }

@@ -38,7 +38,7 @@ Codes merged(Merge merge, const std::vector<PlotPoint>& first, const std::vector
   std::int16_t count = 1234;
   merge(first, second, out, count, limit);
   EXPECT_EQ(out.back().code, guard);
-  return testing::codes_of(std::span(out).first(static_cast<std::size_t>(count)));
+  return test::codes_of(std::span(out).first(static_cast<std::size_t>(count)));
 }
 
 struct MergeCase {
@@ -72,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(
         MergeCase{"LimitInTheAlternation", {10, 11, 12}, {20, 21}, 3, {20, 10, 21}},
         MergeCase{"LimitInTheRest", {10, 11, 12, 13}, {20}, 4, {20, 10, 11, 12}},
         MergeCase{"LimitOfZeroTakesNothing", {10}, {20}, 0, {}}),
-    testing::case_name<MergeCase>);
+    test::case_name<MergeCase>);
 
 TEST(CombinePathsWhole, PointsAreCopiedWithAllTheyHold) {
   const auto first = points({10, 11}, {1.5, 2.5});
@@ -138,7 +138,7 @@ INSTANTIATE_TEST_SUITE_P(
         TimedCase{"EmptySecond", {10, 11}, {1, 2}, {}, {}, 9, {10, 11}},
         TimedCase{"BothEmpty", {}, {}, {}, {}, 9, {}},
         TimedCase{"StopsAtTheLimit", {10, 11}, {1, 3}, {20, 21}, {2, 4}, 3, {10, 20, 11}}),
-    testing::case_name<TimedCase>);
+    test::case_name<TimedCase>);
 
 TEST(CompareTimes, IsOneOnlyForTheLaterPoint) {
   const PlotPoint early{.time = 1.0};

@@ -19,9 +19,9 @@
 namespace velquon {
 namespace {
 
-using testing::critical_kolmogorov;
-using testing::kolmogorov_statistic;
-using testing::moving;
+using test::critical_kolmogorov;
+using test::kolmogorov_statistic;
+using test::moving;
 
 constexpr int decays = 40000;
 
@@ -38,7 +38,7 @@ struct Directions {
   std::vector<double> azimuths;
 
   void add(const ParticleState& parent, const ParticleState& daughter) {
-    const auto momentum = testing::boosted_back(parent, daughter);
+    const auto momentum = test::boosted_back(parent, daughter);
     cosines.push_back(momentum.along / momentum.size());
     azimuths.push_back(std::atan2(daughter.momentum[1], daughter.momentum[0]));
   }
@@ -98,7 +98,7 @@ TEST(PairAzimuth, IsUniformRoundThePhotonsLine) {
     ParticleState the_positron = positron;
     gamma_to_pair(parent, the_electron, the_positron);
     azimuths.push_back(std::atan2(the_electron.momentum[1], the_electron.momentum[0]));
-    shares.push_back(testing::length(the_electron.momentum) / 50.0);
+    shares.push_back(test::length(the_electron.momentum) / 50.0);
   }
   EXPECT_LT(kolmogorov_statistic(azimuths, uniform_angle), critical_kolmogorov);
   const auto uniform_share = [](double share) { return (share - 0.2) / 0.6; };
@@ -114,10 +114,10 @@ TEST(PairOpeningAngle, IsUniformBetween0_7And1_3TimesMassOverMomentum) {
     ParticleState the_electron = electron;
     ParticleState the_positron = positron;
     gamma_to_pair(parent, the_electron, the_positron);
-    const double p1 = testing::length(the_electron.momentum);
+    const double p1 = test::length(the_electron.momentum);
     const double angle =
-        std::atan2(testing::length(testing::cross(the_electron.momentum, parent.momentum)),
-                   testing::scalar(the_electron.momentum, parent.momentum));
+        std::atan2(test::length(test::cross(the_electron.momentum, parent.momentum)),
+                   test::scalar(the_electron.momentum, parent.momentum));
     const double ratio = angle / (0.51 / p1);
     ASSERT_GE(ratio, 0.7 - 1e-9);
     ASSERT_LE(ratio, 1.3 + 1e-9);
@@ -160,7 +160,7 @@ TEST(LambdaAsymmetry, LiesAcrossTheFlightAndNotAlongIt) {
     forward += the_proton.momentum[1] > 500.0 * 943.6 / 1115.6 ? 1.0 : 0.0;
   }
   EXPECT_LT(kolmogorov_statistic(angles, proton_angle_law), critical_kolmogorov);
-  EXPECT_LT(std::fabs(testing::binomial_z(forward, decays, 0.5)), testing::critical_z);
+  EXPECT_LT(std::fabs(test::binomial_z(forward, decays, 0.5)), test::critical_z);
 }
 
 }  // namespace

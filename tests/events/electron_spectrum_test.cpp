@@ -30,12 +30,12 @@ std::size_t cell_of(double value, double low, double width) {
 
 Table counted_electrons() {
   std::srand(81);
-  const ParticleState parent = testing::moving(muon, {0.0, 35.0, 20.0});
+  const ParticleState parent = test::moving(muon, {0.0, 35.0, 20.0});
   Table table(cells * cells);
   for (int i = 0; i < electrons; ++i) {
     ParticleState daughter = electron;
     mu_to_e(parent, daughter);
-    const auto momentum = testing::boosted_back(parent, daughter);
+    const auto momentum = test::boosted_back(parent, daughter);
     const double x = momentum.size() / 52.85;
     const double c = momentum.along / momentum.size();
     ++table[cell_of(x, 0.0, 1.0 / cells) * cells + cell_of(c, -1.0, 2.0 / cells)];
@@ -92,8 +92,8 @@ Comparison compare(const Table& counted, const Table& expected) {
     counts.push_back(few);
     expectations.push_back(few_expected);
   }
-  return {testing::chi_square(counts, expectations),
-          testing::critical_chi_square(static_cast<double>(counts.size()) - 1.0)};
+  return {test::chi_square(counts, expectations),
+          test::critical_chi_square(static_cast<double>(counts.size()) - 1.0)};
 }
 
 TEST(ElectronSpectrum, FollowsTheWeightCutAt1) {

@@ -69,7 +69,7 @@ class EveryEvent : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(EveryEvent, IsFiniteWithinItsLimitAndItsBounds) {
   // A neutral pion without momentum divides zero by zero on purpose; a Lambda event has one.
-  std::optional<testing::FloatTraps> traps;
+  std::optional<test::FloatTraps> traps;
   if (std::string(GetParam()) != "lambda") {
     traps.emplace();
   }
@@ -80,7 +80,7 @@ TEST_P(EveryEvent, IsFiniteWithinItsLimitAndItsBounds) {
     const unsigned seed = random.next_seed();
     SCOPED_TRACE(::testing::Message() << values.B_field << " kG, " << values.sides_cm << " cm, "
                                       << values.kinetic_Mev << " MeV, seed " << seed);
-    const auto points = testing::seeded_event(GetParam(), values, seed);
+    const auto points = test::seeded_event(GetParam(), values, seed);
     ASSERT_LE(points.size(), 350U);
     for (const PlotPoint& point : points) {
       ASSERT_NO_FATAL_FAILURE(expect_sound(point));
@@ -94,7 +94,7 @@ INSTANTIATE_TEST_SUITE_P(Types, EveryEvent,
                          ::testing::Values("pi-", "pi+", "pi0", "mu-", "mu+", "lambda"),
                          [](const auto& row) {
                            const std::string key = row.param;
-                           const auto name = testing::event_type(key).name;
+                           const auto name = test::event_type(key).name;
                            std::string plain;
                            for (const char letter : name) {
                              if (letter != ' ') {
@@ -109,7 +109,7 @@ TEST(NeutralPionEvent, ConvertsInPairsSoItsStraightTracksEndTwoByTwo) {
   const ChamberValues values{.B_field = 0.0F, .sides_cm = 1000.0F, .kinetic_Mev = 100.0F};
   int shown = 0;
   for (unsigned seed = 1; seed <= 400; ++seed) {
-    const auto points = testing::seeded_event("pi0", values, seed);
+    const auto points = test::seeded_event("pi0", values, seed);
     int first_points[2] = {0, 0};
     bool near_wall = false;
     const std::size_t heads = std::min<std::size_t>(points.size(), 4);

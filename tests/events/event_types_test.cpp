@@ -15,8 +15,8 @@
 namespace velquon {
 namespace {
 
-using testing::ScriptedRand;
-using testing::seeded_event;
+using test::ScriptedRand;
+using test::seeded_event;
 
 TEST(EventTypes, AreSixInTheOrderOfTheMenu) {
   const auto types = event_types();
@@ -72,11 +72,11 @@ bool straight_run(const std::vector<PlotPoint>& points) {
     if (points[k].code != points[k - 2].code || points[k].code != points[k - 1].code) {
       continue;
     }
-    const auto a = testing::position_of(points[k - 2]);
-    const auto b = testing::position_of(points[k - 1]);
-    const auto c = testing::position_of(points[k]);
-    const auto turn = testing::cross(testing::difference(b, a), testing::difference(c, b));
-    if (testing::length(turn) > 1e-9 * 400.0) {
+    const auto a = test::position_of(points[k - 2]);
+    const auto b = test::position_of(points[k - 1]);
+    const auto c = test::position_of(points[k]);
+    const auto turn = test::cross(test::difference(b, a), test::difference(c, b));
+    if (test::length(turn) > 1e-9 * 400.0) {
       return false;
     }
   }
@@ -126,8 +126,8 @@ TEST(MakeEvent, AnEnergyThatIsNotAbove0OrNotFiniteIsAnEmptyEventThatIsHandedOver
 TEST(MakeEvent, BeginsWithAnEmptiedBuffer) {
   TrackBuffer event;
   event.count = 300;
-  const ScriptedRand script({}, testing::lowest_draw);
-  ASSERT_EQ(make_event(testing::event_type("mu+"),
+  const ScriptedRand script({}, test::lowest_draw);
+  ASSERT_EQ(make_event(test::event_type("mu+"),
                        {.B_field = 0.0F, .sides_cm = 500.0F, .kinetic_Mev = 30.0F}, event),
             HandOver::yes);
   EXPECT_EQ(event.count, 40);
@@ -136,7 +136,7 @@ TEST(MakeEvent, BeginsWithAnEmptiedBuffer) {
 TEST(RunChain, TakesTheFieldAsItIsGiven) {
   TrackBuffer event;
   std::srand(9);
-  ASSERT_EQ(run_chain(testing::event_type("pi-").chain, in_field, event), HandOver::yes);
+  ASSERT_EQ(run_chain(test::event_type("pi-").chain, in_field, event), HandOver::yes);
   const std::vector<PlotPoint> points(event.points().begin(), event.points().end());
   EXPECT_EQ(points, seeded_event("pi+", in_field, 9));
 }

@@ -22,11 +22,11 @@
 namespace velquon {
 namespace {
 
-using testing::draw_of;
-using testing::highest_draw;
-using testing::lowest_draw;
-using testing::moving;
-using testing::ScriptedRand;
+using test::draw_of;
+using test::highest_draw;
+using test::lowest_draw;
+using test::moving;
+using test::ScriptedRand;
 using Codes = std::vector<std::int16_t>;
 
 TEST(GetProtonAngle, DrawsWeightThenAngleAndRepeatsWhenTheWeightIsNotGreater) {
@@ -73,7 +73,7 @@ TEST(LambdaDecay, PutsTheCosineOfTheAzimuthAlongTheFlightAndTheWeightedComponent
 }
 
 TEST(LambdaDecay, ConservesMomentumAndSetsEnergiesInBothModes) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   std::srand(101);
   for (const Mode& mode : modes) {
     SCOPED_TRACE(mode.name);
@@ -83,10 +83,10 @@ TEST(LambdaDecay, ConservesMomentumAndSetsEnergiesInBothModes) {
       ParticleState first = mode.first;
       ParticleState second = mode.second;
       mode.decay(parent, first, second);
-      const Vector3 total = testing::sum(first.momentum, second.momentum);
-      EXPECT_LT(testing::length(testing::difference(total, parent.momentum)), 1e-9);
+      const Vector3 total = test::sum(first.momentum, second.momentum);
+      EXPECT_LT(test::length(test::difference(total, parent.momentum)), 1e-9);
       for (const ParticleState& daughter : {first, second}) {
-        EXPECT_NEAR(daughter.energy, std::hypot(daughter.mass, testing::length(daughter.momentum)),
+        EXPECT_NEAR(daughter.energy, std::hypot(daughter.mass, test::length(daughter.momentum)),
                     1e-9);
       }
       // The rounded rest-frame energies leave the sum of energies a little off.
@@ -125,7 +125,7 @@ TEST(LambdaChain, TracksThePionsChainThenTheProtonAndMergesThem) {
     EXPECT_EQ(lambda_chain(values, event), HandOver::yes) << "whatever the electron does";
     EXPECT_TRUE(script.played_out());
     const std::int16_t proton_end = field == 0.0F ? 6 : 3;
-    EXPECT_EQ(testing::codes_of(event.points()), (Codes{3, 2, proton_end, 2, 4, 4, 5, 5, 5}));
+    EXPECT_EQ(test::codes_of(event.points()), (Codes{3, 2, proton_end, 2, 4, 4, 5, 5, 5}));
   }
 }
 
@@ -169,7 +169,7 @@ TEST(LambdaChain, ProtonAndPionStartWhereTheLambdasUnseenFlightEnded) {
   for (unsigned seed = 1; seed <= 300; ++seed) {
     Vector3 vertex{};
     const bool decays = seeded_vertex(small_chamber, seed, vertex);
-    const auto points = testing::seeded_event("lambda", small_chamber, seed);
+    const auto points = test::seeded_event("lambda", small_chamber, seed);
     if (!decays || std::fabs(vertex[1]) > 370.0 || points.empty()) {
       continue;
     }
@@ -178,8 +178,8 @@ TEST(LambdaChain, ProtonAndPionStartWhereTheLambdasUnseenFlightEnded) {
     ASSERT_GE(points.size(), 2U);
     EXPECT_NE(points[0].code, points[1].code);
     for (std::size_t k = 0; k < 2; ++k) {
-      const Vector3 where = testing::difference(testing::position_of(points[k]), vertex);
-      EXPECT_NEAR(testing::length(where), 20.0, 1e-9);
+      const Vector3 where = test::difference(test::position_of(points[k]), vertex);
+      EXPECT_NEAR(test::length(where), 20.0, 1e-9);
     }
   }
   EXPECT_GT(seen, 50);
@@ -191,9 +191,9 @@ TEST(LambdaChain, InAFieldProtonAndPionCurveInOppositeSenses) {
   int seen = 0;
   for (unsigned seed = 1; seed <= 300; ++seed) {
     std::vector<Vector3> tracks[2];
-    for (const PlotPoint& point : testing::seeded_event("lambda", values, seed)) {
+    for (const PlotPoint& point : test::seeded_event("lambda", values, seed)) {
       if (point.code == 2 || point.code == 3) {
-        tracks[point.code - 2].push_back(testing::position_of(point));
+        tracks[point.code - 2].push_back(test::position_of(point));
       }
     }
     if (tracks[0].size() < 3 || tracks[1].size() < 3) {
@@ -201,8 +201,8 @@ TEST(LambdaChain, InAFieldProtonAndPionCurveInOppositeSenses) {
     }
     ++seen;
     const auto turn = [](const std::vector<Vector3>& track) {
-      return testing::cross(testing::difference(track[1], track[0]),
-                            testing::difference(track[2], track[1]))[2];
+      return test::cross(test::difference(track[1], track[0]),
+                            test::difference(track[2], track[1]))[2];
     };
     EXPECT_GT(turn(tracks[0]), 0.0) << "the negative pion turns to the left";
     EXPECT_LT(turn(tracks[1]), 0.0) << "the proton turns to the right";
@@ -220,10 +220,10 @@ TEST(LambdaChain, ItsModesShareTheDecaysWith0_642) {
     }
     ++decays;
     // This chamber is too small for a photon to convert: what shows is the charged mode.
-    charged += testing::seeded_event("lambda", small_chamber, seed).empty() ? 0.0 : 1.0;
+    charged += test::seeded_event("lambda", small_chamber, seed).empty() ? 0.0 : 1.0;
   }
   EXPECT_GT(decays, 10000.0);
-  EXPECT_LT(std::fabs(testing::binomial_z(charged, decays, 0.642)), testing::critical_z);
+  EXPECT_LT(std::fabs(test::binomial_z(charged, decays, 0.642)), test::critical_z);
 }
 
 // In the chamber at start-up a Lambda of 10 GeV flies 25 units a step, far enough to see photons.
@@ -272,7 +272,7 @@ TEST(LambdaChain, TheFirstPhotonAloneMakesOnePair) {
   const ScriptedRand script(draws);
   EXPECT_EQ(lambda_chain(usual_chamber, event), HandOver::yes);
   EXPECT_TRUE(script.played_out());
-  EXPECT_EQ(testing::codes_of(event.points()), (Codes{4, 3, 6, 6}));
+  EXPECT_EQ(test::codes_of(event.points()), (Codes{4, 3, 6, 6}));
 }
 
 }  // namespace

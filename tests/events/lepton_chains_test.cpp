@@ -16,10 +16,10 @@
 namespace velquon {
 namespace {
 
-using testing::draw_of;
-using testing::highest_draw;
-using testing::lowest_draw;
-using testing::ScriptedRand;
+using test::draw_of;
+using test::highest_draw;
+using test::lowest_draw;
+using test::ScriptedRand;
 using Codes = std::vector<std::int16_t>;
 
 constexpr ChamberValues straight{.B_field = 0.0F, .sides_cm = 500.0F, .kinetic_Mev = 50.0F};
@@ -53,9 +53,9 @@ TEST(PionChain, OnALineEachDaughterStartsAtItsParentsLastPoint) {
   ASSERT_EQ(event.count, 40) << "from -380 to 400 in steps of 20";
   Codes codes{3, 3, 3, 4, 4, 4, 5};
   codes.resize(40, 5);
-  EXPECT_EQ(testing::codes_of(event.points()), codes);
+  EXPECT_EQ(test::codes_of(event.points()), codes);
   for (std::size_t k = 0; k < 40; ++k) {
-    const auto [x, y, z] = testing::position_of(event.points()[k]);
+    const auto [x, y, z] = test::position_of(event.points()[k]);
     EXPECT_NEAR(x, 0.0, 1e-6);
     EXPECT_NEAR(y, -380.0 + 20.0 * static_cast<double>(k), 1e-6);
     EXPECT_NEAR(z, 0.0, 1e-6);
@@ -70,8 +70,8 @@ TEST(PionChain, OnALineTheMuonsMomentumFollowsFromThePionsUnchangedOne) {
   const ScriptedRand script(joined({one_step, {draw_of(0.5), draw_of(0.25)}}), lowest_draw);
   pion_chain(straight, event);
   ASSERT_GT(event.count, 3);
-  const Vector3 first = testing::difference(testing::position_of(event.points()[2]),
-                                            testing::position_of(event.points()[1]));
+  const Vector3 first = test::difference(test::position_of(event.points()[2]),
+                                            test::position_of(event.points()[1]));
   const double k = (139.6 * 139.6 - 105.7 * 105.7) / (2.0 * 139.6);
   const double along = std::sqrt(50.0 * 50.0 + 2.0 * 50.0 * 139.6) * std::hypot(k, 105.7) / 139.6;
   EXPECT_NEAR(first[0], 20.0 * k / std::hypot(k, along), 1e-5);
@@ -92,8 +92,8 @@ TEST(PionChain, OnAHelixTheMuonFliesInTheTurnedDirectionOfThePion) {
   // The muon's first chord is half its phase step beyond the pion's direction, which has turned by
   // the three counted steps and not by the fourth to the decay point.
   const double turned = 3 * 20.0 / pion_radius + 0.5 * 20.0 / muon_radius;
-  const Vector3 chord = testing::difference(testing::position_of(event.points()[4]),
-                                            testing::position_of(event.points()[3]));
+  const Vector3 chord = test::difference(test::position_of(event.points()[4]),
+                                            test::position_of(event.points()[3]));
   EXPECT_NEAR(std::atan2(chord[0], chord[1]), turned, 1e-6);
 }
 
@@ -103,7 +103,7 @@ TEST(PionChain, CodesOfTheWholeChain) {
     const ScriptedRand script(joined({two_steps, muon_ahead, two_steps, electron_ahead, one_step}));
     EXPECT_EQ(pion_chain(values, event), HandOver::no)
         << "a chain whose last particle decays is not handed over";
-    EXPECT_EQ(testing::codes_of(event.points()), (Codes{3, 3, 4, 4, 4, 5, 5, 6}));
+    EXPECT_EQ(test::codes_of(event.points()), (Codes{3, 3, 4, 4, 4, 5, 5, 6}));
     EXPECT_TRUE(script.played_out());
   }
 }
@@ -115,11 +115,11 @@ TEST(MuonChain, TheElectronsEndCodeIs6OnAHelixAnd5OnALine) {
     const ScriptedRand script(draws);
     EXPECT_EQ(muon_chain(straight, line), HandOver::no);
   }
-  EXPECT_EQ(testing::codes_of(line.points()), (Codes{3, 3, 4, 4, 4, 5}));
+  EXPECT_EQ(test::codes_of(line.points()), (Codes{3, 3, 4, 4, 4, 5}));
   TrackBuffer helix;
   const ScriptedRand script(draws);
   EXPECT_EQ(muon_chain(curved, helix), HandOver::no);
-  EXPECT_EQ(testing::codes_of(helix.points()), (Codes{3, 3, 4, 4, 4, 6}));
+  EXPECT_EQ(test::codes_of(helix.points()), (Codes{3, 3, 4, 4, 4, 6}));
 }
 
 TEST(MuonChain, AnElectronThatLeavesHandsTheEventOver) {
@@ -135,7 +135,7 @@ TEST(LeptonChains, APrimaryThatLeavesEndsTheChain) {
     TrackBuffer event;
     const ScriptedRand script({}, lowest_draw);
     EXPECT_EQ(chain(straight, event, nullptr), HandOver::yes);
-    EXPECT_EQ(testing::codes_of(event.points()), Codes(40, 3));
+    EXPECT_EQ(test::codes_of(event.points()), Codes(40, 3));
   }
 }
 
@@ -144,7 +144,7 @@ TEST(LeptonChains, AtTheLimitAnEventHasExactly350PointsAndNoEndPoint) {
     TrackBuffer event;
     const ScriptedRand script({}, lowest_draw);
     EXPECT_EQ(chain(spiral, event, nullptr), HandOver::yes);
-    EXPECT_EQ(testing::codes_of(event.points()), Codes(350, 3));
+    EXPECT_EQ(test::codes_of(event.points()), Codes(350, 3));
     EXPECT_EQ(script.draws(), 350U);
   }
 }
@@ -155,7 +155,7 @@ TEST(LeptonChains, ADaughterSharesTheLimitWithItsParent) {
   EXPECT_EQ(muon_chain(spiral, event), HandOver::yes);
   Codes codes{3, 3, 3, 4};
   codes.resize(350, 4);
-  EXPECT_EQ(testing::codes_of(event.points()), codes);
+  EXPECT_EQ(test::codes_of(event.points()), codes);
 }
 
 TEST(LeptonChains, ADecayPointThatFillsTheLastSlotLeavesNoRoomForTheDaughter) {
@@ -175,7 +175,7 @@ TEST(LeptonChains, AMuonEventShowsTwoTracksAtMostAndAPionEventThree) {
     const std::int16_t last_track = key[0] == 'm' ? 4 : 5;
     std::int16_t highest = 0;
     for (unsigned seed = 1; seed <= 200; ++seed) {
-      const Codes codes = testing::codes_of(testing::seeded_event(key, slow, seed));
+      const Codes codes = test::codes_of(test::seeded_event(key, slow, seed));
       ASSERT_TRUE(std::ranges::is_sorted(codes)) << "one track behind the other";
       ASSERT_GE(codes.front(), 3);
       highest = std::max(highest, codes.back());

@@ -17,18 +17,18 @@
 namespace velquon {
 namespace {
 
-using testing::boosted_back;
-using testing::draw_of;
-using testing::highest_draw;
-using testing::lowest_draw;
-using testing::moving;
-using testing::ScriptedRand;
+using test::boosted_back;
+using test::draw_of;
+using test::highest_draw;
+using test::lowest_draw;
+using test::moving;
+using test::ScriptedRand;
 
 /// Momentum of a muon from a pion at rest, MeV/c: (M^2 - m^2) / 2M.
 const double muon_momentum = (139.6 * 139.6 - 105.7 * 105.7) / (2.0 * 139.6);
 
 TEST(PiToMu, MakesAMuonOf29_78MeVInThePionsRestFrame) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   EXPECT_NEAR(muon_momentum, 29.78, 0.01);
   std::srand(71);
   for (int i = 0; i < 2000; ++i) {
@@ -46,8 +46,8 @@ TEST(PiToMu, TheMissingNeutrinoIsMassless) {
     const ParticleState parent = moving(pion, {0.0, 120.0, 35.0});
     ParticleState daughter = muon;
     pi_to_mu(parent, daughter);
-    const Vector3 missing = testing::difference(parent.momentum, daughter.momentum);
-    EXPECT_NEAR(parent.energy - daughter.energy, testing::length(missing), 1e-9);
+    const Vector3 missing = test::difference(parent.momentum, daughter.momentum);
+    EXPECT_NEAR(parent.energy - daughter.energy, test::length(missing), 1e-9);
   }
 }
 
@@ -63,7 +63,7 @@ TEST(PiToMu, DrawsTheLongitudinalComponentAndThenTheAzimuth) {
   EXPECT_NEAR(daughter.momentum[0], 0.0, 1e-6);
   EXPECT_NEAR(daughter.momentum[1], -muon_momentum, 1e-6);
   EXPECT_NEAR(daughter.momentum[2], 100.0 * rest_energy / 139.6, 1e-6);
-  EXPECT_NEAR(daughter.energy, std::hypot(105.7, testing::length(daughter.momentum)), 1e-12);
+  EXPECT_NEAR(daughter.energy, std::hypot(105.7, test::length(daughter.momentum)), 1e-12);
 }
 
 TEST(PiToMu, AtEitherEndOfTheLongitudinalRangeTheMuonFliesAlongThePion) {
@@ -112,7 +112,7 @@ TEST(MuToE, DrawsFractionCosineAndWeightUntilAcceptedAndThenTheAzimuth) {
   EXPECT_NEAR(daughter.momentum[0], 0.0, 1e-6);
   EXPECT_NEAR(daughter.momentum[1], -105.7 / 2, 1e-6);
   EXPECT_NEAR(daughter.momentum[2], std::hypot(52.85, 0.51) * 60.0 / 105.7, 1e-6);
-  EXPECT_NEAR(daughter.energy, std::hypot(0.51, testing::length(daughter.momentum)), 1e-12);
+  EXPECT_NEAR(daughter.energy, std::hypot(0.51, test::length(daughter.momentum)), 1e-12);
 }
 
 TEST(MuToE, ADrawEqualToTheWeightIsAccepted) {
@@ -135,7 +135,7 @@ TEST(MuToE, AWeightAbove1AcceptsEveryDraw) {
 }
 
 TEST(MuToE, TheRestFrameMomentumNeverExceeds52_85MeV) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   std::srand(74);
   int slow = 0;
   for (int i = 0; i < 20000; ++i) {

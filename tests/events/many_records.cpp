@@ -12,7 +12,7 @@
 
 #include "tests/events/record_checks.h"
 
-namespace velquon::testing {
+namespace velquon::test {
 
 namespace {
 
@@ -53,12 +53,12 @@ int check(unsigned long events, unsigned seed) {
 
 }  // namespace
 
-}  // namespace velquon::testing
+}  // namespace velquon::test
 
 int main(int argc, char** argv) {
   if (argc < 2) {
     return 2;
   }
-  return velquon::testing::check(std::strtoul(argv[1], nullptr, 10),
+  return velquon::test::check(std::strtoul(argv[1], nullptr, 10),
                                  argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 1U);
 }

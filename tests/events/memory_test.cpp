@@ -27,7 +27,7 @@ void make_lambdas(int events) {
   const ChamberValues values{.B_field = 2.0F, .sides_cm = 500.0F, .kinetic_Mev = 3000.0F};
   TrackBuffer event;
   for (int i = 0; i < events; ++i) {
-    ASSERT_EQ(make_event(testing::event_type("lambda"), values, event), HandOver::yes);
+    ASSERT_EQ(make_event(test::event_type("lambda"), values, event), HandOver::yes);
   }
 }
 

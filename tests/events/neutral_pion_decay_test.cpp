@@ -18,15 +18,15 @@
 namespace velquon {
 namespace {
 
-using testing::draw_of;
-using testing::highest_draw;
-using testing::lowest_draw;
-using testing::moving;
-using testing::ScriptedRand;
+using test::draw_of;
+using test::highest_draw;
+using test::lowest_draw;
+using test::moving;
+using test::ScriptedRand;
 using Codes = std::vector<std::int16_t>;
 
 TEST(PizeroTo2Gamma, ThePhotonsAddUpToTheNeutralPion) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   std::srand(111);
   for (int i = 0; i < 2000; ++i) {
     const ParticleState parent =
@@ -34,12 +34,12 @@ TEST(PizeroTo2Gamma, ThePhotonsAddUpToTheNeutralPion) {
     ParticleState photon1 = photon;
     ParticleState photon2 = photon;
     pizero_to_2gamma(parent, photon1, photon2);
-    const Vector3 total = testing::sum(photon1.momentum, photon2.momentum);
-    EXPECT_LT(testing::length(testing::difference(total, parent.momentum)), 1e-9);
+    const Vector3 total = test::sum(photon1.momentum, photon2.momentum);
+    EXPECT_LT(test::length(test::difference(total, parent.momentum)), 1e-9);
     EXPECT_NEAR(photon1.energy + photon2.energy, parent.energy, 1e-9);
     for (const ParticleState& one : {photon1, photon2}) {
-      EXPECT_NEAR(one.energy, testing::length(one.momentum), 1e-10) << "a photon has no mass";
-      EXPECT_NEAR(testing::boosted_back(parent, one).size(), 67.5, 1e-8);
+      EXPECT_NEAR(one.energy, test::length(one.momentum), 1e-10) << "a photon has no mass";
+      EXPECT_NEAR(test::boosted_back(parent, one).size(), 67.5, 1e-8);
       EXPECT_EQ(one.position, Vector3{});
     }
   }
@@ -60,7 +60,7 @@ TEST(PizeroTo2Gamma, DrawsTheLongitudinalComponentAndThenTheAzimuth) {
 }
 
 TEST(GammaToPair, ThePairAddsUpToThePhoton) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   std::srand(112);
   for (int i = 0; i < 2000; ++i) {
     const ParticleState parent =
@@ -68,14 +68,14 @@ TEST(GammaToPair, ThePairAddsUpToThePhoton) {
     ParticleState the_electron = electron;
     ParticleState the_positron = positron;
     gamma_to_pair(parent, the_electron, the_positron);
-    const Vector3 total = testing::sum(the_electron.momentum, the_positron.momentum);
-    EXPECT_LT(testing::length(testing::difference(total, parent.momentum)), 1e-10);
-    const double along = testing::scalar(total, parent.momentum) / testing::length(parent.momentum);
+    const Vector3 total = test::sum(the_electron.momentum, the_positron.momentum);
+    EXPECT_LT(test::length(test::difference(total, parent.momentum)), 1e-10);
+    const double along = test::scalar(total, parent.momentum) / test::length(parent.momentum);
     EXPECT_NEAR(along, parent.energy, 1e-10);
     // Both leptons and the photon's line lie in one plane, the leptons on either side.
-    const Vector3 to_electron = testing::cross(parent.momentum, the_electron.momentum);
-    const Vector3 to_positron = testing::cross(parent.momentum, the_positron.momentum);
-    EXPECT_LT(testing::length(testing::sum(to_electron, to_positron)), 1e-8);
+    const Vector3 to_electron = test::cross(parent.momentum, the_electron.momentum);
+    const Vector3 to_positron = test::cross(parent.momentum, the_positron.momentum);
+    EXPECT_LT(test::length(test::sum(to_electron, to_positron)), 1e-8);
     EXPECT_EQ(the_electron.position, parent.position);
     EXPECT_EQ(the_positron.position, parent.position);
     EXPECT_EQ(the_electron.energy, 0.0);
@@ -138,7 +138,7 @@ Codes played_event(const std::vector<int>& draws, float field, TrackBuffer& even
   const ScriptedRand script(draws);
   EXPECT_EQ(pizero_chain(with_field, event), HandOver::yes);
   EXPECT_TRUE(script.played_out());
-  return testing::codes_of(event.points());
+  return test::codes_of(event.points());
 }
 
 TEST(PizeroChain, TwoConversionsMakeTwoPairsAlternating) {
@@ -164,8 +164,8 @@ TEST(PizeroChain, TheSecondPhotonIsWalkedAfterTheFirstPairsThreeDraws) {
   played_event(draws, 0.0F, event);
   ASSERT_EQ(event.count, 8);
   const Vector3 entry{0.0, -400.0, 0.0};
-  const Vector3 second_pair = testing::difference(testing::position_of(event.points()[1]), entry);
-  EXPECT_LE(testing::length(second_pair), 64.0 + 20.0 + 0.1);
+  const Vector3 second_pair = test::difference(test::position_of(event.points()[1]), entry);
+  EXPECT_LE(test::length(second_pair), 64.0 + 20.0 + 0.1);
 }
 
 TEST(PizeroChain, TheSecondPhotonIsTriedWhenTheFirstEscapes) {

@@ -16,16 +16,16 @@
 namespace velquon {
 namespace {
 
-using testing::highest_draw;
-using testing::lowest_draw;
-using testing::moving;
-using testing::position_of;
-using testing::ScriptedRand;
+using test::highest_draw;
+using test::lowest_draw;
+using test::moving;
+using test::position_of;
+using test::ScriptedRand;
 using Codes = std::vector<std::int16_t>;
 
 /// A pair of a photon at a position, converted with these draws.
 PhotonPair pair_at(const Vector3& momentum, const Vector3& position,
-                   const std::vector<int>& draws = {testing::draw_of(0.5), lowest_draw,
+                   const std::vector<int>& draws = {test::draw_of(0.5), lowest_draw,
                                                     lowest_draw}) {
   PhotonPair pair;
   pair.photon = moving(photon, momentum, position);
@@ -47,20 +47,20 @@ TEST(PairPaths, TheLeptonsExchangeTheirCodesBetweenHelixAndLine) {
   const std::vector<int> draws{lowest_draw, highest_draw, lowest_draw, highest_draw};
   {
     const ScriptedRand script(draws);
-    EXPECT_EQ(testing::codes_of(laid(pair, 0.0)), (Codes{4, 3, 4, 3, 6, 6}));
+    EXPECT_EQ(test::codes_of(laid(pair, 0.0)), (Codes{4, 3, 4, 3, 6, 6}));
   }
   const ScriptedRand script(draws);
-  EXPECT_EQ(testing::codes_of(laid(pair, 1.0)), (Codes{3, 4, 3, 4, 4, 3}));
+  EXPECT_EQ(test::codes_of(laid(pair, 1.0)), (Codes{3, 4, 3, 4, 4, 3}));
 }
 
 TEST(PairPaths, TheElectronIsTrackedFirst) {
   const PhotonPair pair = pair_at({0.0, 50.0, 0.0}, {});
   const ScriptedRand script({highest_draw, lowest_draw, lowest_draw, highest_draw});
-  EXPECT_EQ(testing::codes_of(laid(pair, 0.0)), (Codes{4, 3, 6, 3, 3, 6}));
+  EXPECT_EQ(test::codes_of(laid(pair, 0.0)), (Codes{4, 3, 6, 3, 3, 6}));
 }
 
 TEST(PairPaths, WithoutAFieldTheTracksRunStraightAlongTheMomenta) {
-  const testing::FloatTraps traps;
+  const test::FloatTraps traps;
   std::srand(121);
   for (int i = 0; i < 200; ++i) {
     PhotonPair pair;
@@ -75,7 +75,7 @@ TEST(PairPaths, WithoutAFieldTheTracksRunStraightAlongTheMomenta) {
       const Vector3& momentum = point.code == 4 ? pair.electron.momentum : pair.positron.momentum;
       const Vector3 where = position_of(point);
       const double cosine =
-          testing::scalar(where, momentum) / (testing::length(where) * testing::length(momentum));
+          test::scalar(where, momentum) / (test::length(where) * test::length(momentum));
       EXPECT_GT(cosine, 0.99);
     }
   }
@@ -97,8 +97,8 @@ TEST(PairPaths, TheElectronTurnsLeftAndThePositronRightInAPositiveField) {
       (point.code == 3 ? electron_track : positron_track).push_back(position_of(point));
     }
     const auto turn = [](const std::vector<Vector3>& track) {
-      return testing::cross(testing::difference(track.at(1), track.at(0)),
-                            testing::difference(track.at(2), track.at(1)))[2];
+      return test::cross(test::difference(track.at(1), track.at(0)),
+                            test::difference(track.at(2), track.at(1)))[2];
     };
     EXPECT_GT(turn(electron_track) * field, 0.0);
     EXPECT_LT(turn(positron_track) * field, 0.0);
@@ -141,7 +141,7 @@ TEST(TwoPairs, MergesFourTracksByAlternatingTheTwoPairs) {
   EXPECT_TRUE(script.played_out());
   ASSERT_EQ(count, 9);
   // Pair 1 is 4 3 6 3 6, pair 2 is 4 3 6 6: the shorter list leads.
-  EXPECT_EQ(testing::codes_of(std::span(out).first(9)), (Codes{4, 4, 3, 3, 6, 6, 6, 3, 6}));
+  EXPECT_EQ(test::codes_of(std::span(out).first(9)), (Codes{4, 4, 3, 3, 6, 6, 6, 3, 6}));
   EXPECT_GT(out[0].coords[0], 50.0) << "the first point is of the second pair";
   EXPECT_LT(out[1].coords[0], 50.0);
 }

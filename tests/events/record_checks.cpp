@@ -11,7 +11,7 @@
 
 #include "tests/support/event_making.h"
 
-namespace velquon::testing {
+namespace velquon::test {
 
 namespace {
 
@@ -355,4 +355,4 @@ std::string problem_in_circles(const RecordedEvent& event, CircleCount& count) {
   return {};
 }
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

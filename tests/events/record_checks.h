@@ -9,7 +9,7 @@
 #include "events/event_types.h"
 #include "events/particle_record.h"
 
-namespace velquon::testing {
+namespace velquon::test {
 
 /// An event with what happened in it.
 struct RecordedEvent {
@@ -46,4 +46,4 @@ struct CircleCount {
 /// Compares the radius and the sense of every track with those that follow from the record.
 [[nodiscard]] std::string problem_in_circles(const RecordedEvent& event, CircleCount& count);
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

@@ -37,7 +37,7 @@ template <typename Use>
 void for_each_row(std::string_view key, const ChamberValues& values, int events, Use use) {
   std::srand(20261121);
   for (int i = 0; i < events; ++i) {
-    const auto event = testing::next_recorded_event(testing::event_type(key), values);
+    const auto event = test::next_recorded_event(test::event_type(key), values);
     for (const RecordedParticle& row : event.record.particles()) {
       use(row);
     }
@@ -49,7 +49,7 @@ void add_track(Trials& trials, const RecordedParticle& row, const ChamberValues&
   // The draw behind the last point of a full track is made and not heeded.
   const bool decayed = row.fate == Fate::decayed;
   const double steps = row.points - (decayed || row.fate == Fate::full ? 1 : 0);
-  const double length_cm = testing::length(row.momentum) / testing::mass_of(row.pdg) * decay_length;
+  const double length_cm = test::length(row.momentum) / test::mass_of(row.pdg) * decay_length;
   const double step_cm = step * static_cast<double>(values.sides_cm) / 800.0;
   trials.add(steps, decayed, std::exp(-step_cm / length_cm));
 }
@@ -64,7 +64,7 @@ TEST(RecordStatistics, PionsLiveSevenHundredAndEightyCentimetres) {
       }
     });
     EXPECT_GT(trials.decays, 500.0);
-    EXPECT_LT(std::fabs(trials.z()), testing::critical_z) << field;
+    EXPECT_LT(std::fabs(trials.z()), test::critical_z) << field;
   }
 }
 
@@ -79,7 +79,7 @@ TEST(RecordStatistics, MuonsLiveSixHundredAndFiftyNineMetres) {
       }
     });
     EXPECT_GT(trials.decays, 500.0) << key;
-    EXPECT_LT(std::fabs(trials.z()), testing::critical_z) << key;
+    EXPECT_LT(std::fabs(trials.z()), test::critical_z) << key;
   }
 }
 
@@ -100,7 +100,7 @@ void add_walk(Trials& trials, const RecordedParticle& row, double side_cm, doubl
               double survival) {
   const bool ended = row.end_cm.has_value();
   const double scale = 800.0 / side_cm;
-  const double p = testing::length(row.momentum);
+  const double p = test::length(row.momentum);
   Vector3 place{};
   Vector3 direction{};
   for (std::size_t axis = 0; axis < 3; ++axis) {
@@ -108,7 +108,7 @@ void add_walk(Trials& trials, const RecordedParticle& row, double side_cm, doubl
     direction[axis] = row.momentum[axis] / p;
   }
   const double steps =
-      ended ? std::round(testing::length(testing::difference(*row.end_cm, row.place_cm)) / step_cm)
+      ended ? std::round(test::length(test::difference(*row.end_cm, row.place_cm)) / step_cm)
             : steps_inside(place, direction, step_cm * scale);
   trials.add(steps, ended, survival);
 }
@@ -118,12 +118,12 @@ TEST(RecordStatistics, LambdasLiveSevenPointEightNineCentimetres) {
   Trials trials;
   for_each_row("lambda", values, 8000, [&](const RecordedParticle& row) {
     if (row.pdg == pdg::lambda) {
-      const double mean = testing::length(row.momentum) / 1115.6 * 7.89;
+      const double mean = test::length(row.momentum) / 1115.6 * 7.89;
       add_walk(trials, row, 50.0, 0.2 * mean, std::exp(-0.2));
     }
   });
   EXPECT_GT(trials.decays, 2000.0);
-  EXPECT_LT(std::fabs(trials.z()), testing::critical_z);
+  EXPECT_LT(std::fabs(trials.z()), test::critical_z);
 }
 
 TEST(RecordStatistics, PhotonsOfTwoMeVAndMoreConvertEveryFortyCentimetresWithTheirChance) {
@@ -135,7 +135,7 @@ TEST(RecordStatistics, PhotonsOfTwoMeVAndMoreConvertEveryFortyCentimetresWithThe
     }
   });
   EXPECT_GT(trials.decays, 2000.0);
-  EXPECT_LT(std::fabs(trials.z()), testing::critical_z);
+  EXPECT_LT(std::fabs(trials.z()), test::critical_z);
 }
 
 TEST(RecordStatistics, OfTheLambdasThatDecay642InAThousandMakeAProton) {
@@ -147,7 +147,7 @@ TEST(RecordStatistics, OfTheLambdasThatDecay642InAThousandMakeAProton) {
                  protons += row.pdg == pdg::proton ? 1.0 : 0.0;
                });
   EXPECT_GT(decayed, 9000.0);
-  EXPECT_LT(std::fabs(testing::binomial_z(protons, decayed, 0.642)), testing::critical_z);
+  EXPECT_LT(std::fabs(test::binomial_z(protons, decayed, 0.642)), test::critical_z);
 }
 
 }  // namespace

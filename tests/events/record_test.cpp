@@ -20,9 +20,9 @@
 namespace velquon {
 namespace {
 
-using testing::event_type;
-using testing::next_recorded_event;
-using testing::RecordedEvent;
+using test::event_type;
+using test::next_recorded_event;
+using test::RecordedEvent;
 
 RecordedEvent seeded(std::string_view key, const ChamberValues& values, unsigned seed) {
   std::srand(seed);
@@ -65,7 +65,7 @@ class EveryRecord : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(EveryRecord, KeepsFourMomentumAndGoesWithThePoints) {
   SomeValues settings;
-  testing::CircleCount circles;
+  test::CircleCount circles;
   for (unsigned seed = 1; seed <= 400; ++seed) {
     const ChamberValues values = settings.next();
     std::srand(seed);
@@ -76,8 +76,8 @@ TEST_P(EveryRecord, KeepsFourMomentumAndGoesWithThePoints) {
                ", field " + std::to_string(values.B_field) + ", side " +
                std::to_string(values.sides_cm) + ", energy " + std::to_string(values.kinetic_Mev);
       };
-      ASSERT_EQ(testing::problem_in(event), "") << where();
-      ASSERT_EQ(testing::problem_in_circles(event, circles), "") << where();
+      ASSERT_EQ(test::problem_in(event), "") << where();
+      ASSERT_EQ(test::problem_in_circles(event, circles), "") << where();
     }
   }
   EXPECT_GT(circles.exact, 200U);
@@ -89,7 +89,7 @@ TEST_P(EveryRecord, ChangesNeitherPointsNorDraws) {
     const ChamberValues values = settings.next();
     const RecordedEvent event = seeded(GetParam(), values, seed);
     const int next_draw = std::rand();
-    EXPECT_EQ(testing::seeded_event(GetParam(), values, seed), event.points);
+    EXPECT_EQ(test::seeded_event(GetParam(), values, seed), event.points);
     EXPECT_EQ(std::rand(), next_draw);
   }
 }
@@ -172,7 +172,7 @@ TEST(RecordFates, ASecondPhotonOfALambdaThatIsNotTriedEscapes) {
 
 TEST(RecordFates, APrimaryThatLeavesHasItsTrackAndNothingElse) {
   const ChamberValues straight{.B_field = 0.0F, .sides_cm = 500.0F, .kinetic_Mev = 50.0F};
-  const testing::ScriptedRand script({}, testing::lowest_draw);
+  const test::ScriptedRand script({}, test::lowest_draw);
   const RecordedEvent event = next_recorded_event(event_type("mu+"), straight);
   ASSERT_EQ(event.record.particles().size(), 1U);
   const RecordedParticle& muon = event.record.particles()[0];
@@ -187,7 +187,7 @@ TEST(RecordFates, APrimaryThatLeavesHasItsTrackAndNothingElse) {
 
 TEST(RecordFates, ATrackThatFillsTheEventIsFull) {
   const ChamberValues spiral{.B_field = 10.0F, .sides_cm = 1000.0F, .kinetic_Mev = 0.4F};
-  const testing::ScriptedRand script({}, testing::lowest_draw);
+  const test::ScriptedRand script({}, test::lowest_draw);
   const RecordedEvent event = next_recorded_event(event_type("pi+"), spiral);
   ASSERT_EQ(event.record.particles().size(), 1U);
   EXPECT_EQ(event.record.particles()[0].fate, Fate::full);
@@ -196,9 +196,9 @@ TEST(RecordFates, ATrackThatFillsTheEventIsFull) {
 
 TEST(RecordFates, ADaughterWithoutRoomIsFullAndHasNoPointsAndNoEnd) {
   const ChamberValues spiral{.B_field = 10.0F, .sides_cm = 1000.0F, .kinetic_Mev = 0.4F};
-  std::vector<int> draws(348, testing::lowest_draw);
-  draws.push_back(testing::highest_draw);
-  const testing::ScriptedRand script(draws, testing::draw_of(0.5));
+  std::vector<int> draws(348, test::lowest_draw);
+  draws.push_back(test::highest_draw);
+  const test::ScriptedRand script(draws, test::draw_of(0.5));
   const RecordedEvent event = next_recorded_event(event_type("pi+"), spiral);
   ASSERT_EQ(event.points.size(), 350U);
   const auto rows = event.record.particles();
@@ -214,19 +214,19 @@ TEST(RecordFates, ALeptonThatLeavesOnItsFirstStepHasNeitherPointsNorEnd) {
   const ChamberValues small{.B_field = 0.6F, .sides_cm = 100.0F, .kinetic_Mev = 500.0F};
   const RecordedEvent event = first_event("pi0", small, [](const RecordedEvent& candidate) {
     for (const RecordedParticle& row : candidate.record.particles()) {
-      if (testing::charge_of(row.pdg) != 0 && row.points == 0) {
+      if (test::charge_of(row.pdg) != 0 && row.points == 0) {
         return true;
       }
     }
     return false;
   });
   for (const RecordedParticle& row : event.record.particles()) {
-    if (testing::charge_of(row.pdg) != 0 && row.points == 0) {
+    if (test::charge_of(row.pdg) != 0 && row.points == 0) {
       EXPECT_EQ(row.fate, Fate::left);
       EXPECT_FALSE(row.end_cm.has_value());
     }
   }
-  EXPECT_EQ(testing::problem_in(event), "");
+  EXPECT_EQ(test::problem_in(event), "");
 }
 
 TEST(RecordFates, ATrackThatIsCutWhereTwoAreMergedIsFullAndEndsAtItsLastPoint) {
@@ -235,7 +235,7 @@ TEST(RecordFates, ATrackThatIsCutWhereTwoAreMergedIsFullAndEndsAtItsLastPoint) {
   const RecordedEvent event = first_event("pi0", strong, [](const RecordedEvent& candidate) {
     return candidate.record.particles().size() == 7 && candidate.points.size() == 350;
   });
-  EXPECT_EQ(testing::problem_in(event), "");
+  EXPECT_EQ(test::problem_in(event), "");
   int full = 0;
   for (std::size_t i = 0; i < 7; ++i) {
     const RecordedParticle& row = event.record.particles()[i];
@@ -243,7 +243,7 @@ TEST(RecordFates, ATrackThatIsCutWhereTwoAreMergedIsFullAndEndsAtItsLastPoint) {
       continue;
     }
     ++full;
-    const auto own = testing::points_of(event, i);
+    const auto own = test::points_of(event, i);
     ASSERT_FALSE(own.empty());
     EXPECT_EQ((*row.end_cm)[0], event.points[own.back()].coords[0] * 1000.0 / 800.0);
   }
@@ -256,7 +256,7 @@ TEST(RecordFates, AnEventThatIsNotHandedOverHasNoRecord) {
   int lost = 0;
   for (unsigned seed = 1; seed <= 50; ++seed) {
     const RecordedEvent event = seeded("mu+", huge, seed);
-    ASSERT_EQ(testing::problem_in(event), "");
+    ASSERT_EQ(test::problem_in(event), "");
     lost += event.handed_over == HandOver::no ? 1 : 0;
   }
   EXPECT_GT(lost, 10);
@@ -268,7 +268,7 @@ TEST(RecordFates, AStableDaughterOfALambdaThatDecaysAllTheSameEndsThere) {
     const auto rows = candidate.record.particles();
     return rows.size() > 1 && rows[1].pdg == pdg::proton && rows[1].fate == Fate::decayed;
   });
-  EXPECT_EQ(testing::problem_in(event), "");
+  EXPECT_EQ(test::problem_in(event), "");
   EXPECT_TRUE(event.record.particles()[1].end_cm.has_value());
 }
 

@@ -14,11 +14,11 @@
 namespace velquon {
 namespace {
 
-using testing::highest_draw;
-using testing::lowest_draw;
-using testing::moving;
-using testing::ScriptedRand;
-using testing::usual_scale;
+using test::highest_draw;
+using test::lowest_draw;
+using test::moving;
+using test::ScriptedRand;
+using test::usual_scale;
 
 TEST(ChamberFrame, ChargedTracksReachALittleBeyondTheWall) {
   EXPECT_EQ(half_chamber_side, 400.0);
@@ -90,7 +90,7 @@ TEST(TrackParticle, TakesTheCodesOfAHelixInAField) {
   TrackBuffer buffer;
   const ScriptedRand script({lowest_draw, highest_draw});
   EXPECT_EQ(track_particle(particle, codes, settings(1.0), buffer), TrackEnd::decayed);
-  EXPECT_EQ(testing::codes_of(buffer.points()), (std::vector<std::int16_t>{3, 3, 4}));
+  EXPECT_EQ(test::codes_of(buffer.points()), (std::vector<std::int16_t>{3, 3, 4}));
 }
 
 TEST(TrackParticle, TakesTheCodesOfALineWithoutAField) {
@@ -98,7 +98,7 @@ TEST(TrackParticle, TakesTheCodesOfALineWithoutAField) {
   TrackBuffer buffer;
   const ScriptedRand script({lowest_draw, highest_draw});
   EXPECT_EQ(track_particle(particle, codes, settings(0.0), buffer), TrackEnd::decayed);
-  EXPECT_EQ(testing::codes_of(buffer.points()), (std::vector<std::int16_t>{5, 5, 6}));
+  EXPECT_EQ(test::codes_of(buffer.points()), (std::vector<std::int16_t>{5, 5, 6}));
 }
 
 TEST(TrackParticle, AfterADecayOnAHelixTheMomentumIsTurnedWithTheCountedPoints) {

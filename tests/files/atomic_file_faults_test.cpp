@@ -24,10 +24,10 @@
 namespace velquon {
 namespace {
 
-using testing::CallFault;
-using testing::CallFaultsInForce;
-using testing::file_bytes;
-using testing::TemporaryFolder;
+using test::CallFault;
+using test::CallFaultsInForce;
+using test::file_bytes;
+using test::TemporaryFolder;
 using Bytes = std::vector<std::byte>;
 using Names = std::vector<std::string>;
 
@@ -94,7 +94,7 @@ INSTANTIATE_TEST_SUITE_P(
             "NamedCreate", {no_file_without_a_name, {.call = "create", .error = ENOSPC}}, ENOSPC},
         FailingSave{
             "NamedRename", {no_file_without_a_name, {.call = "renameat", .error = EIO}}, EIO}),
-    testing::case_name<FailingSave>);
+    test::case_name<FailingSave>);
 
 /// Saves of which some call fails and that succeed all the same.
 class MendedSave : public ::testing::TestWithParam<FailingSave> {};
@@ -124,7 +124,7 @@ INSTANTIATE_TEST_SUITE_P(
         FailingSave{"ShortWrites", {{.call = "write", .most_bytes = 7}}},
         FailingSave{"FolderWithoutSync", {{.call = "fsync", .error = EINVAL, .spared = 1}}},
         FailingSave{"FolderNotReadable", {{.call = "open", .error = EACCES}}}),
-    testing::case_name<FailingSave>);
+    test::case_name<FailingSave>);
 
 TEST(AtomicFile, TheFoldersSyncIsLookedAtAfterTheRename) {
   const TemporaryFolder folder;
@@ -182,7 +182,7 @@ INSTANTIATE_TEST_SUITE_P(
         FailingSave{"TemporaryLink", {{.call = "linkat", .spared = 1, .kills = true}}, 0, true},
         FailingSave{"Rename", {{.call = "renameat", .kills = true}}, 0, true},
         FailingSave{"FolderSync", {{.call = "fsync", .spared = 1, .kills = true}}}),
-    testing::case_name<FailingSave>);
+    test::case_name<FailingSave>);
 
 /// Lets a process save over a file again and again, until a signal ends it.
 /// \param faults of its calls
@@ -276,7 +276,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(Ending{"Killed", SIGKILL, {}}, Ending{"Terminated", SIGTERM, {}},
                       Ending{"TerminatedWithATemporaryName", SIGTERM, {no_file_without_a_name}},
                       Ending{"InterruptedWithATemporaryName", SIGINT, {no_file_without_a_name}}),
-    testing::case_name<Ending>);
+    test::case_name<Ending>);
 
 /// Writes a file under a temporary name for some seconds, piece by piece, and then outlives SIGTERM.
 /// \return false when a piece is not taken

@@ -22,10 +22,10 @@
 namespace velquon {
 namespace {
 
-using testing::file_bytes;
-using testing::file_text;
-using testing::FileSizeLimit;
-using testing::TemporaryFolder;
+using test::file_bytes;
+using test::file_text;
+using test::FileSizeLimit;
+using test::TemporaryFolder;
 using Bytes = std::vector<std::byte>;
 using Names = std::vector<std::string>;
 
@@ -186,7 +186,7 @@ TEST(AtomicFile, IntoAFolderThatCannotBeWrittenIsAnError) {
   const TemporaryFolder folder;
   std::filesystem::permissions(
       folder.path(), std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
-  const int error = testing::with_plain_rights(
+  const int error = test::with_plain_rights(
       [&] { return write_file_atomically(folder.path() / "event.cwd", bytes_of(5)).value(); });
   std::filesystem::permissions(folder.path(), std::filesystem::perms::owner_all);
   EXPECT_EQ(error, EACCES);
@@ -197,7 +197,7 @@ TEST(AtomicFile, IntoAFolderThatCannotBeReadIsWritten) {
   const TemporaryFolder folder;
   std::filesystem::permissions(
       folder.path(), std::filesystem::perms::owner_write | std::filesystem::perms::owner_exec);
-  const int error = testing::with_plain_rights(
+  const int error = test::with_plain_rights(
       [&] { return write_file_atomically(folder.path() / "event.cwd", bytes_of(5)).value(); });
   std::filesystem::permissions(folder.path(), std::filesystem::perms::owner_all);
   EXPECT_EQ(error, 0);

@@ -13,8 +13,8 @@
 namespace velquon {
 namespace {
 
-using testing::hex_bytes;
-using testing::hex_text;
+using test::hex_bytes;
+using test::hex_text;
 
 template <std::size_t size>
 std::array<std::byte, size> counting_bytes() {

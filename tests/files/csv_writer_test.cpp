@@ -25,7 +25,7 @@ const std::string header = "event,point,x,y,z,code\n";
 
 /// What a writer makes of events numbered from 1.
 std::string written(const std::vector<std::vector<PlotPoint>>& events) {
-  const testing::TemporaryFolder folder;
+  const test::TemporaryFolder folder;
   const auto path = folder.path() / "events.csv";
   {
     const File file(std::fopen(path.c_str(), "w"));
@@ -35,7 +35,7 @@ std::string written(const std::vector<std::vector<PlotPoint>>& events) {
     }
     EXPECT_FALSE(writer.finish());
   }
-  return testing::file_text(path);
+  return test::file_text(path);
 }
 
 TEST(CsvWriter, WithoutEventsWritesTheHeader) {
@@ -66,7 +66,7 @@ TEST(CsvWriter, WritesManyEventsThroughItsBufferWithoutALoss) {
 TEST(CsvWriter, HasRoomForTheLongestLine) {
   constexpr double longest = -1.2345678901234567e-308;
   const PlotPoint point{.coords = {longest, longest, longest, 1.0}, .code = -32768};
-  const testing::TemporaryFolder folder;
+  const test::TemporaryFolder folder;
   const auto path = folder.path() / "events.csv";
   {
     const File file(std::fopen(path.c_str(), "w"));
@@ -75,7 +75,7 @@ TEST(CsvWriter, HasRoomForTheLongestLine) {
     EXPECT_FALSE(writer.finish());
   }
   const std::string number = "-1.2345678901234567e-308";
-  EXPECT_EQ(testing::file_text(path), header + "18446744073709551615,0," + number + ',' + number +
+  EXPECT_EQ(test::file_text(path), header + "18446744073709551615,0," + number + ',' + number +
                                           ',' + number + ",-32768\n");
 }
 

@@ -24,17 +24,17 @@ std::optional<Refusal> refusal_of(const ReadResult& result) {
 /// An own file of one point at (1.5, 0, 0) in a chamber of 500 cm.
 Bytes own_file() {
   Bytes bytes(123);
-  testing::put_hex(bytes, 0, "50 0001 3FF8000000000000");
-  testing::put_hex(bytes, 51, "407F400000000000");
+  test::put_hex(bytes, 0, "50 0001 3FF8000000000000");
+  test::put_hex(bytes, 51, "407F400000000000");
   return bytes;
 }
 
 /// A PC file of one point at (1.5, 0, 0) in a chamber of 500 cm.
 Bytes pc_file() {
   Bytes bytes(101);
-  testing::put_hex(bytes, 0, "57");
-  testing::put_hex(bytes, 9, "0000000000407F40");
-  testing::put_hex(bytes, 49, "01000000 000000000000F83F");
+  test::put_hex(bytes, 0, "57");
+  test::put_hex(bytes, 9, "0000000000407F40");
+  test::put_hex(bytes, 49, "01000000 000000000000F83F");
   return bytes;
 }
 
@@ -69,8 +69,8 @@ TEST(EventFile, AnEmptyFileIsTheWrongFormat) {
 }
 
 TEST(EventFile, ATagAloneIsBadData) {
-  EXPECT_EQ(refusal_of(read_event_file(testing::hex_bytes("50"))), Refusal::bad_data);
-  EXPECT_EQ(refusal_of(read_event_file(testing::hex_bytes("57"))), Refusal::bad_data);
+  EXPECT_EQ(refusal_of(read_event_file(test::hex_bytes("50"))), Refusal::bad_data);
+  EXPECT_EQ(refusal_of(read_event_file(test::hex_bytes("57"))), Refusal::bad_data);
 }
 
 TEST(EventFile, AFileCutAnywhereBehindItsTagIsBadData) {

@@ -14,9 +14,9 @@
 namespace velquon {
 namespace {
 
-using testing::hex_bytes;
-using testing::hex_text;
-using testing::put_hex;
+using test::hex_bytes;
+using test::hex_text;
+using test::put_hex;
 using Bytes = std::vector<std::byte>;
 
 // A file of one point, written down byte by byte.
@@ -165,7 +165,7 @@ INSTANTIATE_TEST_SUITE_P(Counts, EventCount,
                                            CountCase{"MinusOne", 5001, "FFFF", false},
                                            CountCase{"MostNegative", 5001, "8000", false},
                                            CountCase{"MostPositive", 5001, "7FFF", false}),
-                         testing::case_name<CountCase>);
+                         test::case_name<CountCase>);
 
 struct ValueCase {
   const char* name;
@@ -193,7 +193,7 @@ INSTANTIATE_TEST_SUITE_P(
                       ValueCase{"VanishesInSinglePrecision", side_offset, "01A56E1FC2F8F359",
                                 false},
                       ValueCase{"OutsideTheSlider", side_offset, "40F86A0000000000", true}),
-    testing::case_name<ValueCase>);
+    test::case_name<ValueCase>);
 
 INSTANTIATE_TEST_SUITE_P(
     Fields, EventValues,
@@ -203,7 +203,7 @@ INSTANTIATE_TEST_SUITE_P(
                       ValueCase{"Infinite", field_offset, "FFF0000000000000", false},
                       ValueCase{"BeyondSinglePrecision", field_offset, "FE37E43C8800759C", false},
                       ValueCase{"Denormal", field_offset, "0000000000000001", true}),
-    testing::case_name<ValueCase>);
+    test::case_name<ValueCase>);
 
 INSTANTIATE_TEST_SUITE_P(
     Energies, EventValues,
@@ -214,7 +214,7 @@ INSTANTIATE_TEST_SUITE_P(
                       ValueCase{"NotANumber", energy_offset, "7FF0000000000001", false},
                       ValueCase{"Infinite", energy_offset, "7FF0000000000000", false},
                       ValueCase{"BeyondSinglePrecision", energy_offset, "7E37E43C8800759C", false}),
-    testing::case_name<ValueCase>);
+    test::case_name<ValueCase>);
 
 }  // namespace
 }  // namespace velquon

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-namespace velquon::testing {
+namespace velquon::test {
 
 namespace {
 
@@ -52,4 +52,4 @@ void put_hex(std::vector<std::byte>& bytes, std::size_t offset, std::string_view
   std::ranges::copy(piece, bytes.begin() + static_cast<std::ptrdiff_t>(offset));
 }
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-namespace velquon::testing {
+namespace velquon::test {
 
 /// The bytes of hexadecimal digits, two to a byte; blanks and line ends between them do not count.
 [[nodiscard]] std::vector<std::byte> hex_bytes(std::string_view digits);
@@ -20,4 +20,4 @@ namespace velquon::testing {
 /// Puts the bytes of hexadecimal digits at an offset.
 void put_hex(std::vector<std::byte>& bytes, std::size_t offset, std::string_view digits);
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

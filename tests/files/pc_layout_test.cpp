@@ -15,8 +15,8 @@
 namespace velquon {
 namespace {
 
-using testing::hex_bytes;
-using testing::put_hex;
+using test::hex_bytes;
+using test::put_hex;
 using Bytes = std::vector<std::byte>;
 
 // A file of two points, written down byte by byte.
@@ -126,7 +126,7 @@ INSTANTIATE_TEST_SUITE_P(
                       CodeCase{"LowBitsOf65543StaySeven", "07000100", 7},
                       CodeCase{"MinusOneStays", "FFFFFFFF", -1},
                       CodeCase{"LowBitsOf32768AreNegative", "00800000", -32768}),
-    testing::case_name<CodeCase>);
+    test::case_name<CodeCase>);
 
 struct CountCase {
   const char* name;
@@ -159,7 +159,7 @@ INSTANTIATE_TEST_SUITE_P(Counts, PcCount,
                                                      false},
                                            CountCase{"MostNegative", 5001, "00000080", false},
                                            CountCase{"MostPositive", 5001, "FFFFFF7F", false}),
-                         testing::case_name<CountCase>);
+                         test::case_name<CountCase>);
 
 TEST(PcLayout, AFileCutAnywhereIsRefused) {
   const Bytes file = hex_bytes(two_point_file);
@@ -203,7 +203,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 "59F3F8C21F6EA581"},
                       ValueCase{"EnergyNotANumber", energy_offset, "010000000000F07F"},
                       ValueCase{"EnergyInfinite", energy_offset, "000000000000F07F"}),
-    testing::case_name<ValueCase>);
+    test::case_name<ValueCase>);
 
 }  // namespace
 }  // namespace velquon

@@ -22,7 +22,7 @@ namespace velquon::test {
 
 namespace {
 
-constexpr QRgb white = 0xFFFFFFFF;
+constexpr QRgb bright = 0xFFFFFFFF;
 
 /// The projection of the first event as the program saves it at a scale of the screen.
 QImage projection_at(int scale) {
@@ -36,12 +36,12 @@ QImage projection_at(int scale) {
       .convertToFormat(QImage::Format_RGB32);
 }
 
-/// Lengths of the white runs along a column, without the frame's corners.
+/// Lengths of the bright runs along a column, without the frame's corners.
 std::multiset<int> white_runs(const QImage& picture, int column, int scale) {
   std::multiset<int> runs;
   int run = 0;
   for (int y = 40 * scale; y < 380 * scale; ++y) {
-    if (picture.pixel(column, y) == white) {
+    if (picture.pixel(column, y) == bright) {
       ++run;
     } else if (run > 0) {
       runs.insert(run);

@@ -127,7 +127,7 @@ TEST_F(WorksheetCommandTest, OnAFullDiskTheFormerFileStaysAndNothingElse) {
   const QStringList many =
       words("--type pi- --seed 2 --events 30 --answers") + QStringList{answers()};
   {
-    const velquon::testing::FileSizeLimit limit(3000);
+    const velquon::test::FileSizeLimit limit(3000);
     const QuietEnding ending = leave(many);
     EXPECT_EQ(ending.status, 1);
     EXPECT_EQ(ending.errors,

@@ -231,7 +231,7 @@ TEST_F(EventExportsTest, AFullDiskLeavesTheOldFilesAndIsTold) {
     const QString file = write(QLatin1String(name), "old");
     dialogs().alerts.clear();
     {
-      const velquon::testing::FileSizeLimit limit(100);
+      const velquon::test::FileSizeLimit limit(100);
       dialogs().answer = file;
       choose(item_name);
     }

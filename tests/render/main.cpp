@@ -17,6 +17,6 @@ int main(int argc, char** argv) {
   QSurfaceFormat::setDefaultFormat(format);
   const QGuiApplication application(argc, argv);
   const int result = RUN_ALL_TESTS();
-  velquon::testing::look_for_leaks();
+  velquon::test::look_for_leaks();
   return result;
 }

@@ -26,7 +26,7 @@
 // Takes the place of the C library's functions: linked into a test program, or loaded ahead of the
 // C library into any other.
 
-namespace velquon::testing {
+namespace velquon::test {
 
 namespace {
 
@@ -152,11 +152,11 @@ std::vector<std::string> variables_of(const std::vector<CallFault>& faults,
   return {"LD_PRELOAD=" + library, text.str(), "ASAN_OPTIONS=verify_asan_link_order=0"};
 }
 
-}  // namespace velquon::testing
+}  // namespace velquon::test
 
-using velquon::testing::faulty;
-using velquon::testing::real;
-using velquon::testing::taken_of;
+using velquon::test::faulty;
+using velquon::test::real;
+using velquon::test::taken_of;
 
 // NOLINTBEGIN(readability-inconsistent-declaration-parameter-name): the C library's are reserved.
 extern "C" {
@@ -186,7 +186,7 @@ int renameat(int from_folder, const char* from, int to_folder, const char* to) n
 
 ssize_t write(int file, const void* bytes, std::size_t size) {
   const auto call = real<ssize_t(int, const void*, std::size_t)>("write");
-  if (!velquon::testing::is_regular(file)) {
+  if (!velquon::test::is_regular(file)) {
     return call(file, bytes, size);
   }
   return faulty("write", [=](std::size_t most) { return call(file, bytes, taken_of(size, most)); });
@@ -205,7 +205,7 @@ int openat(int folder, const char* name, int flags, ...) {
   const bool makes_a_file = (flags & O_CREAT) != 0 || (flags & O_TMPFILE) == O_TMPFILE;
   const mode_t mode = makes_a_file ? va_arg(arguments, mode_t) : 0;
   va_end(arguments);
-  return faulty(velquon::testing::kind_of_open(flags), [=](std::size_t) {
+  return faulty(velquon::test::kind_of_open(flags), [=](std::size_t) {
     return real<int(int, const char*, int, ...)>("openat")(folder, name, flags, mode);
   });
 }

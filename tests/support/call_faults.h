@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace velquon::testing {
+namespace velquon::test {
 
 /// A system call that goes wrong. The calls are `fsync`, `write` and `pwrite` (of regular files but
 /// the three standard ones), `fchmod`, `linkat`, `renameat`, and of `openat` three kinds: `tmpfile`
@@ -39,4 +39,4 @@ class CallFaultsInForce {
 [[nodiscard]] std::vector<std::string> variables_of(const std::vector<CallFault>& faults,
                                                     const std::string& library);
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

@@ -7,7 +7,7 @@
 
 #include <string>
 
-namespace velquon::testing {
+namespace velquon::test {
 
 /// Names a row of a table-driven test after its `name`.
 template <typename Case>
@@ -15,4 +15,4 @@ std::string case_name(const ::testing::TestParamInfo<Case>& row) {
   return row.param.name;
 }
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

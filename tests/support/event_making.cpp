@@ -9,7 +9,7 @@
 #include <iterator>
 #include <stdexcept>
 
-namespace velquon::testing {
+namespace velquon::test {
 
 const EventType& event_type(std::string_view key) {
   const auto types = event_types();
@@ -80,4 +80,4 @@ ParticleState moving(const ParticleState& particle_template, const Vector3& mome
   return particle;
 }
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

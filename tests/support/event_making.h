@@ -14,7 +14,7 @@
 #include "engine/particles.h"
 #include "events/event_types.h"
 
-namespace velquon::testing {
+namespace velquon::test {
 
 /// The kind of event with this name on a command line.
 [[nodiscard]] const EventType& event_type(std::string_view key);
@@ -52,4 +52,4 @@ struct RestFrameMomentum {
 /// Drawing units per cm of the chamber at start-up, 500 cm wide.
 inline constexpr double usual_scale = 1.6;
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

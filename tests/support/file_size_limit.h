@@ -7,7 +7,7 @@
 
 #include <csignal>
 
-namespace velquon::testing {
+namespace velquon::test {
 
 /// While one lives, no file of this process and of those it starts can grow beyond a size, as on a
 /// full disk; trying to gives this process an error.
@@ -33,4 +33,4 @@ class FileSizeLimit {
   rlimit old_limit_{};
 };
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

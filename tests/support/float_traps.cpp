@@ -5,7 +5,7 @@
 
 #include <cfenv>
 
-namespace velquon::testing {
+namespace velquon::test {
 
 FloatTraps::FloatTraps() {
   std::feclearexcept(FE_ALL_EXCEPT);
@@ -16,4 +16,4 @@ FloatTraps::~FloatTraps() {
   ::fedisableexcept(FE_ALL_EXCEPT);
 }
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

@@ -3,7 +3,7 @@
 
 #pragma once
 
-namespace velquon::testing {
+namespace velquon::test {
 
 /// While one lives, an invalid operation, a division by zero or an overflow in floating point ends
 /// the test program (SIGFPE). Not for walks that need a NaN.
@@ -15,4 +15,4 @@ class FloatTraps {
   FloatTraps& operator=(const FloatTraps&) = delete;
 };
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

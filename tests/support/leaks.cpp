@@ -14,7 +14,7 @@ const char* __lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identif
 }
 #endif
 
-namespace velquon::testing {
+namespace velquon::test {
 
 void look_for_leaks() {
 #if VELQUON_ADDRESS_SANITIZER
@@ -22,4 +22,4 @@ void look_for_leaks() {
 #endif
 }
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

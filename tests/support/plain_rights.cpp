@@ -12,7 +12,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-namespace velquon::testing {
+namespace velquon::test {
 
 namespace {
 
@@ -56,4 +56,4 @@ int with_plain_rights(const std::function<int()>& body) {
   return ::waitpid(child, &status, 0) == child && WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

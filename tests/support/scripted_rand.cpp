@@ -11,7 +11,7 @@
 
 #include "engine/random.h"
 
-namespace velquon::testing {
+namespace velquon::test {
 
 namespace {
 
@@ -83,8 +83,8 @@ int answer() {
 
 }  // namespace
 
-}  // namespace velquon::testing
+}  // namespace velquon::test
 
 extern "C" int rand() noexcept {
-  return velquon::testing::answer();
+  return velquon::test::answer();
 }

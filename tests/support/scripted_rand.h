@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-namespace velquon::testing {
+namespace velquon::test {
 
 /// The smallest and the largest result of `rand`: draws of exactly 0 and 1.
 inline constexpr int lowest_draw = 0;
@@ -44,4 +44,4 @@ class ScriptedRand {
 /// Draws made from the C library's own generator in this program, while no script played.
 [[nodiscard]] std::size_t real_draws();
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

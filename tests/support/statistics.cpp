@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace velquon::testing {
+namespace velquon::test {
 
 double kolmogorov_statistic(std::vector<double> sample,
                             const std::function<double(double)>& distribution) {
@@ -39,4 +39,4 @@ double binomial_z(double count, double n, double p) {
   return (count - n * p) / std::sqrt(n * p * (1.0 - p));
 }
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

@@ -7,7 +7,7 @@
 #include <span>
 #include <vector>
 
-namespace velquon::testing {
+namespace velquon::test {
 
 // All tests of a law are made at a significance of 1e-4 and with fixed seeds: a right program
 // passes every time, and a seed is not chosen to make it pass.
@@ -34,4 +34,4 @@ inline constexpr double critical_kolmogorov = 2.2252;
 /// Distance of a count from n p in units of its standard deviation sqrt(n p (1 - p)).
 [[nodiscard]] double binomial_z(double count, double n, double p);
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

@@ -10,7 +10,7 @@
 #include <stdexcept>
 #include <system_error>
 
-namespace velquon::testing {
+namespace velquon::test {
 
 TemporaryFolder::TemporaryFolder() {
   std::string name = (std::filesystem::temp_directory_path() / "velquon-XXXXXX").string();
@@ -48,4 +48,4 @@ std::vector<std::byte> file_bytes(const std::filesystem::path& path) {
   return bytes;
 }
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

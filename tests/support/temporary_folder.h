@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace velquon::testing {
+namespace velquon::test {
 
 /// A fresh folder that goes, with all it holds, when this object does.
 class TemporaryFolder {
@@ -30,4 +30,4 @@ class TemporaryFolder {
 [[nodiscard]] std::vector<std::byte> file_bytes(const std::filesystem::path& path);
 [[nodiscard]] std::string file_text(const std::filesystem::path& path);
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

@@ -14,7 +14,7 @@
 namespace velquon {
 namespace {
 
-using testing::Words;
+using test::Words;
 
 ParsedOptions parsed(const Words& words) {
   std::vector<const char*> argv{"velquon-events"};
@@ -38,7 +38,7 @@ EventOptions options_of(const Words& words) {
 
 TEST(EventOptions, DefaultsAreTheStartUpValues) {
   const EventOptions options = options_of({"--type", "pi-"});
-  EXPECT_EQ(options.type, &testing::event_type("pi-"));
+  EXPECT_EQ(options.type, &test::event_type("pi-"));
   EXPECT_EQ(options.values.B_field, 0.6F);
   EXPECT_EQ(options.values.sides_cm, 500.0F);
   EXPECT_EQ(options.values.kinetic_Mev, 0.4F);
@@ -50,8 +50,8 @@ TEST(EventOptions, DefaultsAreTheStartUpValues) {
 
 TEST(EventOptions, EveryTypeHasItsName) {
   for (const char* key : {"pi-", "pi+", "pi0", "mu-", "mu+", "lambda"}) {
-    EXPECT_EQ(options_of({"--type", key}).type, &testing::event_type(key));
-    EXPECT_EQ(options_of({std::string("--type=") + key}).type, &testing::event_type(key));
+    EXPECT_EQ(options_of({"--type", key}).type, &test::event_type(key));
+    EXPECT_EQ(options_of({std::string("--type=") + key}).type, &test::event_type(key));
   }
 }
 
@@ -126,7 +126,7 @@ TEST_P(HostileCommandLine, GivesStatus2AndOneLine) {
   const auto result = parsed(GetParam());
   EXPECT_FALSE(result.options.has_value());
   EXPECT_EQ(result.status, 2);
-  EXPECT_TRUE(testing::is_one_message(result.message)) << result.message;
+  EXPECT_TRUE(test::is_one_message(result.message)) << result.message;
 }
 
 Words with_type(Words words) {

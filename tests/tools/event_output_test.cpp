@@ -18,10 +18,10 @@
 namespace velquon {
 namespace {
 
-using testing::draw_of;
-using testing::highest_draw;
-using testing::lowest_draw;
-using testing::TemporaryFolder;
+using test::draw_of;
+using test::highest_draw;
+using test::lowest_draw;
+using test::TemporaryFolder;
 using Names = std::vector<std::string>;
 
 // A muon that decays after two steps into an electron straight ahead, which "decays" after two steps
@@ -56,12 +56,12 @@ Written write_two_events(const std::string& format, const std::string& output) {
   {
     const File out(std::fopen((folder.path() / "out").c_str(), "w"));
     const File messages(std::fopen((folder.path() / "messages").c_str(), "w"));
-    const testing::ScriptedRand script(one_event_not_handed_over, lowest_draw);
+    const test::ScriptedRand script(one_event_not_handed_over, lowest_draw);
     EXPECT_EQ(write_events(parsed.options.value(), out.get(), messages.get()), 0);
     EXPECT_TRUE(script.played_out());
   }
-  return {testing::file_text(folder.path() / "out"),
-          testing::file_text(folder.path() / "messages")};
+  return {test::file_text(folder.path() / "out"),
+          test::file_text(folder.path() / "messages")};
 }
 
 TEST(WriteEvents, AnEventThatIsNotHandedOverHasItsNumberAndNoLines) {

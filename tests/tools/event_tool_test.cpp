@@ -28,12 +28,12 @@
 namespace velquon {
 namespace {
 
-using testing::CallFault;
-using testing::is_one_message;
-using testing::Names;
-using testing::run_tool;
-using testing::TemporaryFolder;
-using testing::Words;
+using test::CallFault;
+using test::is_one_message;
+using test::Names;
+using test::run_tool;
+using test::TemporaryFolder;
+using test::Words;
 
 TEST(EventTool, TheSameSeedMakesTheSameBytes) {
   for (const char* type : {"pi-", "pi+", "pi0", "mu-", "mu+", "lambda"}) {
@@ -74,7 +74,7 @@ TEST(EventTool, EventsComeFromOneStreamSoAShorterRunIsTheBeginningOfALongerOne) 
 TEST(EventTool, TheFirstEventIsTheSeededEvent) {
   const auto run = run_tool({"--type", "mu+", "--seed", "8", "--field", "1", "--energy", "1"});
   const auto points =
-      testing::seeded_event("mu+", {.B_field = 1.0F, .sides_cm = 500.0F, .kinetic_Mev = 1.0F}, 8);
+      test::seeded_event("mu+", {.B_field = 1.0F, .sides_cm = 500.0F, .kinetic_Mev = 1.0F}, 8);
   ASSERT_FALSE(points.empty());
   EXPECT_EQ(static_cast<std::size_t>(std::ranges::count(run.out, '\n')), points.size() + 1);
 }
@@ -137,10 +137,10 @@ TEST(EventFiles, AreNumberedFrom1WithSixDigitsAndHoldTheEvents) {
   EXPECT_EQ(names.back(), "event-000012.cwd");
 
   const ChamberValues values{.B_field = 2.0F, .sides_cm = 500.0F, .kinetic_Mev = 0.4F};
-  const auto result = read_event_file(testing::file_bytes(folder.path() / names.front()));
+  const auto result = read_event_file(test::file_bytes(folder.path() / names.front()));
   ASSERT_TRUE(std::holds_alternative<StoredEvent>(result));
   const auto& event = std::get<StoredEvent>(result);
-  EXPECT_EQ(event.points, testing::seeded_event("pi-", values, 4));
+  EXPECT_EQ(event.points, test::seeded_event("pi-", values, 4));
   EXPECT_EQ(event.values.B_field, 2.0F) << "the field is stored as it was set, not flipped";
   EXPECT_EQ(event.values.sides_cm, 500.0F);
   EXPECT_EQ(event.values.kinetic_Mev, 0.4F);
@@ -158,7 +158,7 @@ TEST(EventFiles, EventsWithoutPointsGetNoFileAndAreCounted) {
   EXPECT_EQ(run.messages, "velquon-events: " + std::to_string(40 - files) +
                               " of 40 events had no points and got no file\n");
   for (const std::string& name : folder.names()) {
-    const auto result = read_event_file(testing::file_bytes(folder.path() / name));
+    const auto result = read_event_file(test::file_bytes(folder.path() / name));
     EXPECT_TRUE(std::holds_alternative<StoredEvent>(result)) << name;
   }
 }
@@ -168,7 +168,7 @@ TEST(EventFiles, AreReplacedByALaterRun) {
   const Words words{"--type", "mu+", "--seed", "4", "--format", "cwd", "--output", folder.path()};
   std::ofstream(folder.path() / "event-000001.cwd") << std::string(100000, 'x');
   EXPECT_EQ(run_tool(words).status, 0);
-  const auto result = read_event_file(testing::file_bytes(folder.path() / "event-000001.cwd"));
+  const auto result = read_event_file(test::file_bytes(folder.path() / "event-000001.cwd"));
   EXPECT_TRUE(std::holds_alternative<StoredEvent>(result));
   EXPECT_EQ(folder.names(), Names{"event-000001.cwd"});
 }
@@ -194,7 +194,7 @@ TEST(EventFiles, AFileInsteadOfAFolderIsNamedWithTheReason) {
   const TemporaryFolder folder;
   std::ofstream(folder.path() / "file") << "kept";
   expect_failure(folder.path() / "file", "Not a directory");
-  EXPECT_EQ(testing::file_text(folder.path() / "file"), "kept");
+  EXPECT_EQ(test::file_text(folder.path() / "file"), "kept");
 }
 
 TEST(EventFiles, AFolderThatTakesNoFilesIsNamedWithTheReason) {
@@ -206,7 +206,7 @@ TEST(EventFiles, AFolderThatCannotBeWrittenIsNamedWithTheReason) {
   const TemporaryFolder folder;
   std::filesystem::permissions(
       folder.path(), std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
-  EXPECT_EQ(testing::with_plain_rights([&] {
+  EXPECT_EQ(test::with_plain_rights([&] {
               expect_failure(folder.path(), "Permission denied");
               return HasFailure() ? 1 : 0;
             }),
@@ -226,9 +226,9 @@ TEST_P(FailedEventFile, IsNamedWithTheReasonAndTheOldFileStays) {
   const TemporaryFolder folder;
   std::ofstream(folder.path() / "event-000001.cwd") << "the old event";
   expect_failure(folder.path(), GetParam().reason,
-                 testing::variables_of(GetParam().faults, CALL_FAULTS_LIBRARY));
+                 test::variables_of(GetParam().faults, CALL_FAULTS_LIBRARY));
   EXPECT_EQ(folder.names(), Names{"event-000001.cwd"});
-  EXPECT_EQ(testing::file_text(folder.path() / "event-000001.cwd"), "the old event");
+  EXPECT_EQ(test::file_text(folder.path() / "event-000001.cwd"), "the old event");
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -245,17 +245,17 @@ INSTANTIATE_TEST_SUITE_P(
         FailingCall{"NamedSync",
                     {{.call = "tmpfile", .error = EOPNOTSUPP}, {.call = "fsync", .error = EIO}},
                     "Input/output error"}),
-    testing::case_name<FailingCall>);
+    test::case_name<FailingCall>);
 
 TEST(EventFiles, OfRunsThatAreKilledAreWholeAndWithoutOthers) {
   const TemporaryFolder folder;
   for (int attempt = 0; attempt < 10; ++attempt) {
-    testing::kill_tool({"--type", "pi-", "--seed", "4", "--events", "999999", "--format", "cwd",
+    test::kill_tool({"--type", "pi-", "--seed", "4", "--events", "999999", "--format", "cwd",
                         "--output", folder.path()},
                        std::chrono::milliseconds(20 + 10 * attempt));
     for (const std::string& name : folder.names()) {
       ASSERT_TRUE(name.starts_with("event-") && name.ends_with(".cwd")) << name;
-      const auto bytes = testing::file_bytes(folder.path() / name);
+      const auto bytes = test::file_bytes(folder.path() / name);
       const auto result = read_event_file(bytes);
       ASSERT_TRUE(std::holds_alternative<StoredEvent>(result)) << name;
       ASSERT_EQ(bytes.size(), 48 * std::get<StoredEvent>(result).points.size() + 75);
@@ -274,7 +274,7 @@ TEST(EventFiles, AFileSizeLimitIsNamedWithTheReasonAndLeavesNoHalfFile) {
   expect_failure(folder.path(), "File too large");
   ::setrlimit(RLIMIT_FSIZE, &old_limit);
   EXPECT_EQ(folder.names(), Names{"event-000001.cwd"});
-  EXPECT_EQ(testing::file_text(folder.path() / "event-000001.cwd"), "the old event");
+  EXPECT_EQ(test::file_text(folder.path() / "event-000001.cwd"), "the old event");
 }
 
 }  // namespace

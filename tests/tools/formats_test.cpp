@@ -24,16 +24,16 @@
 namespace velquon {
 namespace {
 
-using testing::is_one_message;
-using testing::Names;
-using testing::run_tool;
-using testing::TemporaryFolder;
-using testing::Words;
+using test::is_one_message;
+using test::Names;
+using test::run_tool;
+using test::TemporaryFolder;
+using test::Words;
 
 constexpr ChamberValues values{.B_field = 2.0F, .sides_cm = 300.0F, .kinetic_Mev = 60.0F};
 
 Words with_values(const std::string& type, const Words& more) {
-  return testing::with({"--type", type, "--field", "2", "--side", "300", "--energy", "60", "--seed",
+  return test::with({"--type", type, "--field", "2", "--side", "300", "--energy", "60", "--seed",
                         "20261121", "--events", "60"},
                        more);
 }
@@ -103,7 +103,7 @@ TEST_P(ParticlesFormat, IsTheRecordRowByRow) {
   for (int number = 1; number <= 60; ++number) {
     TrackBuffer buffer;
     ParticleRecord record;
-    make_event(testing::event_type(GetParam()), values, buffer, &record);
+    make_event(test::event_type(GetParam()), values, buffer, &record);
     for (std::size_t i = 0; i < record.particles().size(); ++i, ++line) {
       ASSERT_LT(line, table.size());
       ASSERT_EQ(table[line].size(), 18U);
@@ -125,7 +125,7 @@ struct Array {
 };
 
 Array array_in(const std::filesystem::path& path) {
-  const auto bytes = testing::file_bytes(path);
+  const auto bytes = test::file_bytes(path);
   if (bytes.size() < 10 || std::memcmp(bytes.data(), "\x93NUMPY\x01\x00", 8) != 0) {
     ADD_FAILURE() << "no NumPy file of version 1.0";
     return {};
@@ -204,7 +204,7 @@ TEST_P(WholeFile, IsTheSameAsOnStandardOutput) {
       run_tool(with_values("lambda", {"--format", GetParam(), "--output", path.string()}));
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.out + run.messages, "");
-  EXPECT_EQ(testing::file_text(path), out.out);
+  EXPECT_EQ(test::file_text(path), out.out);
   EXPECT_EQ(folder.names(), Names{"file"});
 }
 
@@ -222,12 +222,12 @@ TEST_P(WholeFile, ThatIsTooLargeIsNamedAndTheOldOneStays) {
   const TemporaryFolder folder;
   const auto path = folder.path() / "file";
   std::ofstream(path) << "the old one";
-  const testing::FileSizeLimit limit(400);
+  const test::FileSizeLimit limit(400);
   const auto run =
       run_tool(with_values("lambda", {"--format", GetParam(), "--output", path.string()}));
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.messages, "velquon-events: cannot write " + path.string() + ": File too large\n");
-  EXPECT_EQ(testing::file_text(path), "the old one");
+  EXPECT_EQ(test::file_text(path), "the old one");
   EXPECT_EQ(folder.names(), Names{"file"});
 }
 
@@ -252,7 +252,7 @@ INSTANTIATE_TEST_SUITE_P(Formats, WholeFile, ::testing::Values("particles", "hep
 
 TEST(NpyFormat, ThatIsTooLargeLeavesNoHalfFile) {
   const TemporaryFolder folder;
-  const testing::FileSizeLimit limit(400);
+  const test::FileSizeLimit limit(400);
   const auto run =
       run_tool(with_values("lambda", {"--format", "npy", "--output", folder.path().string()}));
   EXPECT_EQ(run.status, 1);

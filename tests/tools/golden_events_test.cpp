@@ -69,7 +69,7 @@ TEST_P(GoldenEvents, AreMadeAgain) {
   ASSERT_GT(golden.size(), 10U) << "the reference is missing";
 
   const auto run =
-      testing::run_tool({"--type", row.type, "--field", row.field, "--energy", row.energy, "--side",
+      test::run_tool({"--type", row.type, "--field", row.field, "--energy", row.energy, "--side",
                          row.side, "--seed", row.seed, "--events", row.events});
   ASSERT_EQ(run.status, 0) << run.messages;
   std::istringstream out(run.out);
@@ -87,21 +87,21 @@ INSTANTIATE_TEST_SUITE_P(
                       GoldenCase{"Field", "pi-minus_0.6.csv", "pi-", "0.6", "1", "500", "11", "4"},
                       GoldenCase{"NegativeField", "pi-minus_-3.3.csv", "pi-", "-3.3", "5", "500",
                                  "22", "6"}),
-    testing::case_name<GoldenCase>);
+    test::case_name<GoldenCase>);
 INSTANTIATE_TEST_SUITE_P(
     PositivePion, GoldenEvents,
     ::testing::Values(GoldenCase{"NoField", "pi-plus_0.csv", "pi+", "0", "1", "500", "12", "4"},
                       GoldenCase{"Field", "pi-plus_0.6.csv", "pi+", "0.6", "1", "500", "12", "4"},
                       GoldenCase{"NegativeField", "pi-plus_-3.3.csv", "pi+", "-3.3", "5", "1000",
                                  "21", "6"}),
-    testing::case_name<GoldenCase>);
+    test::case_name<GoldenCase>);
 INSTANTIATE_TEST_SUITE_P(
     NeutralPion, GoldenEvents,
     ::testing::Values(GoldenCase{"NoField", "pi0_0.csv", "pi0", "0", "100", "500", "13", "5"},
                       GoldenCase{"Field", "pi0_0.6.csv", "pi0", "0.6", "100", "500", "13", "4"},
                       GoldenCase{"NegativeField", "pi0_-3.3.csv", "pi0", "-3.3", "400", "300", "13",
                                  "3"}),
-    testing::case_name<GoldenCase>);
+    test::case_name<GoldenCase>);
 INSTANTIATE_TEST_SUITE_P(NegativeMuon, GoldenEvents,
                          ::testing::Values(GoldenCase{"NoField", "mu-minus_0.csv", "mu-", "0",
                                                       "0.05", "500", "14", "3"},
@@ -109,14 +109,14 @@ INSTANTIATE_TEST_SUITE_P(NegativeMuon, GoldenEvents,
                                                       "0.05", "500", "14", "3"},
                                            GoldenCase{"NegativeField", "mu-minus_-3.3.csv", "mu-",
                                                       "-3.3", "0.05", "500", "14", "3"}),
-                         testing::case_name<GoldenCase>);
+                         test::case_name<GoldenCase>);
 INSTANTIATE_TEST_SUITE_P(
     PositiveMuon, GoldenEvents,
     ::testing::Values(GoldenCase{"NoField", "mu-plus_0.csv", "mu+", "0", "2", "50", "15", "3"},
                       GoldenCase{"Field", "mu-plus_0.6.csv", "mu+", "0.6", "2", "50", "15", "3"},
                       GoldenCase{"NegativeField", "mu-plus_-3.3.csv", "mu+", "-3.3", "2", "50",
                                  "15", "3"}),
-    testing::case_name<GoldenCase>);
+    test::case_name<GoldenCase>);
 INSTANTIATE_TEST_SUITE_P(Lambda, GoldenEvents,
                          ::testing::Values(GoldenCase{"NoField", "lambda_0.csv", "lambda", "0",
                                                       "3000", "500", "16", "4"},
@@ -124,7 +124,7 @@ INSTANTIATE_TEST_SUITE_P(Lambda, GoldenEvents,
                                                       "3000", "500", "16", "4"},
                                            GoldenCase{"NegativeField", "lambda_-3.3.csv", "lambda",
                                                       "-3.3", "3000", "500", "16", "2"}),
-                         testing::case_name<GoldenCase>);
+                         test::case_name<GoldenCase>);
 
 }  // namespace
 }  // namespace velquon

@@ -24,8 +24,8 @@
 namespace velquon {
 namespace {
 
-using testing::run_tool;
-using testing::TemporaryFolder;
+using test::run_tool;
+using test::TemporaryFolder;
 
 struct Case {
   const char* type;
@@ -55,7 +55,7 @@ ReadBack read_back(const Case& made) {
   EXPECT_EQ(tool.status, 0);
   EXPECT_EQ(tool.messages, "");
   ReadBack result;
-  result.text = testing::file_text(path);
+  result.text = test::file_text(path);
   HepMC3::ReaderAscii reader(path.string());
   while (!reader.failed()) {
     auto event = std::make_shared<HepMC3::GenEvent>();
@@ -69,7 +69,7 @@ ReadBack read_back(const Case& made) {
   std::srand(77);
   for (int i = 0; i < events_of_a_run; ++i) {
     TrackBuffer buffer;
-    make_event(testing::event_type(made.type), made.values, buffer, &result.records.emplace_back());
+    make_event(test::event_type(made.type), made.values, buffer, &result.records.emplace_back());
   }
   return result;
 }

@@ -28,13 +28,13 @@
 namespace velquon {
 namespace {
 
-using testing::is_one_message;
-using testing::Names;
-using testing::run_tool;
-using testing::RunningTool;
-using testing::TemporaryFolder;
-using testing::with;
-using testing::Words;
+using test::is_one_message;
+using test::Names;
+using test::run_tool;
+using test::RunningTool;
+using test::TemporaryFolder;
+using test::with;
+using test::Words;
 namespace fs = std::filesystem;
 
 Words long_run(const TemporaryFolder& folder, const char* format, const char* seeds,
@@ -55,7 +55,7 @@ bool runs(pid_t process) {
 
 /// With these the tool is on a file system without files that have no name.
 std::vector<std::string> no_files_without_a_name() {
-  return testing::variables_of({{.call = "tmpfile", .error = EOPNOTSUPP}}, CALL_FAULTS_LIBRARY);
+  return test::variables_of({{.call = "tmpfile", .error = EOPNOTSUPP}}, CALL_FAULTS_LIBRARY);
 }
 
 /// Waits, for half a minute at most, until so many files or folders are being written.
@@ -83,7 +83,7 @@ void expect_others_to_finish(const TemporaryFolder& folder, Words words, const N
   wait_for_hidden_names(folder, hidden);
   ::kill(workers[0], SIGKILL);
   EXPECT_EQ(tool.status(), 1);
-  EXPECT_EQ(testing::file_text(other.path() / "messages"),
+  EXPECT_EQ(test::file_text(other.path() / "messages"),
             "velquon-events: the worker of seed 1 was ended by signal 9 (Killed)\n");
   EXPECT_EQ(folder.names(), others);
   // What is missing is made up for.
@@ -121,7 +121,7 @@ TEST(SeedRuns, AreNotDisturbedByWhatTheirParentIgnores) {
   ASSERT_EQ(tool.wait_for_workers(2).size(), 2U);
   ::kill(tool.process(), SIGHUP);
   EXPECT_EQ(tool.status(), 0);
-  EXPECT_EQ(testing::file_text(other.path() / "messages"), "");
+  EXPECT_EQ(test::file_text(other.path() / "messages"), "");
   EXPECT_EQ(folder.names().size(), 3U);
 }
 
@@ -140,7 +140,7 @@ TEST(SeedRuns, AnInterruptEndsAllWorkersAndLeavesOnlyWholeFiles) {
       for (const pid_t worker : workers) {
         EXPECT_FALSE(runs(worker));
       }
-      const std::string messages = testing::file_text(other.path() / "messages");
+      const std::string messages = test::file_text(other.path() / "messages");
       EXPECT_TRUE(is_one_message(messages)) << messages;
       EXPECT_NE(messages.find(" 0 of 100 seeds are complete"), std::string::npos) << messages;
       EXPECT_EQ(folder.names(), Names{});

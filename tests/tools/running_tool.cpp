@@ -11,7 +11,7 @@
 #include <fstream>
 #include <thread>
 
-namespace velquon::testing {
+namespace velquon::test {
 
 RunningTool::RunningTool(const Words& arguments, const ToolStreams& streams,
                          const std::vector<std::string>& variables)
@@ -48,4 +48,4 @@ int RunningTool::status() const {
   return -1;
 }
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

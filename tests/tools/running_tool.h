@@ -10,7 +10,7 @@
 
 #include "tests/tools/tool_run.h"
 
-namespace velquon::testing {
+namespace velquon::test {
 
 /// The tool while it runs.
 class RunningTool {
@@ -32,4 +32,4 @@ class RunningTool {
   pid_t process_;
 };
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

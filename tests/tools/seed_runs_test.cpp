@@ -20,12 +20,12 @@
 namespace velquon {
 namespace {
 
-using testing::is_one_message;
-using testing::Names;
-using testing::run_tool;
-using testing::TemporaryFolder;
-using testing::with;
-using testing::Words;
+using test::is_one_message;
+using test::Names;
+using test::run_tool;
+using test::TemporaryFolder;
+using test::with;
+using test::Words;
 namespace fs = std::filesystem;
 
 const Words lambdas{"--type", "lambda", "--energy", "50", "--events", "40"};
@@ -50,9 +50,9 @@ TEST_P(SeedsOfAFormat, AreEachToTheByteWhatTheSeedAloneMakes) {
     }
     const auto single = run_tool(words);
     EXPECT_EQ(single.status, 0);
-    const std::string wanted = std::string(format) == "csv" ? single.out : testing::file_text(file);
+    const std::string wanted = std::string(format) == "csv" ? single.out : test::file_text(file);
     EXPECT_GT(wanted.size(), 100U);
-    EXPECT_EQ(testing::file_text(folder.path() / names.back()), wanted);
+    EXPECT_EQ(test::file_text(folder.path() / names.back()), wanted);
   }
   EXPECT_EQ(folder.names(), names);
 }
@@ -76,8 +76,8 @@ TEST(SeedRuns, MakeAFolderOfEventFilesForEachSeed) {
       0);
   ASSERT_GT(alone.names().size(), 5U);
   for (const std::string& name : alone.names()) {
-    EXPECT_EQ(testing::file_bytes(folder.path() / "seed-2" / name),
-              testing::file_bytes(alone.path() / name));
+    EXPECT_EQ(test::file_bytes(folder.path() / "seed-2" / name),
+              test::file_bytes(alone.path() / name));
   }
 }
 
@@ -110,8 +110,8 @@ TEST(SeedRuns, ResumedLeaveOutTheSeedsThatAreThere) {
       lambdas, {"--seeds", "1-3", "--resume", "--format", "summary", "--output", folder.path()}));
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(folder.names(), (Names{"seed-1.json", "seed-2.json", "seed-3.json"}));
-  EXPECT_EQ(testing::file_text(folder.path() / "seed-2.json"), "there");
-  EXPECT_GT(testing::file_text(folder.path() / "seed-3.json").size(), 100U);
+  EXPECT_EQ(test::file_text(folder.path() / "seed-2.json"), "there");
+  EXPECT_GT(test::file_text(folder.path() / "seed-3.json").size(), 100U);
 }
 
 TEST(SeedRuns, IntoAFolderThatIsNotThereEndWithOneLine) {
@@ -125,7 +125,7 @@ TEST(SeedRuns, IntoAFolderThatIsNotThereEndWithOneLine) {
 
 TEST(SeedRuns, OnAFullDiskEndWithOneLineAndWithoutAHalfFile) {
   const TemporaryFolder folder;
-  const testing::FileSizeLimit limit(400);
+  const test::FileSizeLimit limit(400);
   for (const char* format : {"csv", "npy", "particles", "hepmc3", "summary"}) {
     for (const char* jobs : {"1", "2"}) {
       const auto run = run_tool(with(lambdas, {"--seeds", "1-20", "--jobs", jobs, "--format",
@@ -141,7 +141,7 @@ TEST(SeedRuns, OnAFullDiskEndWithOneLineAndWithoutAHalfFile) {
 
 TEST(SeedRuns, OfEventFilesOnAFullDiskLeaveNoFolder) {
   const TemporaryFolder folder;
-  const testing::FileSizeLimit limit(400);
+  const test::FileSizeLimit limit(400);
   const auto run =
       run_tool(with(lambdas, {"--seeds", "1-3", "--format", "cwd", "--output", folder.path()}));
   EXPECT_EQ(run.status, 1);

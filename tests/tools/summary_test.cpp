@@ -19,16 +19,16 @@
 namespace velquon {
 namespace {
 
-using testing::run_tool;
-using testing::TemporaryFolder;
-using testing::Words;
+using test::run_tool;
+using test::TemporaryFolder;
+using test::Words;
 
 constexpr ChamberValues values{.B_field = 2.0F, .sides_cm = 300.0F, .kinetic_Mev = 60.0F};
 
 /// The summary of streams of 300 events, one after another.
 Summary summary_of(const char* type, const std::vector<std::uint32_t>& seeds) {
   Summary summary =
-      empty_summary({.type = &testing::event_type(type), .values = values, .seed = seeds.front()});
+      empty_summary({.type = &test::event_type(type), .values = values, .seed = seeds.front()});
   for (const std::uint32_t seed : seeds) {
     if (seed != seeds.front()) {
       summary.runs.push_back({.seed = seed, .events = 0});
@@ -37,7 +37,7 @@ Summary summary_of(const char* type, const std::vector<std::uint32_t>& seeds) {
     for (int i = 0; i < 300; ++i) {
       TrackBuffer buffer;
       ParticleRecord record;
-      make_event(testing::event_type(type), values, buffer, &record);
+      make_event(test::event_type(type), values, buffer, &record);
       summary.count(buffer.points(), record);
     }
   }
@@ -111,7 +111,7 @@ TEST(Summary, CountsWhatTheRecordsSay) {
   for (int i = 0; i < 300; ++i) {
     TrackBuffer buffer;
     ParticleRecord record;
-    make_event(testing::event_type("lambda"), values, buffer, &record);
+    make_event(test::event_type("lambda"), values, buffer, &record);
     const RecordedParticle& lambda = record.particles()[0];
     escaped += lambda.fate == Fate::escaped ? 1U : 0U;
     charged += record.particles().size() > 1 && record.particles()[1].pdg == pdg::proton ? 1U : 0U;

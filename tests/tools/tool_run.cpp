@@ -17,7 +17,7 @@
 
 #include "tests/support/temporary_folder.h"
 
-namespace velquon::testing {
+namespace velquon::test {
 
 namespace {
 
@@ -100,4 +100,4 @@ bool is_one_message(const std::string& text) {
          text.ends_with('\n');
 }
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-namespace velquon::testing {
+namespace velquon::test {
 
 using Names = std::vector<std::string>;
 using Words = std::vector<std::string>;
@@ -48,4 +48,4 @@ void kill_tool(const Words& arguments, std::chrono::milliseconds after);
 /// True when the text is one line, with its end, that begins with the tool's name.
 [[nodiscard]] bool is_one_message(const std::string& text);
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

@@ -16,6 +16,6 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   setlocale(LC_NUMERIC, "C");
   const int result = RUN_ALL_TESTS();
-  velquon::testing::look_for_leaks();
+  velquon::test::look_for_leaks();
   return result;
 }

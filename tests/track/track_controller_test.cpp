@@ -17,7 +17,7 @@
 namespace velquon {
 namespace {
 
-using testing::TrackRig;
+using test::TrackRig;
 
 QString title_of(const QAction* item) {
   return item->text().remove(QLatin1Char('&'));

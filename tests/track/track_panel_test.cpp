@@ -18,7 +18,7 @@
 namespace velquon {
 namespace {
 
-using testing::TrackRig;
+using test::TrackRig;
 
 QString accessible_name(QWidget* widget) {
   return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);

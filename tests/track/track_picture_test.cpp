@@ -19,7 +19,7 @@
 namespace velquon {
 namespace {
 
-using testing::TrackRig;
+using test::TrackRig;
 
 constexpr int entry_height = 228;
 constexpr double pixel = 1.5;  // how far a line's pixels may lie from it

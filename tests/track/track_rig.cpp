@@ -12,7 +12,7 @@
 
 #include "app/track_commands.h"
 
-namespace velquon::testing {
+namespace velquon::test {
 
 namespace {
 
@@ -152,4 +152,4 @@ std::vector<QPoint> TrackRig::redPixels() const {
   return pixels_of(picture(), [](QRgb color) { return (color & 0xFFFFFFU) == 0xFF0000U; });
 }
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

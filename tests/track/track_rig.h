@@ -20,7 +20,7 @@
 #include "ui_menus.h"
 #include "widgets/value_slider.h"
 
-namespace velquon::testing {
+namespace velquon::test {
 
 /// A window that tells when it becomes active and when it no longer is.
 class KeyWindow : public QMainWindow {
@@ -86,4 +86,4 @@ class TrackRig {
   void makeMenus();
 };
 
-}  // namespace velquon::testing
+}  // namespace velquon::test

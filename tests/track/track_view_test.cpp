@@ -19,7 +19,7 @@
 namespace velquon {
 namespace {
 
-using testing::TrackRig;
+using test::TrackRig;
 
 class TrackView : public ::testing::Test {
  protected:

@@ -27,6 +27,6 @@ int main(int argc, char** argv) {
     std::fputs("the filter leaves no test to run\n", stderr);
     result = 1;
   }
-  velquon::testing::look_for_leaks();
+  velquon::test::look_for_leaks();
   return result;
 }
