@@ -28,6 +28,12 @@ void add_actions(Commands& commands, const Ui::Menus& menus, ChamberController& 
                  ChamberView& view) {
   commands.add(
       {{.item = menus.new_event_item, .run = [&] { controller.makeNewEvent(); }},
+       {.item = menus.previous_event_item,
+        .run = [&] { controller.showPreviousEvent(); },
+        .is_enabled = [&] { return controller.model().hasPreviousEvent(); }},
+       {.item = menus.next_event_item,
+        .run = [&] { controller.showNextEvent(); },
+        .is_enabled = [&] { return controller.model().hasNextEvent(); }},
        {.item = menus.replay_item, .run = [&] { view.replay(); }},
        {.item = menus.rotate_item, .run = [&] { view.doRotation(RotationDirection::forward); }},
        {.item = menus.reverse_rotate_item,

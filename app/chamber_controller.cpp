@@ -85,6 +85,26 @@ void ChamberController::makeNewEvent() {
   projection_view_.display();
 }
 
+void ChamberController::showPreviousEvent() {
+  if (model_.hasPreviousEvent()) {
+    showAgain(&ChamberModel::showPreviousEvent);
+  }
+}
+
+void ChamberController::showNextEvent() {
+  if (model_.hasNextEvent()) {
+    showAgain(&ChamberModel::showNextEvent);
+  }
+}
+
+void ChamberController::showAgain(void (ChamberModel::*show)()) {
+  chamber_view_.stopRotating();
+  (model_.*show)();
+  renameWindows(shownName());
+  projection_view_.restore();
+  displayViews();
+}
+
 void ChamberController::setChamberData(std::span<const PlotPoint> points) {
   model_.showTracks(points);
 }

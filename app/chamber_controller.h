@@ -53,6 +53,11 @@ class ChamberController : public QObject {
   /// Makes an event of the chosen type with the values of the controls and shows it.
   void makeNewEvent();
 
+  /// Show again, in both views, the event that was made or opened before or after the one that is
+  /// shown. Nothing where there is none.
+  void showPreviousEvent();
+  void showNextEvent();
+
   // Run the generator of a kind of event under the next values as they stand.
   void makePionDecay();
   void makeMuonDecay();
@@ -101,6 +106,7 @@ class ChamberController : public QObject {
 
  private:
   void connectWindows();
+  void showAgain(void (ChamberModel::*show)());
   void handOver();
   void setPrintView(Printable* view);
   void keyWindowChanged();

@@ -4,6 +4,7 @@
 #include "app/commands.h"
 
 #include <QAction>
+#include <QHash>
 
 namespace velquon {
 
@@ -28,16 +29,21 @@ void Commands::enableBy(const QList<QAction*>& items, const std::function<bool()
 }
 
 void Commands::refresh() const {
+  // Several may have a say in whether an item can be chosen; each may forbid it.
+  QHash<QAction*, bool> enabled;
   for (const Command& command : commands_) {
     if (command.is_checked) {
       command.item->setChecked(command.is_checked());
     }
     if (command.is_enabled) {
-      command.item->setEnabled(command.is_enabled());
+      enabled[command.item] = enabled.value(command.item, true) && command.is_enabled();
     }
     if (command.title) {
       command.item->setText(command.title());
     }
+  }
+  for (const auto& [item, is_enabled] : enabled.asKeyValueRange()) {
+    item->setEnabled(is_enabled);
   }
 }
 

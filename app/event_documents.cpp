@@ -116,6 +116,7 @@ void EventDocuments::tellRefusal(Refusal refusal, const QString& path) {
 }
 
 void EventDocuments::show(const StoredEvent& event, const QString& name) {
+  controller_.model().beginEvent();
   controller_.setChamberData(event.points);
   if (event.field_was_negative) {
     dialogs_.alert(QStringLiteral("You should know..."),

@@ -5,7 +5,6 @@
 
 #include <GL/gl.h>
 
-#include <QMouseEvent>
 #include <utility>
 
 #include "chamber/input_watch.h"
@@ -76,13 +75,6 @@ void ChamberView::initializeGL() {
 
 void ChamberView::reshape() {
   glClear(GL_COLOR_BUFFER_BIT);
-}
-
-void ChamberView::mousePressEvent(QMouseEvent* event) {
-  event->accept();
-  if (event->button() == Qt::LeftButton) {
-    stopRotating();
-  }
 }
 
 std::string ChamberView::values_text() const {

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -118,6 +119,8 @@ class ChamberView : public GLView, public Printable {
   void drawRect() override;
   void reshape() override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   [[nodiscard]] SceneOptions sceneOptions() const;
@@ -137,6 +140,9 @@ class ChamberView : public GLView, public Printable {
 
   Clock clock_ = Microseconds;
   QTimer step_timer_;  ///< runs until the next step of the turntable
+
+  std::optional<QPointF> pressed_at_;  ///< while the mouse's button is down
+  std::optional<QPointF> dragged_to_;  ///< while it turns the chamber
 
   std::unique_ptr<InputWatch> input_watch_;  ///< there while a replay is due or runs
   LateInput late_input_;

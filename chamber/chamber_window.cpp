@@ -3,6 +3,7 @@
 
 #include "chamber/chamber_window.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QToolButton>
@@ -72,6 +73,14 @@ ChamberWindow::~ChamberWindow() = default;
 
 ViewScrollArea* ChamberWindow::area() const {
   return ui_->chamber_area;
+}
+
+void ChamberWindow::keyPressEvent(QKeyEvent* event) {
+  if (view_->is_rotating() && (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Space)) {
+    view_->stopRotating();
+    return;
+  }
+  GLPanel::keyPressEvent(event);
 }
 
 void ChamberWindow::fillToolBar(const QList<QAction*>& items, QMenu* event_menu) {

@@ -37,6 +37,10 @@ class ChamberWindow : public GLPanel {
   /// menu is checked, and opens the menu.
   void fillToolBar(const QList<QAction*>& items, QMenu* event_menu);
 
+ protected:
+  /// Escape and Space stop the turntable where it is, unless what has the focus takes them.
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   std::unique_ptr<Ui::ChamberWindow> ui_;
   ChamberView* view_;

@@ -34,6 +34,7 @@ void ChamberModel::setPreferences(const ChamberPreferences& preferences) {
 }
 
 void ChamberModel::makeNewEvent() {
+  beginEvent();
   showNextValues();
   const auto type = static_cast<std::size_t>(event_type_);
   if (type < event_types().size()) {
@@ -41,6 +42,25 @@ void ChamberModel::makeNewEvent() {
     showName("Untitled Type " + std::to_string(type + 1) + " Decay");
   }
   setHasEvent();
+}
+
+void ChamberModel::showPreviousEvent() {
+  if (hasPreviousEvent()) {
+    showAgain(history_.previous());
+  }
+}
+
+void ChamberModel::showNextEvent() {
+  if (hasNextEvent()) {
+    showAgain(history_.next());
+  }
+}
+
+void ChamberModel::showAgain(std::shared_ptr<const ShownEvent> event) {
+  marked_.clear();
+  revealed_ = false;
+  shown_ = std::move(event);
+  changed.tell();
 }
 
 void ChamberModel::makeTracks(const EventType& type) {
@@ -101,6 +121,7 @@ void ChamberModel::changeShown(Change change) {
   auto shown = std::make_shared<ShownEvent>(*shown_);
   change(*shown);
   shown_ = std::move(shown);
+  history_.update(shown_);
   changed.tell();
 }
 

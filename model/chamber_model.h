@@ -13,6 +13,7 @@
 #include "engine/chamber_values.h"
 #include "engine/event_record.h"
 #include "events/event_types.h"
+#include "model/event_history.h"
 #include "model/listeners.h"
 #include "model/shown_event.h"
 #include "model/turntable.h"
@@ -66,6 +67,15 @@ class ChamberModel {
   /// The event that is shown; never null.
   [[nodiscard]] const std::shared_ptr<const ShownEvent>& shown() const { return shown_; }
 
+  /// What is shown from now on is another event than before: the one before stays in the history.
+  void beginEvent() { history_.begin(); }
+  /// Whether there is an event that was made or opened before the one that is shown, or after it.
+  [[nodiscard]] bool hasPreviousEvent() const { return history_.hasPrevious(); }
+  [[nodiscard]] bool hasNextEvent() const { return history_.hasNext(); }
+  /// Shows it again, with its values and its name; the next values stay. Nothing where there is none.
+  void showPreviousEvent();
+  void showNextEvent();
+
   /// Makes an event of the chosen kind with the next values and shows it. An event whose tracks
   /// are not handed over leaves those that are shown; values and name change all the same.
   void makeNewEvent();
@@ -96,6 +106,7 @@ class ChamberModel {
   template <typename Change>
   void changeShown(Change change);
   void takeTracks(std::shared_ptr<const EventTracks> tracks);
+  void showAgain(std::shared_ptr<const ShownEvent> event);
 
   std::uint32_t seed_;
   int event_type_ = 0;
@@ -103,6 +114,7 @@ class ChamberModel {
   ChamberPreferences preferences_;
   Turntable turntable_;
   std::shared_ptr<const ShownEvent> shown_ = std::make_shared<const ShownEvent>();
+  EventHistory history_;
   std::vector<std::size_t> marked_;
   bool revealed_ = false;
 };

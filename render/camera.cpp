@@ -137,6 +137,22 @@ void Camera::turn(double degrees, const Vector& axis) {
   model_view_ = model_view_ * rotation(degrees, axis);
 }
 
+void Camera::turnNearSide(double rightwards, double downwards) {
+  const double degrees = std::hypot(rightwards, downwards);
+  if (degrees == 0.0) {
+    return;
+  }
+  // The axis lies in the picture; the transposed turn brings it to the chamber's own directions.
+  const Vector in_picture{downwards / degrees, rightwards / degrees, 0.0};
+  Vector axis{};
+  for (std::size_t i = 0; i < axis.size(); ++i) {
+    for (std::size_t row = 0; row < axis.size(); ++row) {
+      axis[i] += model_view_[row][i] * in_picture[row];
+    }
+  }
+  turn(degrees, axis);
+}
+
 Camera Camera::scrolled(double x, double y) const {
   Camera moved = *this;
   moved.scrolled_x_ = scrolled_x_ + x;

@@ -32,6 +32,11 @@ class Camera {
   /// \param axis of length 1
   void turn(double degrees, const Vector& axis);
 
+  /// Turns the chamber about its middle as a hand that drags its near side.
+  /// \param rightwards degrees by which the near side goes to the right of the picture
+  /// \param downwards  degrees by which it goes down
+  void turnNearSide(double rightwards, double downwards);
+
   /// The same camera with the picture moved, for a view that shows the part of the picture whose
   /// lower left corner is at x, y of it (view units).
   [[nodiscard]] Camera scrolled(double x, double y) const;
