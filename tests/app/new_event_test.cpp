@@ -148,9 +148,8 @@ TEST_F(NewEventTest, AnEventThatIsNotHandedOverLeavesThePointsAndRefreshesTheRes
   using velquon::test::lowest_draw;
   // The muon's second step ends it, the electron goes straight ahead, and its second step ends it,
   // which practically never happens: the last particle of a chain is stable.
-  const velquon::test::ScriptedRand script({lowest_draw, highest_draw, draw_of(0.5),
-                                               highest_draw, lowest_draw, lowest_draw, lowest_draw,
-                                               highest_draw});
+  const velquon::test::ScriptedRand script({lowest_draw, highest_draw, draw_of(0.5), highest_draw,
+                                            lowest_draw, lowest_draw, lowest_draw, highest_draw});
   choose("new_event_item");
   EXPECT_TRUE(script.played_out());
   EXPECT_EQ(shown(), before);

@@ -64,8 +64,8 @@ TEST(ToTheLab, TheAcrossComponentsLieAgainstThePolarAndAzimuthalUnitVectors) {
     to_the_lab(direction, out, along, across_1, across_2);
     Vector3 expected{};
     for (std::size_t axis = 0; axis < 3; ++axis) {
-      expected[axis] = along * direction[axis] / test::length(direction) -
-                       across_2 * polar[axis] - across_1 * azimuthal[axis];
+      expected[axis] = along * direction[axis] / test::length(direction) - across_2 * polar[axis] -
+                       across_1 * azimuthal[axis];
     }
     expect_near(out, expected, 1e-11);
   }

@@ -202,7 +202,7 @@ TEST(LambdaChain, InAFieldProtonAndPionCurveInOppositeSenses) {
     ++seen;
     const auto turn = [](const std::vector<Vector3>& track) {
       return test::cross(test::difference(track[1], track[0]),
-                            test::difference(track[2], track[1]))[2];
+                         test::difference(track[2], track[1]))[2];
     };
     EXPECT_GT(turn(tracks[0]), 0.0) << "the negative pion turns to the left";
     EXPECT_LT(turn(tracks[1]), 0.0) << "the proton turns to the right";

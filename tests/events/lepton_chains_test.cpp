@@ -70,8 +70,8 @@ TEST(PionChain, OnALineTheMuonsMomentumFollowsFromThePionsUnchangedOne) {
   const ScriptedRand script(joined({one_step, {draw_of(0.5), draw_of(0.25)}}), lowest_draw);
   pion_chain(straight, event);
   ASSERT_GT(event.count, 3);
-  const Vector3 first = test::difference(test::position_of(event.points()[2]),
-                                            test::position_of(event.points()[1]));
+  const Vector3 first =
+      test::difference(test::position_of(event.points()[2]), test::position_of(event.points()[1]));
   const double k = (139.6 * 139.6 - 105.7 * 105.7) / (2.0 * 139.6);
   const double along = std::sqrt(50.0 * 50.0 + 2.0 * 50.0 * 139.6) * std::hypot(k, 105.7) / 139.6;
   EXPECT_NEAR(first[0], 20.0 * k / std::hypot(k, along), 1e-5);
@@ -92,8 +92,8 @@ TEST(PionChain, OnAHelixTheMuonFliesInTheTurnedDirectionOfThePion) {
   // The muon's first chord is half its phase step beyond the pion's direction, which has turned by
   // the three counted steps and not by the fourth to the decay point.
   const double turned = 3 * 20.0 / pion_radius + 0.5 * 20.0 / muon_radius;
-  const Vector3 chord = test::difference(test::position_of(event.points()[4]),
-                                            test::position_of(event.points()[3]));
+  const Vector3 chord =
+      test::difference(test::position_of(event.points()[4]), test::position_of(event.points()[3]));
   EXPECT_NEAR(std::atan2(chord[0], chord[1]), turned, 1e-6);
 }
 

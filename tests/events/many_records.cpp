@@ -60,5 +60,5 @@ int main(int argc, char** argv) {
     return 2;
   }
   return velquon::test::check(std::strtoul(argv[1], nullptr, 10),
-                                 argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 1U);
+                              argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 1U);
 }

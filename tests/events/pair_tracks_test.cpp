@@ -25,8 +25,7 @@ using Codes = std::vector<std::int16_t>;
 
 /// A pair of a photon at a position, converted with these draws.
 PhotonPair pair_at(const Vector3& momentum, const Vector3& position,
-                   const std::vector<int>& draws = {test::draw_of(0.5), lowest_draw,
-                                                    lowest_draw}) {
+                   const std::vector<int>& draws = {test::draw_of(0.5), lowest_draw, lowest_draw}) {
   PhotonPair pair;
   pair.photon = moving(photon, momentum, position);
   const ScriptedRand script(draws);
@@ -98,7 +97,7 @@ TEST(PairPaths, TheElectronTurnsLeftAndThePositronRightInAPositiveField) {
     }
     const auto turn = [](const std::vector<Vector3>& track) {
       return test::cross(test::difference(track.at(1), track.at(0)),
-                            test::difference(track.at(2), track.at(1)))[2];
+                         test::difference(track.at(2), track.at(1)))[2];
     };
     EXPECT_GT(turn(electron_track) * field, 0.0);
     EXPECT_LT(turn(positron_track) * field, 0.0);

@@ -76,7 +76,7 @@ TEST(CsvWriter, HasRoomForTheLongestLine) {
   }
   const std::string number = "-1.2345678901234567e-308";
   EXPECT_EQ(test::file_text(path), header + "18446744073709551615,0," + number + ',' + number +
-                                          ',' + number + ",-32768\n");
+                                       ',' + number + ",-32768\n");
 }
 
 TEST(CsvWriter, ReportsAFullDeviceWhenItFinishes) {

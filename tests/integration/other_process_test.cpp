@@ -117,10 +117,9 @@ TEST_F(OtherProcessTest, KilledWhileItSavesLeavesAWholeFile) {
 }
 
 TEST_F(OtherProcessTest, TellsWhyAPictureIsNotWritten) {
-  const Ending ending =
-      run_program(VELQUON_PROGRAM, {QStringLiteral("--pictures"), path(QStringLiteral("."))},
-                  as_qt(velquon::test::variables_of({{.call = "fsync", .error = EIO}},
-                                                       CALL_FAULTS_LIBRARY)));
+  const Ending ending = run_program(
+      VELQUON_PROGRAM, {QStringLiteral("--pictures"), path(QStringLiteral("."))},
+      as_qt(velquon::test::variables_of({{.call = "fsync", .error = EIO}}, CALL_FAULTS_LIBRARY)));
   EXPECT_EQ(ending.status, 1);
   const QString picture = path(QStringLiteral("./negative-pion-chamber.png"));
   EXPECT_TRUE(ending.errors.endsWith(

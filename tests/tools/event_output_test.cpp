@@ -60,8 +60,7 @@ Written write_two_events(const std::string& format, const std::string& output) {
     EXPECT_EQ(write_events(parsed.options.value(), out.get(), messages.get()), 0);
     EXPECT_TRUE(script.played_out());
   }
-  return {test::file_text(folder.path() / "out"),
-          test::file_text(folder.path() / "messages")};
+  return {test::file_text(folder.path() / "out"), test::file_text(folder.path() / "messages")};
 }
 
 TEST(WriteEvents, AnEventThatIsNotHandedOverHasItsNumberAndNoLines) {

@@ -251,8 +251,8 @@ TEST(EventFiles, OfRunsThatAreKilledAreWholeAndWithoutOthers) {
   const TemporaryFolder folder;
   for (int attempt = 0; attempt < 10; ++attempt) {
     test::kill_tool({"--type", "pi-", "--seed", "4", "--events", "999999", "--format", "cwd",
-                        "--output", folder.path()},
-                       std::chrono::milliseconds(20 + 10 * attempt));
+                     "--output", folder.path()},
+                    std::chrono::milliseconds(20 + 10 * attempt));
     for (const std::string& name : folder.names()) {
       ASSERT_TRUE(name.starts_with("event-") && name.ends_with(".cwd")) << name;
       const auto bytes = test::file_bytes(folder.path() / name);

@@ -34,8 +34,8 @@ constexpr ChamberValues values{.B_field = 2.0F, .sides_cm = 300.0F, .kinetic_Mev
 
 Words with_values(const std::string& type, const Words& more) {
   return test::with({"--type", type, "--field", "2", "--side", "300", "--energy", "60", "--seed",
-                        "20261121", "--events", "60"},
-                       more);
+                     "20261121", "--events", "60"},
+                    more);
 }
 
 /// The fields of a table's lines.

@@ -68,9 +68,8 @@ TEST_P(GoldenEvents, AreMadeAgain) {
   const auto golden = lines_of(golden_file);
   ASSERT_GT(golden.size(), 10U) << "the reference is missing";
 
-  const auto run =
-      test::run_tool({"--type", row.type, "--field", row.field, "--energy", row.energy, "--side",
-                         row.side, "--seed", row.seed, "--events", row.events});
+  const auto run = test::run_tool({"--type", row.type, "--field", row.field, "--energy", row.energy,
+                                   "--side", row.side, "--seed", row.seed, "--events", row.events});
   ASSERT_EQ(run.status, 0) << run.messages;
   std::istringstream out(run.out);
   const auto made = lines_of(out);
