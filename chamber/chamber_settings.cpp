@@ -8,10 +8,13 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <functional>
 
 #include "model/chamber_model.h"
 #include "ui_chamber_window.h"
 #include "widgets/number_text.h"
+#include "widgets/value_editor.h"
+#include "widgets/value_label.h"
 #include "widgets/value_slider.h"
 
 namespace velquon {
@@ -72,6 +75,45 @@ ChamberSettings::ChamberSettings(const Ui::ChamberWindow& controls, ChamberModel
                    [this] { reset_field(controls_.magfield_slider); });
   QObject::connect(controls_.size_slider, &ValueSlider::moved, controls_.size_slider,
                    [this] { reset_sides(controls_.size_slider); });
+  letValuesBeTyped();
+}
+
+void ChamberSettings::letValuesBeTyped() {
+  struct Typed {
+    ValueLabel* label;
+    const ValueSlider* slider;
+    ValueBounds bounds;
+    std::function<void(double)> take;
+  };
+  const auto bounds_of = [](const ValueSlider& slider, const char* unit) {
+    constexpr int decimals = 4;
+    return ValueBounds{.least = slider.minValue(),
+                       .most = slider.maxValue(),
+                       .decimals = decimals,
+                       .unit = QLatin1String(unit)};
+  };
+  // Whatever range the slider has: the typed energy chooses it. An energy of 0 is not offered.
+  constexpr int energy_digits = 6;
+  const ValueBounds energies{.least = 1e-6,
+                             .most = static_cast<double>(evalues.front()),
+                             .decimals = energy_digits,
+                             .unit = QStringLiteral("MeV")};
+  for (const Typed& typed :
+       {Typed{controls_.magfield_text, controls_.magfield_slider,
+              bounds_of(*controls_.magfield_slider, "kG"),
+              [this](double field_kG) { setFieldControl(static_cast<float>(field_kG)); }},
+        Typed{controls_.sides_text, controls_.size_slider, bounds_of(*controls_.size_slider, "m"),
+              [this](double side_m) {
+                controls_.size_slider->setFloatValue(static_cast<float>(side_m));
+                reset_sides(controls_.size_slider);
+              }},
+        Typed{controls_.kinetic_energy_text, controls_.energy_slider, energies,
+              [this](double energy_MeV) { setEnergyControl(static_cast<float>(energy_MeV)); }}}) {
+    typed.label->setEditable();
+    QObject::connect(typed.label, &ValueLabel::editAsked, typed.label, [typed] {
+      ValueEditor::open(*typed.label, typed.bounds, typed.slider->doubleValue(), typed.take);
+    });
+  }
 }
 
 void ChamberSettings::showValues(const ChamberValues& values) {

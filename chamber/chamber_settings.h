@@ -43,6 +43,7 @@ class ChamberSettings {
   [[nodiscard]] const ChamberValues& next() const;
 
  private:
+  void letValuesBeTyped();
   void reset_energy_range(const QComboBox* sender);
   void reset_energy(const ValueSlider* sender);
   void reset_field(const ValueSlider* sender);

@@ -4,8 +4,10 @@
 #include "widgets/value_label.h"
 
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionFocusRect>
 #include <QToolTip>
 
 namespace velquon {
@@ -19,6 +21,12 @@ QString ValueLabel::shownText() const {
              : metrics.elidedText(text(), Qt::ElideRight, room);
 }
 
+void ValueLabel::setEditable() {
+  is_editable_ = true;
+  setFocusPolicy(Qt::TabFocus);
+  setToolTip(tr("Double click, or Return, to type a value"));
+}
+
 bool ValueLabel::event(QEvent* event) {
   if (event->type() == QEvent::ToolTip && shownText() != text()) {
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
@@ -29,14 +37,37 @@ bool ValueLabel::event(QEvent* event) {
 
 void ValueLabel::paintEvent(QPaintEvent* event) {
   const QString shown = shownText();
+  QPainter painter(this);
+  if (hasFocus()) {
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+  }
   if (shown == text()) {
+    painter.end();
     QLabel::paintEvent(event);
     return;
   }
-  QPainter painter(this);
   style()->drawItemText(&painter, contentsRect(),
                         static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())),
                         palette(), isEnabled(), shown, foregroundRole());
+}
+
+void ValueLabel::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (is_editable_) {
+    Q_EMIT editAsked();
+  } else {
+    QLabel::mouseDoubleClickEvent(event);
+  }
+}
+
+void ValueLabel::keyPressEvent(QKeyEvent* event) {
+  const bool is_return = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (is_editable_ && is_return) {
+    Q_EMIT editAsked();
+  } else {
+    QLabel::keyPressEvent(event);
+  }
 }
 
 }  // namespace velquon

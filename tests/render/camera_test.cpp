@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cmath>
 
 #include "render/off_screen.h"
 
@@ -162,6 +163,50 @@ TEST(CameraTest, ATurnOfHalfADegree720TimesComesBack) {
   for (std::size_t row = 0; row < 4; ++row) {
     for (std::size_t column = 0; column < 4; ++column) {
       EXPECT_NEAR(camera.modelView()[row][column], Camera().modelView()[row][column], 1.0e-9);
+    }
+  }
+}
+
+TEST(CameraTest, ADragMovesTheNearSideWithTheHandAndLeavesTheMiddle) {
+  struct Drag {
+    double rightwards;
+    double downwards;
+  };
+  for (const int turned : {0, 40, 215}) {
+    for (const auto [rightwards, downwards] :
+         {Drag{1.0, 0.0}, Drag{-1.0, 0.0}, Drag{0.0, 1.0}, Drag{0.0, -1.0}}) {
+      Camera camera;
+      camera.turn(turned, along_z);
+      camera.turn(0.6 * turned, along_x);
+      const Vector eye = camera.eye();
+      // A place between the middle of the chamber and the eye.
+      const Vector near_side{0.06 * eye[0], 0.06 * eye[1], 0.06 * eye[2]};
+      const auto before = camera.pixel(near_side);
+      const auto middle = camera.pixel({0.0, 0.0, 0.0});
+      camera.turnNearSide(rightwards, downwards);
+      const auto after = camera.pixel(near_side);
+      EXPECT_GT((after[0] - before[0]) * rightwards - (after[1] - before[1]) * downwards, 0.3);
+      EXPECT_NEAR((after[0] - before[0]) * downwards + (after[1] - before[1]) * rightwards, 0.0,
+                  0.1);
+      EXPECT_NEAR(camera.pixel({0.0, 0.0, 0.0})[0], middle[0], 1e-9);
+      EXPECT_NEAR(camera.pixel({0.0, 0.0, 0.0})[1], middle[1], 1e-9);
+    }
+  }
+}
+
+TEST(CameraTest, AThousandDragsKeepTheChamberACube) {
+  Camera camera;
+  for (int i = 0; i < 1000; ++i) {
+    camera.turnNearSide(3.0 * std::sin(i), 5.0 * std::cos(i));
+  }
+  const Matrix& view = camera.modelView();
+  for (std::size_t row = 0; row < 3; ++row) {
+    for (std::size_t other = 0; other < 3; ++other) {
+      double product = 0.0;
+      for (std::size_t k = 0; k < 3; ++k) {
+        product += view[row][k] * view[other][k];
+      }
+      EXPECT_NEAR(product, row == other ? 1.0 : 0.0, 1e-11);
     }
   }
 }
