@@ -15,9 +15,6 @@ namespace velquon {
 void prepare_desktop() {
   // GLUT needs X, so on a Wayland desktop the windows go through its X server.
   qputenv("QT_QPA_PLATFORM", "xcb");
-  // The program keeps nothing between runs, no compiled shaders either. What the graphics driver keeps of
-  // its own, as for every program that draws, is left to it: without it a start takes twice as long.
-  QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
   use_compatibility_contexts();
 }
 

@@ -17,6 +17,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <array>
 
 #include "app/desktop_dialogs.h"
@@ -374,9 +375,13 @@ TEST(DesktopDialogs, KeepNothingBetweenRuns) {
   for (QDirIterator entry(home.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
        entry.hasNext();) {
     const QString name = QDir(home.path()).relativeFilePath(entry.next());
-    // What fontconfig knows of the fonts and Mesa's compiled shaders are kept for any program.
-    if (!name.startsWith(QStringLiteral("cache/fontconfig/")) &&
-        !name.startsWith(QStringLiteral("cache/mesa_shader_cache"))) {
+    // What fontconfig knows of the fonts, and the shaders that Mesa and Qt have compiled, they keep for
+    // any program.
+    const QStringList shared{QStringLiteral("cache/fontconfig/"),
+                             QStringLiteral("cache/mesa_shader_cache"),
+                             QStringLiteral("cache/qtshadercache-")};
+    if (std::ranges::none_of(shared,
+                             [&](const QString& cache) { return name.startsWith(cache); })) {
       left << name;
     }
   }
