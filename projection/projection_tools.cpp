@@ -4,6 +4,7 @@
 // The mouse and the cursors of the projection view.
 
 #include <QMouseEvent>
+#include <utility>
 
 #include "projection/projection_view.h"
 #include "widgets/cursors.h"
@@ -19,12 +20,20 @@ Place place_of(QPointF point) {
 }  // namespace
 
 void ProjectionView::mousePressEvent(QMouseEvent* event) {
+  hideCross();
   if (event->button() == Qt::LeftButton) {
     projector_.press(place_of(locationOf(*event)));
+    if (projector_.tool() == ProjectorTool::curve || projector_.tool() == ProjectorTool::angle) {
+      display();
+    }
   }
 }
 
 void ProjectionView::mouseMoveEvent(QMouseEvent* event) {
+  // Windows that come and go under a mouse at rest make the same event.
+  if (std::exchange(mouse_, event->globalPosition()) != event->globalPosition()) {
+    hideCross();
+  }
   if (event->buttons().testFlag(Qt::LeftButton)) {
     projector_.drag(place_of(locationOf(*event)));
     display();
@@ -39,7 +48,7 @@ void ProjectionView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ProjectionView::resetCursorRects() {
-  setCursor(projector_.tool() == ProjectorTool::tape ? cross_hair_cursor_ : grabber_cursor_);
+  setCursor(projector_.tool() == ProjectorTool::grab ? grabber_cursor_ : cross_hair_cursor_);
 }
 
 void ProjectionView::makeCursors() {

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "printing/projection_page.h"
+#include "projection/tool_drawing.h"
 #include "render/line_arrays.h"
 
 namespace velquon {
@@ -36,7 +37,10 @@ void draw_dotted_frame(const ProjectedFrame& frame, int dot) {
 }  // namespace
 
 ProjectionView::ProjectionView(Projector& projector, QWidget* parent)
-    : GLView(parent), projector_(projector) {
+    : GLView(parent), projector_(projector), cross_(projector) {
+  setFocusPolicy(Qt::StrongFocus);
+  // A mouse that moves takes the cross of the keys away.
+  setMouseTracking(true);
   makeCursors();
   // A screen of another ratio gives the view another framebuffer, and this signal.
   connect(this, &QOpenGLWidget::resized, this, &ProjectionView::makeCursors);
@@ -46,6 +50,7 @@ void ProjectionView::show(std::shared_ptr<const ShownEvent> event) {
   const bool has_other_tracks = event->tracks != event_->tracks;
   const double scaler_before = scaler();
   event_ = std::move(event);
+  projector_.show(event_);
   if (has_other_tracks) {
     makeDisplayPoints();
   }
@@ -99,7 +104,8 @@ void ProjectionView::drawRect() {
   // OpenGL counts the width of lines and the length of dots in device pixels.
   glLineWidth(static_cast<GLfloat>(ratio));
   drawTracks();
-  drawTape();
+  draw_tool(projector_);
+  draw_cross(cross_);
   glFlush();
 }
 
@@ -121,21 +127,11 @@ void ProjectionView::drawSquare(std::size_t point, double half_side) const {
   glRectd(x - half_side, y - half_side, x + half_side, y + half_side);
 }
 
-void ProjectionView::drawTape() const {
-  const Tape& tape = projector_.tape();
-  if (!tape.visible) {
-    return;
-  }
-  glColor3f(1.0F, 0.0F, 0.0F);
-  glBegin(GL_LINE_STRIP);
-  glVertex2d(tape.start.x, tape.start.y);
-  glVertex2d(tape.end.x, tape.end.y);
-  glEnd();
-}
-
 void ProjectionView::reshape() {
   glClear(GL_COLOR_BUFFER_BIT);
+  const double height_before = projector_.viewHeight();
   projector_.setViewHeight(pictureHeight());
+  cross_.moveBy({0.0, projector_.viewHeight() - height_before});
 }
 
 }  // namespace velquon

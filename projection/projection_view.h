@@ -4,11 +4,13 @@
 #pragma once
 
 #include <QCursor>
+#include <QPointF>
 #include <cstddef>
 #include <memory>
 #include <utility>
 #include <vector>
 
+#include "model/key_cross.h"
 #include "model/projector.h"
 #include "model/shown_event.h"
 #include "printing/page.h"
@@ -16,8 +18,8 @@
 
 namespace velquon {
 
-/// The event that it is handed, projected onto one of the coordinate planes, with a tape measure and a
-/// grab tool. What is chosen and measured is the projector's.
+/// The event that it is handed, projected onto one of the coordinate planes, with tools that measure
+/// it by mouse and by keys. What is chosen and measured is the projector's.
 class ProjectionView : public GLView, public Printable {
   Q_OBJECT
 
@@ -25,18 +27,20 @@ class ProjectionView : public GLView, public Printable {
   /// \param projector plane, zoom, tools and tape; must outlive the view
   explicit ProjectionView(Projector& projector, QWidget* parent = nullptr);
 
-  /// Takes the event to draw. A tape on the screen is read anew. Does not draw.
+  /// Takes the event to draw. A tape on the screen is read anew, curve and angle are cleared by other
+  /// tracks. Does not draw.
   void show(std::shared_ptr<const ShownEvent> event);
 
   /// Emphasises points of the event on the screen, not on a page. Does not draw.
   /// \param points their indices, rising
   void mark(std::vector<std::size_t> points) { marked_ = std::move(points); }
 
-  /// Chooses the plane; hides the tape and puts the picture back to its place.
+  // A choice hides the tape and clears curve and angle.
+
+  /// Chooses the plane; puts the picture back to its place.
   void setProjection(ProjectionPlane plane);
-  /// Chooses the zoom; hides the tape and keeps the offsets.
+  /// Chooses the zoom; keeps the offsets.
   void setZoom(float zoom);
-  /// Chooses the tool; hides the tape.
   void setTool(ProjectorTool tool);
 
   void resetOffsets() { projector_.resetOffsets(); }
@@ -51,6 +55,8 @@ class ProjectionView : public GLView, public Printable {
   [[nodiscard]] ProjectionMapping mapping() const { return projector_.mapping(); }
   [[nodiscard]] ProjectionPlane projection_plane() const { return projector_.plane(); }
   [[nodiscard]] bool tape_visible() const { return projector_.tape().visible; }
+  /// The cross that keys move.
+  [[nodiscard]] const KeyCross& cross() const { return cross_; }
 
   void paint(QPainter& page) override;
 
@@ -60,6 +66,9 @@ class ProjectionView : public GLView, public Printable {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   /// Height of the picture, which hangs from its top.
@@ -67,11 +76,19 @@ class ProjectionView : public GLView, public Printable {
   void makeDisplayPoints();
   void drawTracks();
   void drawSquare(std::size_t point, double half_side) const;
-  void drawTape() const;
+  /// What keys can reach: the part of the view that is seen.
+  [[nodiscard]] KeyField keyField() const;
+  /// \return whether the key is one that moves the cross
+  bool moveCross(const QKeyEvent& event);
+  /// \return whether the key is one of the view's others and there was anything to do
+  bool runKey(const QKeyEvent& event);
+  void hideCross();
   void resetCursorRects();
   void makeCursors();
 
   Projector& projector_;
+  KeyCross cross_;
+  QPointF mouse_;  ///< where on the screen it was seen last
   std::shared_ptr<const ShownEvent> event_ = std::make_shared<const ShownEvent>();
   std::vector<Place> display_points_;
   std::vector<std::size_t> marked_;

@@ -3,11 +3,13 @@
 
 #include "projection/projector_window.h"
 
+#include <QShortcut>
 #include <initializer_list>
 #include <memory>
 #include <utility>
 
 #include "projection/projection_view.h"
+#include "projection/readings_text.h"
 #include "ui_projector_window.h"
 #include "widgets/number_text.h"
 #include "widgets/palette_icon.h"
@@ -59,14 +61,24 @@ ProjectorWindow::ProjectorWindow(Projector& projector)
       projector_(projector),
       view_(new ProjectionView(projector, ui_->projector_area->viewport())) {
   view_->setObjectName(QStringLiteral("projection_view"));
-  ui_->tape_tool->setIcon(palette_icon(QStringLiteral("tape")));
-  ui_->grab_tool->setIcon(palette_icon(QStringLiteral("grab")));
+  for (const auto& [button, icon] : {std::pair{ui_->tape_tool, "tape"},
+                                     {ui_->grab_tool, "grab"},
+                                     {ui_->curve_tool, "curve"},
+                                     {ui_->angle_tool, "angle"}}) {
+    button->setIcon(palette_icon(QLatin1String(icon)));
+  }
   view_->setAccessibleName(tr("Projection"));
   ui_->projector_area->setAccessibleName(tr("Part of the projection that is seen"));
   ui_->tape_text->setMinimumWidth(
       ui_->tape_text->fontMetrics().horizontalAdvance(QStringLiteral("D = 9999.99 cm")));
+  // Room for two lines, whatever is read: the window keeps its size.
+  for (QWidget* const label :
+       {static_cast<QWidget*>(ui_->tape_text), static_cast<QWidget*>(ui_->readings_text)}) {
+    label->setMinimumHeight(2 * label->fontMetrics().lineSpacing());
+  }
   ui_->projector_area->setView(view_, {projection_width, projection_height});
   connectButtons();
+  connectKeys();
   projector_.changed.add([this] { showReading(); });
   showReading();
   setContent(takeCentralWidget());
@@ -86,11 +98,49 @@ void ProjectorWindow::connectButtons() {
   connect_choices(view_, &ProjectionView::setZoom,
                   {{ui_->zoom_1, 1.0F}, {ui_->zoom_2, 2.0F}, {ui_->zoom_3, 3.0F}});
   connect_choices(view_, &ProjectionView::setTool,
-                  {{ui_->tape_tool, ProjectorTool::tape}, {ui_->grab_tool, ProjectorTool::grab}});
+                  {{ui_->tape_tool, ProjectorTool::tape},
+                   {ui_->grab_tool, ProjectorTool::grab},
+                   {ui_->curve_tool, ProjectorTool::curve},
+                   {ui_->angle_tool, ProjectorTool::angle}});
+  connect(ui_->snap_button, &QAbstractButton::toggled, this,
+          [this](bool on) { projector_.setSnaps(on); });
+  connect(ui_->record_button, &QAbstractButton::clicked, this, &ProjectorWindow::recordAsked);
+}
+
+void ProjectorWindow::connectKeys() {
+  const std::initializer_list<std::pair<QKeySequence, QAbstractButton*>> keys{
+      {Qt::Key_Z, ui_->xy_button},
+      {Qt::Key_Y, ui_->xz_button},
+      {Qt::Key_X, ui_->yz_button},
+      {Qt::Key_1, ui_->zoom_1},
+      {Qt::Key_2, ui_->zoom_2},
+      {Qt::Key_3, ui_->zoom_3},
+      {Qt::Key_T, ui_->tape_tool},
+      {Qt::Key_G, ui_->grab_tool},
+      {Qt::Key_C, ui_->curve_tool},
+      {Qt::Key_A, ui_->angle_tool},
+      {Qt::Key_S, ui_->snap_button},
+      {QKeySequence(Qt::CTRL | Qt::Key_Return), ui_->record_button},
+      {QKeySequence(Qt::CTRL | Qt::Key_Enter), ui_->record_button}};
+  for (const auto& [key, button] : keys) {
+    auto* const shortcut = new QShortcut(key, this);
+    shortcut->setAutoRepeat(false);
+    connect(shortcut, &QShortcut::activated, button, &QAbstractButton::click);
+  }
 }
 
 void ProjectorWindow::showReading() {
   ui_->tape_text->setText(QStringLiteral("D = %1 cm").arg(fixed_text(projector_.reading(), 5, 2)));
+  const QString readings = shown_readings(projector_);
+  ui_->readings_text->setText(readings);
+  ui_->readings_text->setVisible(!readings.isEmpty());
+  ui_->tape_text->setVisible(readings.isEmpty());
+  ui_->record_button->setEnabled(!projector_.readings().empty());
+  // A screen reader tells a description that changes while the view has the keys.
+  const QString spoken = spoken_readings(projector_);
+  if (spoken != view_->accessibleDescription()) {
+    view_->setAccessibleDescription(spoken);
+  }
 }
 
 }  // namespace velquon

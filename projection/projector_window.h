@@ -19,8 +19,8 @@ namespace velquon {
 class ProjectionView;
 class ViewScrollArea;
 
-/// The window of the projection view with the buttons of its planes, zooms and tools and the tape's
-/// reading.
+/// The window of the projection view with the buttons of its planes, zooms and tools and what the
+/// tools read. Each button has a key.
 class ProjectorWindow : public GLPanel {
   Q_OBJECT
 
@@ -32,8 +32,13 @@ class ProjectorWindow : public GLPanel {
   [[nodiscard]] ProjectionView* view() const { return view_; }
   [[nodiscard]] ViewScrollArea* area() const;
 
+ Q_SIGNALS:
+  /// What the chosen tool reads is to be put into the list of measurements.
+  void recordAsked();
+
  private:
   void connectButtons();
+  void connectKeys();
   void showReading();
 
   std::unique_ptr<Ui::ProjectorWindow> ui_;
