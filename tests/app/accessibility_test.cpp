@@ -79,9 +79,10 @@ TEST_F(AccessibilityTest, EveryControlHasAName) {
 }
 
 TEST_F(AccessibilityTest, EveryControlUnderTheViewsIsInTheTabOrder) {
-  for (const char* const name : {"magfield_slider", "size_slider", "energy_slider", "efactor_popup",
-                                 "event_type_button", "xy_button", "xz_button", "yz_button",
-                                 "zoom_1", "zoom_2", "zoom_3", "tape_tool", "grab_tool"}) {
+  for (const char* const name :
+       {"magfield_slider", "size_slider", "energy_slider", "efactor_popup", "event_type_button",
+        "xy_button", "xz_button", "yz_button", "zoom_1", "zoom_2", "zoom_3", "tape_tool",
+        "grab_tool", "curve_tool", "angle_tool", "snap_button", "record_button"}) {
     EXPECT_TRUE((control<QWidget>(name).focusPolicy() & Qt::TabFocus) != 0) << name;
   }
 }

@@ -107,7 +107,9 @@ TEST_P(PaletteTest, EveryLineOfAnIconStandsOutFromItsButton) {
       {"rotate", item("rotate_item").icon()},
       {"reset_orientation", item("reset_orientation_item").icon()},
       {"tape", control<QAbstractButton>("tape_tool").icon()},
-      {"grab", control<QAbstractButton>("grab_tool").icon()}};
+      {"grab", control<QAbstractButton>("grab_tool").icon()},
+      {"curve", control<QAbstractButton>("curve_tool").icon()},
+      {"angle", control<QAbstractButton>("angle_tool").icon()}};
   for (const auto& [name, icon] : icons) {
     const QImage drawing = icon.pixmap(QSize(24, 24), 1.0).toImage();
     int lines = 0;
@@ -134,7 +136,7 @@ TEST_P(PaletteTest, IconsAreSeenOnTheirButtonsAtOnce) {
     const QRect left_part(0, 0, button.iconSize().width() + 6, seen.height());
     EXPECT_GT(pixels_standing_out(seen, left_part, window), 40) << name;
   }
-  for (const char* const name : {"tape_tool", "grab_tool"}) {
+  for (const char* const name : {"tape_tool", "grab_tool", "curve_tool", "angle_tool"}) {
     const QImage seen = picture_on_screen(control<QAbstractButton>(name));
     EXPECT_GT(pixels_standing_out(seen, seen.rect().adjusted(4, 4, -4, -4), window), 40) << name;
   }
