@@ -116,9 +116,11 @@ class CsvParser {
   }
 
   const char* readQuoted(std::string& field) {
+    const std::size_t opened = line_;
     for (;;) {
       const std::size_t end = rest_.find_first_of("\"\n");
       if (end == std::string_view::npos) {
+        line_ = opened;
         return "a quotation mark is not closed";
       }
       field += rest_.substr(0, end);

@@ -78,8 +78,8 @@ class TruncatedDecays {
 double rate_without_slope(const TruncatedDecays& decays, double most) {
   double below = 0.0;
   double above = most;
-  for (int halving = 0; halving < 200; ++halving) {
-    const double middle = below + (above - below) / 2.0;
+  for (double middle = most / 2.0; middle > below && middle < above;
+       middle = below + (above - below) / 2.0) {
     (decays.slope(middle) > 0.0 ? below : above) = middle;
   }
   return above;

@@ -58,8 +58,9 @@ EventMaker::~EventMaker() {
 QString EventMaker::findTool() {
   const QString name = QStringLiteral("velquon-events");
   const QDir folder(QCoreApplication::applicationDirPath());
-  for (const QString& place : {name, QStringLiteral("../tools/") + name}) {
-    const QFileInfo tool(folder.filePath(place));
+  // Installed; of a build; of a build, for the programs of its tests.
+  for (const char* const place : {"", "../tools/", "../../tools/"}) {
+    const QFileInfo tool(folder.filePath(QLatin1String(place) + name));
     if (tool.isFile() && tool.isExecutable()) {
       return tool.canonicalFilePath();
     }

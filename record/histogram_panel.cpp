@@ -50,6 +50,15 @@ QString with_unit(const QString& number, Quantity quantity) {
   return unit.empty() ? number : number + QLatin1Char(' ') + utf8(unit);
 }
 
+/// What stands in the place of a plot that can't be drawn.
+QWidget* missing_plot() {
+  auto* const label = new QLabel(
+      HistogramPanel::tr("The library that draws histograms is not installed. The bins are in the "
+                         "table behind the other tab."));
+  label->setWordWrap(true);
+  return label;
+}
+
 }  // namespace
 
 HistogramPanel::HistogramPanel(const Measurements& measurements, QWidget* parent)
@@ -59,7 +68,7 @@ HistogramPanel::HistogramPanel(const Measurements& measurements, QWidget* parent
       bins_box_(new QSpinBox(this)),
       fit_popup_(new QComboBox(this)),
       summary_(new QLabel(this)),
-      plot_(new HistogramPlot(this)),
+      plot_(load_histogram_plot().release()),
       bins_(new QTableWidget(this)) {
   layOut();
   connect(quantity_popup_, &QComboBox::currentIndexChanged, this, &HistogramPanel::refresh);
@@ -86,8 +95,9 @@ void HistogramPanel::layOut() {
   summary_->setWordWrap(true);
   summary_->setTextFormat(Qt::PlainText);
   summary_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  plot_->setObjectName(QStringLiteral("histogram_plot"));
-  plot_->setAccessibleName(tr("Histogram"));
+  QWidget* const picture = plot_ != nullptr ? static_cast<QWidget*>(plot_) : missing_plot();
+  picture->setObjectName(QStringLiteral("histogram_plot"));
+  picture->setAccessibleName(tr("Histogram"));
   bins_->setObjectName(QStringLiteral("bins_table"));
   bins_->setAccessibleName(tr("Bins of the histogram"));
   bins_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -103,7 +113,7 @@ void HistogramPanel::layOut() {
   controls->addStretch();
   auto* const tabs = new QTabWidget(this);
   tabs->setObjectName(QStringLiteral("histogram_tabs"));
-  tabs->addTab(plot_, tr("H&istogram"));
+  tabs->addTab(picture, tr("H&istogram"));
   tabs->addTab(bins_, tr("B&ins as a table"));
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -229,6 +239,9 @@ double HistogramPanel::expected(double value) const {
 }
 
 void HistogramPanel::showPlot() {
+  if (plot_ == nullptr) {
+    return;
+  }
   constexpr int steps = 200;
   HistogramPlot::Curve curve;
   const auto bins = static_cast<double>(histogram_.counts.size());
@@ -238,7 +251,7 @@ void HistogramPanel::showPlot() {
       curve.emplace_back(place, expected(place));
     }
   }
-  plot_->showHistogram(histogram_, axisTitle(), curve);
+  plot_->showHistogram(histogram_, {axisTitle(), tr("Number in a bin")}, curve);
   QString description = summary_->text();
   if (!sample_.values.empty()) {
     const auto fullest = static_cast<std::size_t>(std::ranges::max_element(histogram_.counts) -

@@ -33,7 +33,8 @@ class HistogramPanel : public QWidget {
   /// Shows the present rows.
   void refresh();
 
-  [[nodiscard]] bool hasValues() const { return !sample_.values.empty(); }
+  /// Whether there is a picture of values.
+  [[nodiscard]] bool canBeSaved() const { return plot_ != nullptr && !sample_.values.empty(); }
   [[nodiscard]] QByteArray asPng();
   [[nodiscard]] QByteArray asPdf();
 
@@ -55,7 +56,7 @@ class HistogramPanel : public QWidget {
   QSpinBox* bins_box_;
   QComboBox* fit_popup_;
   QLabel* summary_;
-  HistogramPlot* plot_;
+  HistogramPlot* plot_;  ///< null when none can be drawn
   QTableWidget* bins_;
   std::vector<Quantity> quantities_;  ///< in the order of the pop-up
   MeasuredSample sample_;

@@ -30,14 +30,31 @@ bool is_dark(const QPalette& palette) {
   return palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness();
 }
 
-}  // namespace
+/// A plot by QCustomPlot.
+class DrawnHistogram : public HistogramPlot {
+ public:
+  DrawnHistogram();
+  void showHistogram(const Histogram& histogram, const std::pair<QString, QString>& titles,
+                     const Curve& curve) override;
+  QByteArray asPng() override;
+  QByteArray asPdf() override;
 
-HistogramPlot::HistogramPlot(QWidget* parent) : QWidget(parent), plot_(new QCustomPlot(this)) {
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void takeColors(const QPalette& palette);
+
+  QCustomPlot* plot_;
+  QCPBars* bars_;
+  QCPGraph* curve_;
+};
+
+DrawnHistogram::DrawnHistogram() : plot_(new QCustomPlot(this)) {
   bars_ = new QCPBars(plot_->xAxis, plot_->yAxis);
   curve_ = plot_->addGraph();
   bars_->setWidthType(QCPBars::wtPlotCoords);
   plot_->setFocusPolicy(Qt::NoFocus);
-  plot_->yAxis->setLabel(tr("Number in a bin"));
   constexpr QSize smallest(220, 150);
   plot_->setMinimumSize(smallest);
   auto* const layout = new QVBoxLayout(this);
@@ -46,8 +63,8 @@ HistogramPlot::HistogramPlot(QWidget* parent) : QWidget(parent), plot_(new QCust
   takeColors(palette());
 }
 
-void HistogramPlot::showHistogram(const Histogram& histogram, const QString& title,
-                                  const Curve& curve) {
+void DrawnHistogram::showHistogram(const Histogram& histogram,
+                                   const std::pair<QString, QString>& titles, const Curve& curve) {
   QVector<double> places;
   QVector<double> numbers;
   double highest = 1.0;
@@ -67,14 +84,15 @@ void HistogramPlot::showHistogram(const Histogram& histogram, const QString& tit
   }
   curve_->setData(curve_places, heights, true);
   constexpr double room_above = 1.08;
-  plot_->xAxis->setLabel(title);
+  plot_->xAxis->setLabel(titles.first);
+  plot_->yAxis->setLabel(titles.second);
   plot_->xAxis->setRange(histogram.low,
                          histogram.edge(std::max<std::size_t>(histogram.counts.size(), 1)));
   plot_->yAxis->setRange(0.0, highest * room_above);
   plot_->replot(QCustomPlot::rpQueuedReplot);
 }
 
-QByteArray HistogramPlot::asPng() {
+QByteArray DrawnHistogram::asPng() {
   constexpr double scale = 2.0;
   takeColors(paper_palette());
   QByteArray bytes;
@@ -85,7 +103,7 @@ QByteArray HistogramPlot::asPng() {
   return bytes;
 }
 
-QByteArray HistogramPlot::asPdf() {
+QByteArray DrawnHistogram::asPdf() {
   takeColors(paper_palette());
   QByteArray bytes;
   QBuffer buffer(&bytes);
@@ -110,14 +128,14 @@ QByteArray HistogramPlot::asPdf() {
   return bytes;
 }
 
-void HistogramPlot::changeEvent(QEvent* event) {
+void DrawnHistogram::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::PaletteChange) {
     takeColors(palette());
   }
 }
 
-void HistogramPlot::takeColors(const QPalette& palette) {
+void DrawnHistogram::takeColors(const QPalette& palette) {
   const QColor text = palette.color(QPalette::Text);
   const QColor bar = palette.color(QPalette::Highlight);
   QColor grid = text;
@@ -144,4 +162,12 @@ void HistogramPlot::takeColors(const QPalette& palette) {
   plot_->replot(QCustomPlot::rpQueuedReplot);
 }
 
+}  // namespace
+
 }  // namespace velquon
+
+extern "C" velquon::HistogramPlot* velquon_make_histogram_plot();
+
+extern "C" velquon::HistogramPlot* velquon_make_histogram_plot() {
+  return new velquon::DrawnHistogram;
+}

@@ -5,43 +5,40 @@
 
 #include <QByteArray>
 #include <QWidget>
+#include <memory>
 #include <utility>
 #include <vector>
 
 #include "model/histogram.h"
 
-class QCPBars;
-class QCPGraph;
-class QCustomPlot;
-
 namespace velquon {
 
 /// Bars and a curve over them, in the colours of the palette. It tells screen readers nothing but
 /// its name and description: what it shows belongs into a table, too.
+///
+/// What draws it is a module of its own, `libvelquon-histogram.so`, which is loaded with the first
+/// plot: so the plotting library costs a start of the program neither time nor memory.
 class HistogramPlot : public QWidget {
-  Q_OBJECT
-
  public:
-  explicit HistogramPlot(QWidget* parent = nullptr);
+  using QWidget::QWidget;
 
   using Curve = std::vector<std::pair<double, double>>;
-  /// \param title of the axis of values
-  /// \param curve its points by rising values; empty for none
-  void showHistogram(const Histogram& histogram, const QString& title, const Curve& curve);
+  /// \param titles of the axis of values and of that of numbers
+  /// \param curve  its points by rising values; empty for none
+  virtual void showHistogram(const Histogram& histogram, const std::pair<QString, QString>& titles,
+                             const Curve& curve) = 0;
 
   /// The picture for a page, dark on white, as a file of its kind.
-  [[nodiscard]] QByteArray asPng();
-  [[nodiscard]] QByteArray asPdf();
-
- protected:
-  void changeEvent(QEvent* event) override;
-
- private:
-  void takeColors(const QPalette& palette);
-
-  QCustomPlot* plot_;
-  QCPBars* bars_;
-  QCPGraph* curve_;
+  [[nodiscard]] virtual QByteArray asPng() = 0;
+  [[nodiscard]] virtual QByteArray asPdf() = 0;
 };
+
+/// The one function of the module, by its name.
+using HistogramPlotMaker = HistogramPlot* (*)();
+inline constexpr const char* histogram_plot_maker = "velquon_make_histogram_plot";
+
+/// Loads the module from beside the program, as installed or as built, and makes a plot.
+/// \return null when the module or the library that it needs is missing
+[[nodiscard]] std::unique_ptr<HistogramPlot> load_histogram_plot();
 
 }  // namespace velquon

@@ -192,7 +192,7 @@ void MeasurementsWindow::refresh() {
   undo_item_->setEnabled(measurements_.canUndo());
   redo_item_->setEnabled(measurements_.canRedo());
   save_item_->setEnabled(rows > 0);
-  save_plot_item_->setEnabled(histogram_->hasValues());
+  save_plot_item_->setEnabled(histogram_->canBeSaved());
 }
 
 void MeasurementsWindow::deleteRows() {
