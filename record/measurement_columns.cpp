@@ -67,10 +67,13 @@ bool edit(Measurement& row, MeasurementColumn column, const QString& text) {
     return ending >= 0;
   }
   const QString trimmed = text.trimmed();
-  bool is_number = trimmed.isEmpty();
-  const double longest =
-      trimmed.isEmpty() ? unknown_number : QLocale::c().toDouble(trimmed, &is_number);
-  if (!is_number || !(std::isnan(longest) || (longest > 0.0 && std::isfinite(longest)))) {
+  bool is_number = false;
+  const double longest = QLocale::c().toDouble(trimmed, &is_number);
+  if (trimmed.isEmpty()) {
+    row.longest_cm = unknown_number;
+    return true;
+  }
+  if (!is_number || !(longest > 0.0) || !std::isfinite(longest)) {
     return false;
   }
   row.longest_cm = longest;
