@@ -3,10 +3,12 @@
 
 #include "model/event_numbering.h"
 
+#include <algorithm>
+
 namespace velquon {
 
 EventNumbering::EventNumbering(ChamberModel& model)
-    : model_(model), tracks_(model.shown()->tracks) {
+    : model_(model), known_{{model.shown()->tracks, 0}} {
   model.changed.add([this] { look(); });
 }
 
@@ -16,10 +18,16 @@ std::string EventNumbering::nameOfShown() const {
 }
 
 void EventNumbering::look() {
-  if (model_.shown()->tracks != tracks_) {
-    tracks_ = model_.shown()->tracks;
-    ++number_;
+  const auto& shown = model_.shown()->tracks;
+  const auto known = std::ranges::find_if(
+      known_, [&shown](const auto& entry) { return entry.first.lock() == shown; });
+  if (known != known_.end()) {
+    number_ = known->second;
+    return;
   }
+  std::erase_if(known_, [](const auto& entry) { return entry.first.expired(); });
+  number_ = ++last_;
+  known_.emplace_back(shown, number_);
 }
 
 }  // namespace velquon

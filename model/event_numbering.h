@@ -6,12 +6,15 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "model/chamber_model.h"
 
 namespace velquon {
 
-/// Numbers the events that are shown one after another, from 1: several of one run have one name.
+/// Numbers the events that are shown one after another, from 1: several of one run have one name. An
+/// event that is shown again keeps its number.
 class EventNumbering {
  public:
   /// \param model where events are shown; it must not outlive this object while it shows others
@@ -29,8 +32,10 @@ class EventNumbering {
   void look();
 
   const ChamberModel& model_;
-  std::shared_ptr<const EventTracks> tracks_;  ///< the last that were numbered
-  std::uint64_t number_ = 0;
+  /// Tracks that may be shown again, and their numbers.
+  std::vector<std::pair<std::weak_ptr<const EventTracks>, std::uint64_t>> known_;
+  std::uint64_t number_ = 0;  ///< of what is shown
+  std::uint64_t last_ = 0;    ///< number given
 };
 
 }  // namespace velquon

@@ -231,6 +231,22 @@ TEST(EventNumberingTest, NumbersEachEventThatIsShown) {
   EXPECT_EQ(numbering.nameOfShown(), "Untitled Type 2 Decay 2");
 }
 
+TEST(EventNumberingTest, AnEventThatIsShownAgainKeepsItsNumber) {
+  ChamberModel model(1);
+  const EventNumbering numbering(model);
+  model.setEventType(pion_type);
+  model.setNext(lively);
+  for (int i = 0; i < 3; ++i) {
+    model.beginEvent();
+    model.makeNewEvent();
+  }
+  model.showPreviousEvent();
+  EXPECT_EQ(numbering.nameOfShown(), "Untitled Type 2 Decay 2");
+  model.beginEvent();
+  model.makeNewEvent();
+  EXPECT_EQ(numbering.nameOfShown(), "Untitled Type 2 Decay 4");
+}
+
 TEST(RowsOfReadingsTest, HaveEventPlaneFieldAndTheSideAsTheLongestLength) {
   ShownEvent shown;
   shown.values = {.B_field = 1.5F, .sides_cm = 400.0F, .kinetic_Mev = 1.0F};

@@ -222,7 +222,7 @@ INSTANTIATE_TEST_SUITE_P(
                    }() +
                    ",xy,2,,cm,0.6,,,,\n",
                3, "no quantity has the name \"aééééééééééééééééééé…\""}),
-    testing::case_name<Damage>);
+    test::case_name<Damage>);
 
 TEST(CsvRecordsTest, LimitsHoldForFilesAndLines) {
   const CsvLimits limits{.bytes = 100, .records = 3, .record_bytes = 50, .fields = 4};

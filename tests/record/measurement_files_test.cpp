@@ -149,7 +149,7 @@ TEST_F(MeasurementFilesTest, AFullDiskLeavesTheOldFilesAndIsTold) {
     dialogs().alerts.clear();
     dialogs().answer = file;
     {
-      const velquon::testing::FileSizeLimit limit(1000);
+      const velquon::test::FileSizeLimit limit(1000);
       run(item_name);
     }
     const RecordingDialogs::Alert told{
