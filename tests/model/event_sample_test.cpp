@@ -237,12 +237,10 @@ TEST(EventNumberingTest, AnEventThatIsShownAgainKeepsItsNumber) {
   model.setEventType(pion_type);
   model.setNext(lively);
   for (int i = 0; i < 3; ++i) {
-    model.beginEvent();
     model.makeNewEvent();
   }
   model.showPreviousEvent();
   EXPECT_EQ(numbering.nameOfShown(), "Untitled Type 2 Decay 2");
-  model.beginEvent();
   model.makeNewEvent();
   EXPECT_EQ(numbering.nameOfShown(), "Untitled Type 2 Decay 4");
 }
