@@ -4,7 +4,9 @@
 #include "app/application.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QOpenGLContext>
+#include <algorithm>
 
 #include "app/chamber_commands.h"
 #include "app/chamber_controller.h"
@@ -18,8 +20,11 @@
 #include "app/worksheet_commands.h"
 #include "chamber/chamber_view.h"
 #include "chamber/chamber_window.h"
+#include "model/measurement_of_event.h"
 #include "projection/projection_view.h"
 #include "projection/projector_window.h"
+#include "record/measurement_files.h"
+#include "record/measurements_window.h"
 #include "record/record_window.h"
 #include "track/new_track_view.h"
 #include "track/track_controller.h"
@@ -40,6 +45,8 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
                                                       dialogs)),
       documents_(std::make_unique<EventDocuments>(*controller_, dialogs)),
       exports_(std::make_unique<EventExports>(model_, dialogs)),
+      measurement_files_(std::make_unique<MeasurementFiles>(measurements_, dialogs)),
+      dialogs_(dialogs),
       commands_(std::make_unique<Commands>()) {
   make_style_readable();
   const Ui::Menus& items = menus_->items();
@@ -55,6 +62,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   addWindowCommands();
   addHelpCommands();
   controller_->awakeFromNib();
+  numbering_ = std::make_unique<EventNumbering>(model_);
   commands_->refresh();
 }
 
@@ -62,6 +70,7 @@ Application::~Application() {
   // Before what it tells of: windows that go change the state of what they showed.
   commands_.reset();
   record_window_.reset();
+  measurements_window_.reset();
 }
 
 void Application::showWindows() {
@@ -108,8 +117,60 @@ RecordWindow& Application::recordWindow() {
   return *record_window_;
 }
 
+MeasurementsWindow& Application::measurementsWindow() {
+  if (!measurements_window_) {
+    measurements_window_ =
+        std::make_unique<MeasurementsWindow>(measurements_, *measurement_files_, model_, dialogs_);
+    join(*measurements_window_);
+    measurements_window_->insertMenu(menus_->items().window_menu->menuAction());
+    connect(measurements_window_.get(), &MeasurementsWindow::recordAsked, this,
+            &Application::recordReadings);
+  }
+  return *measurements_window_;
+}
+
+void Application::recordReadings() {
+  const std::vector<Reading> readings = projector_.readings();
+  MeasurementsWindow& window = measurementsWindow();
+  if (!window.isVisible()) {
+    // The keys stay with the window in which one measures.
+    window.setAttribute(Qt::WA_ShowWithoutActivating);
+    window.show();
+    window.setAttribute(Qt::WA_ShowWithoutActivating, false);
+  }
+  if (readings.empty()) {
+    window.tell(tr("Nothing is measured: lay out a tool of the projector first."));
+    return;
+  }
+  measurements_.add(
+      rows_of_readings(readings, projector_.plane(), *model_.shown(), numbering_->nameOfShown()));
+}
+
+bool Application::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Close) {
+    const auto windows = QApplication::topLevelWidgets();
+    const bool is_last = std::ranges::none_of(windows, [watched](const QWidget* window) {
+      return window != watched && qobject_cast<const GLPanel*>(window) != nullptr &&
+             window->isVisible();
+    });
+    if (is_last && !measurement_files_->mayDiscard()) {
+      event->ignore();
+      return true;
+    }
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+void Application::quit() {
+  if (measurement_files_->mayDiscard()) {
+    // Not QCoreApplication::quit: that would first ask the windows to close, and they only hide.
+    QCoreApplication::exit();
+  }
+}
+
 void Application::join(GLPanel& window) {
   menus_->installIn(window);
+  window.installEventFilter(this);
   // Queued: the program that the file comes from waits for the drop's end, not for an alert's.
   connect(&window, &GLPanel::fileDropped, documents_.get(), &EventDocuments::application_openFile,
           Qt::QueuedConnection);
@@ -145,8 +206,7 @@ void Application::addFileCommands() {
                   {.item = items.export_record_item,
                    .run = [this] { exports_->exportRecord(); },
                    .is_enabled = [this] { return exports_->hasRecord(); }},
-                  // Not quit(): that would first ask the windows to close, and they only hide.
-                  {.item = items.quit_item, .run = [] { QCoreApplication::exit(); }}});
+                  {.item = items.quit_item, .run = [this] { quit(); }}});
 }
 
 void Application::addWindowCommands() {
@@ -157,8 +217,9 @@ void Application::addWindowCommands() {
        {.item = items.projector_window_item,
         .run = [this] { projector_window_->makeKeyAndOrderFront(); }},
        {.item = items.track_window_item, .run = [this] { trackWindow().makeKeyAndOrderFront(); }},
-       {.item = items.event_record_item,
-        .run = [this] { recordWindow().makeKeyAndOrderFront(); }}});
+       {.item = items.event_record_item, .run = [this] { recordWindow().makeKeyAndOrderFront(); }},
+       {.item = items.measurements_item,
+        .run = [this] { measurementsWindow().makeKeyAndOrderFront(); }}});
 }
 
 void Application::addHelpCommands() {

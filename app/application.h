@@ -9,6 +9,8 @@
 #include <optional>
 
 #include "model/chamber_model.h"
+#include "model/event_numbering.h"
+#include "model/measurements.h"
 #include "model/projector.h"
 #include "model/track_model.h"
 
@@ -21,6 +23,8 @@ class EventDocuments;
 class EventExports;
 class GLPanel;
 class GuideWindow;
+class MeasurementFiles;
+class MeasurementsWindow;
 class Menus;
 class ProjectorWindow;
 class RecordWindow;
@@ -54,8 +58,17 @@ class Application : public QObject {
   [[nodiscard]] ProjectorWindow& projectorWindow() { return *projector_window_; }
   [[nodiscard]] TrackWindow& trackWindow();
   [[nodiscard]] RecordWindow& recordWindow();
+  [[nodiscard]] Measurements& measurements() { return measurements_; }
+  [[nodiscard]] MeasurementsWindow& measurementsWindow();
   [[nodiscard]] ChamberController& controller() { return *controller_; }
   [[nodiscard]] EventDocuments& documents() { return *documents_; }
+
+  /// Notes what the projector's tool reads, a row for each reading, and shows the measurements.
+  void recordReadings();
+
+  /// Asks about measurements that are not saved before the last window is closed, which ends the
+  /// program.
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   /// Gives a window the menus and has it take dropped files.
@@ -65,10 +78,13 @@ class Application : public QObject {
   void addWindowCommands();
   void addHelpCommands();
   void showGuide();
+  /// Ends the program, unless the user wants to keep measurements that are not saved.
+  void quit();
 
   ChamberModel model_;
   Projector projector_;
   TrackModel track_model_;
+  Measurements measurements_;
   std::unique_ptr<ScreenRoom> screen_room_;
   std::unique_ptr<Menus> menus_;
   std::unique_ptr<ChamberWindow> chamber_window_;
@@ -76,9 +92,13 @@ class Application : public QObject {
   std::unique_ptr<TrackWindow> track_window_;    ///< made when first asked for, as the guide is
   std::unique_ptr<RecordWindow> record_window_;  ///< likewise
   std::unique_ptr<GuideWindow> guide_window_;
+  std::unique_ptr<MeasurementsWindow> measurements_window_;  ///< likewise
   std::unique_ptr<ChamberController> controller_;
   std::unique_ptr<EventDocuments> documents_;
   std::unique_ptr<EventExports> exports_;
+  std::unique_ptr<EventNumbering> numbering_;
+  std::unique_ptr<MeasurementFiles> measurement_files_;
+  UserDialogs& dialogs_;
   std::unique_ptr<Commands> commands_;
 };
 

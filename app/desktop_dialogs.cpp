@@ -127,6 +127,31 @@ QString DesktopDialogs::fileToOpen(const QString& title, const QString& filter) 
   return chosen_file(dialog);
 }
 
+QStringList DesktopDialogs::filesToOpen(const QString& title, const QString& filter) {
+  PlainFileIcons icons;
+  QFileDialog dialog(owner_of_dialog(), title, QString(), filter);
+  prepare(dialog, icons);
+  dialog.setFileMode(QFileDialog::ExistingFiles);
+  dialog.setFilter(dialog.filter() | QDir::CaseSensitive);
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
+}
+
+SaveAnswer DesktopDialogs::askToSave(const QString& title, const QString& message) {
+  QMessageBox box(QMessageBox::Question, title, message,
+                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+                  owner_of_dialog());
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(QMessageBox::Save);
+  switch (box.exec()) {
+    case QMessageBox::Save:
+      return SaveAnswer::save;
+    case QMessageBox::Discard:
+      return SaveAnswer::discard;
+    default:
+      return SaveAnswer::cancel;
+  }
+}
+
 QString DesktopDialogs::fileToSave(const QString& title, const QString& suggestion,
                                    const QString& filter, const QString& suffix) {
   PlainFileIcons icons;

@@ -15,6 +15,8 @@ class DesktopDialogs : public UserDialogs {
   void alert(const QString& title, const QString& message) override;
   void alertAboutFile(const QString& title, const QString& message, const QString& path) override;
   QString fileToOpen(const QString& title, const QString& filter) override;
+  QStringList filesToOpen(const QString& title, const QString& filter) override;
+  SaveAnswer askToSave(const QString& title, const QString& message) override;
   QString fileToSave(const QString& title, const QString& suggestion, const QString& filter,
                      const QString& suffix) override;
 };

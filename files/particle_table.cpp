@@ -13,10 +13,6 @@ namespace velquon {
 
 namespace {
 
-constexpr std::string_view header =
-    "event,particle,pdg,parent,fate,code,first_point,points,x,y,z,px,py,pz,energy,end_x,end_y,"
-    "end_z\n";
-
 // Handed on in pieces of about this size.
 constexpr std::size_t piece = 1U << 16U;
 
@@ -62,7 +58,10 @@ void append_particle(std::string& text, const RecordedParticle& particle) {
 
 }  // namespace
 
-ParticleTable::ParticleTable(ByteOutput output) : output_(std::move(output)), text_(header) {}
+ParticleTable::ParticleTable(ByteOutput output)
+    : output_(std::move(output)), text_(particle_table_header) {
+  text_ += '\n';
+}
 
 std::error_code ParticleTable::write(std::uint64_t number, const ParticleRecord& record) {
   for (std::size_t i = 0; i < record.particles().size(); ++i) {

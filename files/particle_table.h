@@ -5,12 +5,18 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 #include "events/particle_record.h"
 #include "files/byte_output.h"
 
 namespace velquon {
+
+/// The first line of a table of particles, without its end.
+inline constexpr std::string_view particle_table_header =
+    "event,particle,pdg,parent,fate,code,first_point,points,x,y,z,px,py,pz,energy,end_x,end_y,"
+    "end_z";
 
 /// Writes what happened as a table, a line a particle, below a header with the names of the
 /// columns. cm and MeV; the origin is in the middle of the chamber.

@@ -60,16 +60,6 @@ double distance(const Vector3& from, const Vector3& to) {
   return magnitude({to[0] - from[0], to[1] - from[1], to[2] - from[2]});
 }
 
-std::optional<double> flight_of(const RecordedParticle& particle, bool charged,
-                                const ChamberValues& values) {
-  if (!particle.end_cm) {
-    return std::nullopt;
-  }
-  // A charged particle leaves a point each step.
-  return charged ? particle.points * track_step / drawing_scale(values)
-                 : distance(particle.place_cm, *particle.end_cm);
-}
-
 EventRow row_of(const RecordedParticle& particle, const ChamberValues& values) {
   const Kind& kind = kind_of(particle.pdg);
   const auto field = static_cast<double>(values.B_field);
@@ -81,7 +71,7 @@ EventRow row_of(const RecordedParticle& particle, const ChamberValues& values) {
   row.momentum = magnitude(particle.momentum);
   row.transverse_momentum = std::hypot(px, py);
   row.kinetic_energy = particle.energy - kind.values.mass;
-  row.flight_cm = flight_of(particle, kind.charged, values);
+  row.flight_cm = flight_cm(particle, kind.charged, values);
   if (kind.charged && field != 0.0) {
     row.radius_cm = std::abs(helix_radius_cm(row.transverse_momentum, field));
   }
@@ -100,6 +90,21 @@ std::string_view color_name(std::int16_t code) {
 }
 
 }  // namespace
+
+std::optional<bool> is_charged(int pdg) {
+  const auto* const kind = std::ranges::find(kinds, pdg, &Kind::pdg);
+  return kind == kinds.end() ? std::nullopt : std::optional(kind->charged);
+}
+
+std::optional<double> flight_cm(const RecordedParticle& particle, bool charged,
+                                const ChamberValues& values) {
+  if (!particle.end_cm) {
+    return std::nullopt;
+  }
+  // A charged particle leaves a point each step.
+  return charged ? particle.points * track_step / drawing_scale(values)
+                 : distance(particle.place_cm, *particle.end_cm);
+}
 
 std::vector<EventRow> event_rows(const ParticleRecord& record, const ChamberValues& values) {
   std::vector<EventRow> rows;

@@ -48,4 +48,11 @@ struct VisibleTrack {
 /// The points of an event by their codes, in the order in which the codes first occur.
 [[nodiscard]] std::vector<VisibleTrack> visible_tracks(std::span<const PlotPoint> points);
 
+/// Whether a particle carries a charge; nothing for a number that no particle of an event has.
+[[nodiscard]] std::optional<bool> is_charged(int pdg);
+
+/// The length of a particle's flight along its track, cm; nothing when its end is not known.
+[[nodiscard]] std::optional<double> flight_cm(const RecordedParticle& particle, bool charged,
+                                              const ChamberValues& values);
+
 }  // namespace velquon

@@ -5,8 +5,12 @@
 
 #include <QString>
 #include <QStringList>
+#include <cstdint>
 
 namespace velquon {
+
+/// What is to become of something that is not saved.
+enum class SaveAnswer : std::uint8_t { save, discard, cancel };
 
 /// What the program asks the user and tells him. The tests answer in his place.
 class UserDialogs {
@@ -30,6 +34,13 @@ class UserDialogs {
   /// \param filter kinds of files offered, as "Name (*.one *.two)"; upper and lower case differ
   /// \return its path, or empty when the user gives up
   virtual QString fileToOpen(const QString& title, const QString& filter) = 0;
+
+  /// Asks for files to open, any number of them.
+  /// \return their paths, empty when the user gives up
+  virtual QStringList filesToOpen(const QString& title, const QString& filter) = 0;
+
+  /// Asks whether to save something before it is lost.
+  virtual SaveAnswer askToSave(const QString& title, const QString& message) = 0;
 
   /// Asks for the name of a file to save, and once whether an existing one may be overwritten;
   /// if not, for another name.

@@ -78,6 +78,7 @@ const std::vector<TitleCase> titles{
     {{"Window", "Chamber"}, "chamber_window_item", ""},
     {{"Window", "Projector"}, "projector_window_item", ""},
     {{"Window", "Event Record"}, "event_record_item", "Ctrl+E"},
+    {{"Window", "Measurements"}, "measurements_item", "Ctrl+M"},
     {{"Help", "Velquon Guide"}, "guide_item", "F1"},
     {{"Help", "About Velquon"}, "about_item", ""},
 };

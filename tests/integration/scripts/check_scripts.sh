@@ -36,7 +36,7 @@ program() { # NAME: from standard input
 # A fuzzer that learns one input a run, as libFuzzer keeps them: in the first folder.
 fuzzers() {
   local name
-  for name in fuzz_event_file fuzz_event_layout fuzz_pc_layout; do
+  for name in fuzz_event_file fuzz_event_layout fuzz_pc_layout fuzz_measurement_file; do
     program build/fuzz/tests/fuzz/$name <<'END'
 for word in "$@"; do
   case $word in

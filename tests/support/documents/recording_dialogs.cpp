@@ -25,6 +25,16 @@ QString RecordingDialogs::fileToOpen(const QString& title, const QString& filter
   return answer;
 }
 
+QStringList RecordingDialogs::filesToOpen(const QString& title, const QString& filter) {
+  questions.push_back({title, filter, {}, {}});
+  return file_answers;
+}
+
+SaveAnswer RecordingDialogs::askToSave(const QString& title, const QString& message) {
+  unsaved_questions.push_back({title, message});
+  return save_answer;
+}
+
 QString RecordingDialogs::fileToSave(const QString& title, const QString& suggestion,
                                      const QString& filter, const QString& suffix) {
   questions.push_back({title, filter, suggestion, suffix});

@@ -34,14 +34,19 @@ class RecordingDialogs : public UserDialogs {
   void alert(const QString& title, const QString& message) override;
   void alertAboutFile(const QString& title, const QString& message, const QString& path) override;
   QString fileToOpen(const QString& title, const QString& filter) override;
+  QStringList filesToOpen(const QString& title, const QString& filter) override;
+  SaveAnswer askToSave(const QString& title, const QString& message) override;
   QString fileToSave(const QString& title, const QString& suggestion, const QString& filter,
                      const QString& suffix) override;
 
-  QString answer;                   ///< path that every question gets; empty is giving up
-  std::vector<Alert> alerts;        ///< in the order told
-  std::vector<QString> files_told;  ///< paths that alerts were about
-  std::vector<Question> questions;  ///< in the order asked
-  std::function<void()> on_alert;   ///< called while an alert is up
+  QString answer;            ///< path that every question gets; empty is giving up
+  QStringList file_answers;  ///< paths that a question for several files gets
+  SaveAnswer save_answer = SaveAnswer::cancel;
+  std::vector<Alert> unsaved_questions;  ///< whether to save, in the order asked
+  std::vector<Alert> alerts;             ///< in the order told
+  std::vector<QString> files_told;       ///< paths that alerts were about
+  std::vector<Question> questions;       ///< in the order asked
+  std::function<void()> on_alert;        ///< called while an alert is up
 };
 
 /// How a failing test shows these.

@@ -47,6 +47,15 @@ QString SilentDialogs::fileToOpen(const QString& /*title*/, const QString& /*fil
   return {};
 }
 
+QStringList SilentDialogs::filesToOpen(const QString& /*title*/, const QString& /*filter*/) {
+  return {};
+}
+
+SaveAnswer SilentDialogs::askToSave(const QString& title, const QString& message) {
+  alert(title, message);
+  return SaveAnswer::cancel;
+}
+
 QString SilentDialogs::fileToSave(const QString& /*title*/, const QString& /*suggestion*/,
                                   const QString& /*filter*/, const QString& /*suffix*/) {
   return {};

@@ -1,0 +1,242 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "record/measurements_window.h"
+
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStyledItemDelegate>
+#include <QTableView>
+#include <QToolBar>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <functional>
+
+#include "record/histogram_panel.h"
+#include "record/make_events_dialog.h"
+#include "record/measurement_columns.h"
+#include "record/measurement_files.h"
+#include "widgets/user_dialogs.h"
+
+namespace velquon {
+
+namespace {
+
+/// Edits an ending by a pop-up of its words.
+class EndingDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
+                        const QModelIndex& /*index*/) const override {
+    auto* const popup = new QComboBox(parent);
+    popup->setObjectName(QStringLiteral("ending_popup"));
+    popup->setAccessibleName(MeasurementsWindow::tr("What became of the track"));
+    popup->addItems(ending_texts());
+    return popup;
+  }
+  void setEditorData(QWidget* editor, const QModelIndex& index) const override {
+    static_cast<QComboBox*>(editor)->setCurrentText(index.data(Qt::EditRole).toString());
+  }
+  void setModelData(QWidget* editor, QAbstractItemModel* model,
+                    const QModelIndex& index) const override {
+    model->setData(index, static_cast<QComboBox*>(editor)->currentText());
+  }
+};
+
+}  // namespace
+
+MeasurementsWindow::MeasurementsWindow(Measurements& measurements, MeasurementFiles& files,
+                                       const ChamberModel& model, UserDialogs& dialogs)
+    : measurements_(measurements),
+      files_(files),
+      model_(model),
+      dialogs_(dialogs),
+      menu_(new QMenu(tr("&Measurements"), this)),
+      columns_(new MeasurementColumns(measurements, this)),
+      table_(new QTableView(this)),
+      histogram_(new HistogramPanel(measurements, this)),
+      message_(new QLabel(this)) {
+  setTitle(tr("Measurements"));
+  menu_->setObjectName(QStringLiteral("measurements_menu"));
+  addItems();
+  fillToolBar();
+  layOut();
+  measurements_.changed.add([window = QPointer(this)] {
+    if (window != nullptr) {
+      window->refresh();
+    }
+  });
+  refresh();
+}
+
+void MeasurementsWindow::insertMenu(QAction* before) {
+  menuBar()->insertMenu(before, menu_);
+}
+
+void MeasurementsWindow::tell(const QString& message) {
+  message_->setText(message);
+  message_->setVisible(!message.isEmpty());
+}
+
+void MeasurementsWindow::addItems() {
+  record_item_ = addItem("record_item", tr("&Record"), QKeySequence(Qt::CTRL | Qt::Key_Return),
+                         [this] { Q_EMIT recordAsked(); });
+  record_item_->setToolTip(tr("Note what the projector's tool reads (Ctrl+Return)"));
+  delete_item_ = addItem("delete_item", tr("&Delete Rows"), QKeySequence(Qt::Key_Delete),
+                         [this] { deleteRows(); });
+  // Where an editor or another control has the keys, Delete is its own.
+  delete_item_->setShortcutContext(Qt::WidgetShortcut);
+  table_->addAction(delete_item_);
+  menu_->addSeparator();
+  undo_item_ = addItem("undo_item", tr("&Undo"), QKeySequence(Qt::CTRL | Qt::Key_Z),
+                       [this] { measurements_.undo(); });
+  redo_item_ = addItem("redo_item", tr("Red&o"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
+                       [this] { measurements_.redo(); });
+  menu_->addSeparator();
+  addItem("open_measurements_item", tr("O&pen Measurements…"),
+          QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_O), [this] { files_.open(); });
+  add_item_ = addItem("add_files_item", tr("&Add Files…"),
+                      QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_A), [this] { files_.addFiles(); });
+  add_item_->setToolTip(tr("Append the rows of files, such as those of a class"));
+  save_item_ = addItem("save_measurements_item", tr("&Save Measurements…"),
+                       QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_S), [this] { files_.save(); });
+  menu_->addSeparator();
+  make_events_item_ =
+      addItem("make_events_item", tr("&Make Events…"), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_M),
+              [this] { makeEvents(); });
+  make_events_item_->setToolTip(tr("Have many events made and note one quantity of each"));
+  save_plot_item_ = addItem("save_plot_item", tr("Save P&lot…"),
+                            QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_P), [this] { savePlot(); });
+  // Return in the table records; while a cell is edited the editor has it.
+  connect(new QShortcut(QKeySequence(Qt::Key_Return), table_, nullptr, nullptr, Qt::WidgetShortcut),
+          &QShortcut::activated, this, &MeasurementsWindow::recordAsked);
+}
+
+QAction* MeasurementsWindow::addItem(const char* name, const QString& text,
+                                     const QKeySequence& shortcut,
+                                     const std::function<void()>& run) {
+  QAction* const item = menu_->addAction(text);
+  item->setObjectName(QLatin1String(name));
+  item->setShortcut(shortcut);
+  connect(item, &QAction::triggered, this, run);
+  return item;
+}
+
+void MeasurementsWindow::fillToolBar() {
+  auto* const bar = new QToolBar(tr("Measurements"), this);
+  bar->setObjectName(QStringLiteral("measurements_tool_bar"));
+  bar->setMovable(false);
+  bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+  bar->addActions({record_item_, delete_item_, undo_item_, redo_item_});
+  bar->addSeparator();
+  bar->addActions({add_item_, save_item_, make_events_item_, save_plot_item_});
+  addToolBar(bar);
+}
+
+void MeasurementsWindow::layOut() {
+  table_->setObjectName(QStringLiteral("measurements_table"));
+  table_->setAccessibleName(tr("Measurements"));
+  table_->setModel(columns_);
+  table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table_->setAlternatingRowColors(true);
+  table_->setItemDelegateForColumn(static_cast<int>(MeasurementColumn::ending),
+                                   new EndingDelegate(table_));
+  // Tab leads on to the histogram; the arrow keys go from cell to cell.
+  table_->setTabKeyNavigation(false);
+  table_->horizontalHeader()->setStretchLastSection(true);
+  message_->setObjectName(QStringLiteral("measurements_message"));
+  message_->setWordWrap(true);
+  message_->setTextFormat(Qt::PlainText);
+  message_->hide();
+
+  auto* const left = new QWidget(this);
+  auto* const left_layout = new QVBoxLayout(left);
+  left_layout->setContentsMargins(0, 0, 0, 0);
+  left_layout->addWidget(table_, 1);
+  left_layout->addWidget(message_);
+  auto* const splitter = new QSplitter(this);
+  splitter->setObjectName(QStringLiteral("measurements_splitter"));
+  splitter->setChildrenCollapsible(false);
+  splitter->addWidget(left);
+  splitter->addWidget(histogram_);
+  splitter->setStretchFactor(0, 3);
+  splitter->setStretchFactor(1, 2);
+  auto* const content = new QWidget(this);
+  auto* const layout = new QVBoxLayout(content);
+  layout->addWidget(splitter);
+  setCentralWidget(content);
+  table_->setFocus();
+  constexpr QSize window_size(1080, 480);
+  resize(window_size);
+}
+
+void MeasurementsWindow::refresh() {
+  const int rows_before = columns_->rowCount();
+  columns_->refresh();
+  const int rows = columns_->rowCount();
+  if (rows > rows_before) {
+    table_->scrollToBottom();
+    if (rows_before == 0) {
+      table_->resizeColumnsToContents();
+    }
+  }
+  histogram_->refresh();
+  tell({});
+  delete_item_->setEnabled(rows > 0);
+  undo_item_->setEnabled(measurements_.canUndo());
+  redo_item_->setEnabled(measurements_.canRedo());
+  save_item_->setEnabled(rows > 0);
+  save_plot_item_->setEnabled(histogram_->canBeSaved());
+}
+
+void MeasurementsWindow::deleteRows() {
+  std::vector<std::size_t> places;
+  for (const QModelIndex& index : table_->selectionModel()->selectedRows()) {
+    places.push_back(static_cast<std::size_t>(index.row()));
+  }
+  if (places.empty()) {
+    tell(tr("Choose the rows to delete."));
+    return;
+  }
+  std::ranges::sort(places);
+  measurements_.remove(places);
+  // The row that took the place of the first one, so that the keys can go on.
+  const int next = std::min(static_cast<int>(places.front()), columns_->rowCount() - 1);
+  table_->setCurrentIndex(columns_->index(next, 0));
+}
+
+void MeasurementsWindow::makeEvents() {
+  if (make_events_dialog_ != nullptr) {
+    return;
+  }
+  auto* const dialog = new MakeEventsDialog(static_cast<std::size_t>(model_.event_type()),
+                                            model_.next(), dialogs_, this);
+  make_events_dialog_ = dialog;
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  connect(dialog, &QDialog::accepted, this, [this, dialog] {
+    MeasurementTable rows = dialog->takeRows();
+    const auto noted = rows.size();
+    measurements_.add(std::move(rows));
+    tell(tr("Events made: %1. Rows noted: %2.").arg(dialog->events()).arg(noted));
+  });
+  dialog->open();
+}
+
+void MeasurementsWindow::savePlot() {
+  const QString path =
+      dialogs_.fileToSave(tr("Save Plot"), QStringLiteral("histogram"),
+                          tr("PNG pictures (*.png);;PDF documents (*.pdf)"), QStringLiteral("png"));
+  if (path.isEmpty()) {
+    return;
+  }
+  const bool is_pdf = path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive);
+  write_or_tell(dialogs_, path, is_pdf ? histogram_->asPdf() : histogram_->asPng());
+}
+
+}  // namespace velquon

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QPointer>
+
+#include "model/chamber_model.h"
+#include "model/measurements.h"
+#include "record/make_events_dialog.h"
+#include "widgets/gl_panel.h"
+
+class QLabel;
+class QMenu;
+class QTableView;
+
+namespace velquon {
+
+class HistogramPanel;
+class MeasurementColumns;
+class MeasurementFiles;
+class UserDialogs;
+
+/// The window of the measurements: their table and a histogram of them. It has a menu of its own.
+class MeasurementsWindow : public GLPanel {
+  Q_OBJECT
+
+ public:
+  /// All of these must outlive the window.
+  /// \param model gives the kind and values that are offered for many events
+  MeasurementsWindow(Measurements& measurements, MeasurementFiles& files, const ChamberModel& model,
+                     UserDialogs& dialogs);
+
+  /// Puts the window's own menu into its menu bar.
+  /// \param before the menu that it stands in front of
+  void insertMenu(QAction* before);
+
+  /// Tells something below the table until the rows change.
+  void tell(const QString& message);
+
+  [[nodiscard]] QTableView& table() { return *table_; }
+  [[nodiscard]] HistogramPanel& histogram() { return *histogram_; }
+  /// The dialog that is open; null without one.
+  [[nodiscard]] MakeEventsDialog* makeEventsDialog() { return make_events_dialog_; }
+
+ Q_SIGNALS:
+  /// What the projector's tool reads is to be recorded.
+  void recordAsked();
+
+ private:
+  void layOut();
+  void addItems();
+  QAction* addItem(const char* name, const QString& text, const QKeySequence& shortcut,
+                   const std::function<void()>& run);
+  void fillToolBar();
+  void refresh();
+  void deleteRows();
+  void makeEvents();
+  void savePlot();
+
+  Measurements& measurements_;
+  MeasurementFiles& files_;
+  const ChamberModel& model_;
+  UserDialogs& dialogs_;
+  QMenu* menu_;
+  MeasurementColumns* columns_;
+  QTableView* table_;
+  HistogramPanel* histogram_;
+  QLabel* message_;
+  QAction* record_item_ = nullptr;
+  QAction* delete_item_ = nullptr;
+  QAction* undo_item_ = nullptr;
+  QAction* redo_item_ = nullptr;
+  QAction* save_item_ = nullptr;
+  QAction* add_item_ = nullptr;
+  QAction* make_events_item_ = nullptr;
+  QAction* save_plot_item_ = nullptr;
+  QPointer<MakeEventsDialog> make_events_dialog_;
+};
+
+}  // namespace velquon

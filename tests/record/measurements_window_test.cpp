@@ -1,0 +1,360 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The window of measurements through mouse and keyboard: recording, editing, deleting, undoing, the
+// histogram.
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QTest>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+#include <cmath>
+#include <ctime>
+
+#include "model/projector.h"
+#include "tests/record/measurements_fixture.h"
+#include "tests/support/documents/environment.h"
+#include "tests/support/windows/waiting.h"
+
+namespace velquon::test {
+
+namespace {
+
+using Column = MeasurementColumn;
+
+class MeasurementsWindowTest : public MeasurementsFixture {
+ protected:
+  std::string message() {
+    return windowControl<QLabel>("measurements_message").text().toStdString();
+  }
+  std::string summary() { return windowControl<QLabel>("histogram_summary").text().toStdString(); }
+  int rows() { return table().model()->rowCount(); }
+  /// Edits a cell by F2 and the keyboard.
+  void typeInto(int row, Column column, const QString& text) {
+    clickCell(row, column);
+    QTest::keyClick(&table(), Qt::Key_F2);
+    auto* const editor = table().findChild<QLineEdit*>();
+    ASSERT_NE(editor, nullptr);
+    editor->selectAll();
+    QTest::keyClicks(editor, text);
+    QTest::keyClick(editor, Qt::Key_Return);
+    handle_waiting_events();
+    // The editor goes before another one comes.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+};
+
+}  // namespace
+
+TEST_F(MeasurementsWindowTest, ComesUpByItsMenuItemWithAMenuOfItsOwn) {
+  openMeasurements();
+  EXPECT_EQ(window().windowTitle().toStdString(), "Measurements");
+  QStringList titles;
+  for (const QAction* const menu : window().menuBar()->actions()) {
+    titles << menu->text().remove(QLatin1Char('&'));
+  }
+  EXPECT_EQ(titles.join(QLatin1Char(' ')).toStdString(),
+            "File Action Event Settings Track Measurements Window Help");
+  EXPECT_EQ(summary(), "There are no measurements yet.");
+}
+
+TEST_F(MeasurementsWindowTest, NoItemHasTheShortcutOfAnother) {
+  QHash<QString, QString> taken;
+  for (const QAction* const action : window().findChildren<QAction*>()) {
+    for (const QKeySequence& keys : action->shortcuts()) {
+      EXPECT_FALSE(taken.contains(keys.toString())) << keys.toString().toStdString();
+      taken[keys.toString()] = action->objectName();
+    }
+  }
+  for (const char* const name : {"save_item", "open_item", "quit_item", "new_event_item"}) {
+    EXPECT_FALSE(taken.contains(item(name).shortcut().toString())) << name;
+  }
+}
+
+TEST_F(MeasurementsWindowTest, RecordNotesWhatTheTapeReads) {
+  makeEvent(1);
+  openMeasurements();
+  activate(projectorWindow());
+  layTape(QPoint(100, 200), QPoint(200, 200));
+  activate(window());
+  QTest::keyClick(&table(), Qt::Key_Return, Qt::ControlModifier);
+  ASSERT_EQ(rows(), 1);
+  EXPECT_EQ(cell(0, Column::event), "Untitled Type 2 Decay 1");
+  EXPECT_EQ(cell(0, Column::quantity), "length");
+  EXPECT_EQ(cell(0, Column::plane), "xy");
+  EXPECT_EQ(cell(0, Column::unit), "cm");
+  EXPECT_EQ(cell(0, Column::field), "0.6");
+  EXPECT_EQ(cell(0, Column::longest), "500");
+  // 100 view units at 500 / 400 cm each, the whole row as the tape says.
+  EXPECT_EQ(cell(0, Column::value), "125");
+  EXPECT_EQ(measurements().rows().front().value, 125.0);
+  // Plain Return in the table notes it once more.
+  QTest::keyClick(&table(), Qt::Key_Return);
+  EXPECT_EQ(rows(), 2);
+}
+
+TEST_F(MeasurementsWindowTest, EventsOfOneNameAreToldApart) {
+  makeEvent(1);
+  layTape(QPoint(100, 200), QPoint(200, 200));
+  application().recordReadings();
+  choose("new_event_item");
+  layTape(QPoint(100, 200), QPoint(180, 200));
+  application().recordReadings();
+  ASSERT_EQ(rows(), 2);
+  EXPECT_NE(cell(0, Column::event), cell(1, Column::event));
+}
+
+TEST_F(MeasurementsWindowTest, RecordingElsewhereShowsTheWindowAndLeavesTheKeys) {
+  makeEvent(1);
+  activate(projectorWindow());
+  layTape(QPoint(100, 200), QPoint(200, 200));
+  application().recordReadings();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window()));
+  run_loop_for(200);
+  EXPECT_TRUE(projectorWindow().isActiveWindow());
+  EXPECT_EQ(rows(), 1);
+}
+
+TEST_F(MeasurementsWindowTest, RecordWithoutAToolLaidOutSaysWhatToDo) {
+  openMeasurements();
+  run("record_item");
+  EXPECT_EQ(rows(), 0);
+  EXPECT_EQ(message(), "Nothing is measured: lay out a tool of the projector first.");
+  EXPECT_TRUE(windowControl<QLabel>("measurements_message").isVisible());
+}
+
+TEST_F(MeasurementsWindowTest, ANoteIsEditedInItsPlaceAndUndoneByTheKeys) {
+  addRows(Quantity::length, {10.0, 20.0});
+  openMeasurements();
+  typeInto(1, Column::note, QStringLiteral("=my note, first"));
+  EXPECT_EQ(measurements().rows()[1].note, "=my note, first");
+  EXPECT_EQ(cell(1, Column::note), "=my note, first");
+  QTest::keyClick(&table(), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(cell(1, Column::note), "");
+  QTest::keyClick(&table(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(cell(1, Column::note), "=my note, first");
+}
+
+TEST_F(MeasurementsWindowTest, TheLongestLengthIsANumberAboveZeroOrNothing) {
+  addRows(Quantity::length, {10.0});
+  openMeasurements();
+  typeInto(0, Column::longest, QStringLiteral("250.5"));
+  EXPECT_EQ(measurements().rows()[0].longest_cm, 250.5);
+  for (const char* const refused : {"-1", "0", "nan", "inf", "2,5", "far"}) {
+    typeInto(0, Column::longest, QLatin1String(refused));
+    EXPECT_EQ(measurements().rows()[0].longest_cm, 250.5) << refused;
+  }
+  typeInto(0, Column::longest, QStringLiteral(" "));
+  EXPECT_TRUE(std::isnan(measurements().rows()[0].longest_cm));
+}
+
+TEST_F(MeasurementsWindowTest, WhatBecameOfATrackIsChosenFromAPopUp) {
+  addRows(Quantity::length, {10.0});
+  openMeasurements();
+  clickCell(0, Column::ending);
+  QTest::keyClick(&table(), Qt::Key_F2);
+  auto* const popup = table().findChild<QComboBox*>(QStringLiteral("ending_popup"));
+  ASSERT_NE(popup, nullptr);
+  QTest::keyClick(popup, Qt::Key_End);
+  QTest::keyClick(popup, Qt::Key_Return);
+  table().setFocus();
+  handle_waiting_events();
+  EXPECT_EQ(measurements().rows()[0].ending, Ending::left);
+  EXPECT_EQ(cell(0, Column::ending), "left");
+}
+
+TEST_F(MeasurementsWindowTest, ValuesCannotBeEdited) {
+  addRows(Quantity::length, {10.0});
+  openMeasurements();
+  clickCell(0, Column::value);
+  QTest::keyClick(&table(), Qt::Key_F2);
+  EXPECT_EQ(table().findChild<QLineEdit*>(), nullptr);
+}
+
+TEST_F(MeasurementsWindowTest, ChosenRowsAreDeletedInOneStep) {
+  addRows(Quantity::length, {10.0, 20.0, 30.0, 40.0});
+  openMeasurements();
+  clickCell(0, Column::event);
+  clickCell(2, Column::event, Qt::ControlModifier);
+  QTest::keyClick(&table(), Qt::Key_Delete);
+  ASSERT_EQ(rows(), 2);
+  EXPECT_EQ(cell(0, Column::value), "20");
+  EXPECT_EQ(cell(1, Column::value), "40");
+  QTest::keyClick(&table(), Qt::Key_Z, Qt::ControlModifier);
+  ASSERT_EQ(rows(), 4);
+  EXPECT_EQ(cell(2, Column::value), "30");
+}
+
+TEST_F(MeasurementsWindowTest, DeleteInANoteTakesALetterAndNoRow) {
+  addRows(Quantity::length, {10.0});
+  openMeasurements();
+  typeInto(0, Column::note, QStringLiteral("ab"));
+  clickCell(0, Column::note);
+  QTest::keyClick(&table(), Qt::Key_F2);
+  auto* const editor = table().findChild<QLineEdit*>();
+  ASSERT_NE(editor, nullptr);
+  editor->setCursorPosition(0);
+  QTest::keyClick(editor, Qt::Key_Delete);
+  QTest::keyClick(editor, Qt::Key_Return);
+  handle_waiting_events();
+  EXPECT_EQ(rows(), 1);
+  EXPECT_EQ(measurements().rows()[0].note, "b");
+}
+
+TEST_F(MeasurementsWindowTest, TheHistogramFillsWhileOneMeasures) {
+  openMeasurements();
+  auto& bins = windowControl<QTableWidget>("bins_table");
+  EXPECT_EQ(bins.rowCount(), 0);
+  addRows(Quantity::length, {12.0});
+  EXPECT_EQ(summary(), "One value, 12 cm.");
+  addRows(Quantity::length, {14.0, 16.0});
+  EXPECT_EQ(summary(), "3 values. Mean 14.0 ± 1.2 cm, spread 2 cm.");
+  int counted = 0;
+  for (int bin = 0; bin < bins.rowCount(); ++bin) {
+    counted += bins.item(bin, 2)->text().toInt();
+  }
+  EXPECT_EQ(counted, 3);
+}
+
+TEST_F(MeasurementsWindowTest, ThePopUpListsTheQuantitiesThatArePresent) {
+  addRows(Quantity::radius, {1.0});
+  addRows(Quantity::length, {2.0});
+  openMeasurements();
+  auto& popup = windowControl<QComboBox>("quantity_popup");
+  ASSERT_EQ(popup.count(), 2);
+  EXPECT_EQ(popup.itemText(0).toStdString(), "length");
+  EXPECT_EQ(popup.itemText(1).toStdString(), "radius");
+  popup.setCurrentIndex(1);
+  addRows(Quantity::tracks, {3.0});
+  // What was chosen stays so.
+  EXPECT_EQ(popup.currentText().toStdString(), "radius");
+  EXPECT_EQ(popup.count(), 3);
+}
+
+TEST_F(MeasurementsWindowTest, TheNumberOfBinsIsAutomaticOrChosen) {
+  addRows(Quantity::length, {0.0, 1.0, 2.0, 3.0, 10.0});
+  openMeasurements();
+  auto& box = windowControl<QSpinBox>("bins_box");
+  EXPECT_EQ(box.text().toStdString(), "Automatic");
+  box.setFocus();
+  box.selectAll();
+  QTest::keyClicks(&box, QStringLiteral("5"));
+  QTest::keyClick(&box, Qt::Key_Return);
+  const auto& bins = windowControl<QTableWidget>("bins_table");
+  ASSERT_EQ(bins.rowCount(), 5);
+  EXPECT_EQ(bins.item(0, 0)->text().toStdString(), "0");
+  EXPECT_EQ(bins.item(0, 1)->text().toStdString(), "2");
+  EXPECT_EQ(bins.item(0, 2)->text().toStdString(), "2");
+  EXPECT_EQ(bins.item(4, 2)->text().toStdString(), "1");
+}
+
+TEST_F(MeasurementsWindowTest, AFitTellsItsResultWithTheChambersCut) {
+  addRows(Quantity::decay_length, {10.0, 20.0, 30.0, 40.0});
+  openMeasurements();
+  windowControl<QComboBox>("fit_popup").setCurrentIndex(1);
+  EXPECT_NE(summary().find("Exponential: decay length 25 ± 13 cm. The chamber's walls are not"),
+            std::string::npos)
+      << summary();
+  MeasurementTable left(2);
+  for (Measurement& row : left) {
+    row.quantity = Quantity::decay_length;
+    row.value = 50.0;
+    row.ending = Ending::left;
+  }
+  measurements().add(left);
+  EXPECT_NE(summary().find("Exponential: decay length 50 ± 25 cm. Tracks that left count"),
+            std::string::npos)
+      << summary();
+  EXPECT_NE(summary().find("Tracks that left the chamber, not in the bars: 2."), std::string::npos);
+  windowControl<QComboBox>("fit_popup").setCurrentIndex(2);
+  EXPECT_NE(summary().find("Gaussian: mean 25.0 ± 5.6 cm, standard deviation 11.2 ± 4.0 cm."),
+            std::string::npos)
+      << summary();
+}
+
+TEST_F(MeasurementsWindowTest, ThePlotIsTheModulesAndTellsScreenReadersWhatItShows) {
+  addRows(Quantity::length, {1.0, 2.0, 3.0});
+  openMeasurements();
+  auto& plot = windowControl<QWidget>("histogram_plot");
+  EXPECT_EQ(qobject_cast<QLabel*>(&plot), nullptr);
+  EXPECT_EQ(plot.accessibleName().toStdString(), "Histogram");
+  EXPECT_NE(plot.accessibleDescription().toStdString().find("length (cm)"), std::string::npos);
+  EXPECT_NE(plot.accessibleDescription().toStdString().find("3 values. Mean 2.00"),
+            std::string::npos)
+      << plot.accessibleDescription().toStdString();
+}
+
+TEST_F(MeasurementsWindowTest, BarsAndCurveAreOnTheScreenInEitherPalette) {
+  addRows(Quantity::decay_length, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12, 15, 20, 30});
+  openMeasurements();
+  windowControl<QComboBox>("fit_popup").setCurrentIndex(1);
+  auto& plot = windowControl<QWidget>("histogram_plot");
+  const auto pixels_of = [&](const QColor& color) {
+    run_loop_for(100);
+    const QImage picture = plot.grab().toImage();
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+      for (int x = 0; x < picture.width(); ++x) {
+        count += picture.pixelColor(x, y) == color ? 1 : 0;
+      }
+    }
+    return count;
+  };
+  EXPECT_GT(pixels_of(window().palette().color(QPalette::Highlight)), 500);
+  EXPECT_GT(pixels_of(QColor(0xC0, 0x30, 0x00)), 30);
+  QPalette dark = window().palette();
+  dark.setColor(QPalette::Base, QColor(20, 20, 20));
+  dark.setColor(QPalette::Text, QColor(230, 230, 230));
+  dark.setColor(QPalette::Highlight, QColor(90, 140, 220));
+  window().setPalette(dark);
+  EXPECT_GT(pixels_of(QColor(20, 20, 20)), 5000);
+  EXPECT_GT(pixels_of(QColor(90, 140, 220)), 500);
+  EXPECT_GT(pixels_of(QColor(0xFF, 0xC0, 0x40)), 30);
+}
+
+TEST_F(MeasurementsWindowTest, EveryControlHasANameForScreenReadersAndTheTabKeyReachesThem) {
+  addRows(Quantity::length, {1.0, 2.0});
+  openMeasurements();
+  table().setFocus();
+  QStringList reached;
+  for (int step = 0; step < 40; ++step) {
+    QWidget* const focus = QApplication::focusWidget();
+    ASSERT_NE(focus, nullptr);
+    if (reached.contains(focus->objectName()) && step > 20) {
+      break;
+    }
+    reached << focus->objectName();
+    QTest::keyClick(focus, Qt::Key_Tab);
+  }
+  for (const char* const name : {"measurements_table", "quantity_popup", "bins_box", "fit_popup"}) {
+    EXPECT_TRUE(reached.contains(QLatin1String(name))) << name;
+    EXPECT_FALSE(windowControl<QWidget>(name).accessibleName().isEmpty()) << name;
+  }
+}
+
+TEST_F(MeasurementsWindowTest, AHundredThousandRowsAreShownAndUndone) {
+  openMeasurements();
+  std::vector<double> values;
+  for (int i = 0; i < 100'000; ++i) {
+    values.push_back(i % 977);
+  }
+  const std::clock_t begin = std::clock();
+  addRows(Quantity::decay_length, values);
+  handle_waiting_events();
+  const double seconds = static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+  EXPECT_EQ(rows(), 100'000);
+  EXPECT_EQ(cell(99'999, Column::value), std::to_string(99'999 % 977));
+  EXPECT_LT(seconds, 5.0);
+  run("undo_item");
+  EXPECT_EQ(rows(), 0);
+}
+
+}  // namespace velquon::test
