@@ -227,7 +227,44 @@ def markdown_table(head, rows):
     return "\n".join(lines + ["| " + " | ".join(map(str, row)) + " |" for row in rows])
 
 
-def show(results):
-    """Prints what an exercise gives, a name and its text a line or a block."""
-    for name, text in results.items():
+def turns_clockwise(places):
+    """Whether a track turns clockwise on the screen from its first place to its last."""
+    a, b, c = places[0], places[len(places) // 2], places[-1]
+    return (b[0] - a[0]) * (c[1] - b[1]) - (b[1] - a[1]) * (c[0] - b[0]) > 0
+
+
+class Rise:
+    """How much a track rises along z, by tape in the yz plane between its first dot and its last. Two
+    dots are always a fortieth of the chamber's side apart along the track."""
+
+    def __init__(self, dots, setting, hand):
+        screen = Screen(setting, "yz")
+        first, last = hand.put(screen.place(dots[0])), hand.put(screen.place(dots[-1]))
+        # An upright tape: both ends at the same place across.
+        self.places = first, (first[0], last[1])
+        self.rise = tape(*self.places, screen)
+        self.steps = len(dots) - 1
+        self.sine = math.copysign(self.rise, first[1] - last[1]) / (self.steps * setting.step)
+
+    @property
+    def cosine(self):
+        return math.sqrt(1 - self.sine ** 2)
+
+
+def gesture(event, plane, tool, places):
+    """What is done with the mouse: the event, the plane, the tool and the places that are clicked, for
+    the tape those of its two ends."""
+    return event, plane, tool, places
+
+
+def run(results, gestures):
+    """Prints what an exercise gives, a name and its text a line or a block; with the word --gestures
+    what its measurements do with the mouse in the projector, at zoom 1 and with its window as it is at
+    the start, a line each: seed, type, field, side, energy, event, plane, tool, x,y of each place."""
+    if sys.argv[1:] == ["--gestures"]:
+        for setting, (event, plane, tool, places) in gestures():
+            print(setting.seed, setting.type, setting.field, setting.side, setting.energy, event,
+                  plane, tool, *(f"{x},{y}" for x, y in places))
+        return
+    for name, text in results().items():
         sys.stdout.write(f"{name}:\n{text}\n" if "\n" in text else f"{name}: {text}\n")

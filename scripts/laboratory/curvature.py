@@ -5,8 +5,8 @@
 """Exercise 1: the momentum of a muon from the curvature of its track."""
 import math
 
-from bench import (Hand, Screen, Setting, circle, evenly, events, markdown_table, mean_and_spread,
-                   momentum, number, show, tape)
+from bench import (Hand, Screen, Setting, circle, evenly, events, gesture, markdown_table,
+                   mean_and_spread, momentum, number, run, tape)
 
 SETTING = Setting("mu+", 5.0, 200.0, 100.0, 1)
 REPEATS = 10
@@ -86,5 +86,12 @@ def results():
     }
 
 
+def gestures():
+    _, _, tapes, curves = measure()
+    done = [gesture(1, "xy", "tape", ends) for *_, (a, b, c, d) in tapes for ends in ((a, b), (c, d))]
+    done += [gesture(1, "xy", "curve", places) for places in curves]
+    return [(SETTING, g) for g in done]
+
+
 if __name__ == "__main__":
-    show(results())
+    run(results, gestures)

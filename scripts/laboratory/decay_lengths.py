@@ -5,12 +5,27 @@
 """Exercise 4: decay lengths of thirty pions at two energies, and time dilation."""
 import math
 
-from bench import (PION, PION_CTAU, Hand, Screen, Setting, events, markdown_table, number, show, tape)
+from bench import (PION, PION_CTAU, Hand, Screen, Setting, events, gesture, markdown_table, number,
+                   run, tape)
 
 SLOW = Setting("pi+", 0.0, 1000.0, 20.0, 4)
-FAST = Setting("pi+", 0.0, 1000.0, 200.0, 4)
+FAST = Setting("pi+", 0.0, 1000.0, 200.0, 14)
 COUNT = 30
 MANY = 1000
+LEAST_KINK = 3  # pixels that a muon's track leaves the pion's line by, to be seen in the projector
+
+
+def seen_to_decay(event):
+    """Whether a muon's track is seen. A pion that decays on the wall shows none."""
+    return any(p.dots for p in event.named(-13))
+
+
+def shows_kink(event):
+    """Whether the muon leaves the pion's line by so much that a plane shows it; without a field the
+    pion's line is the middle of the xy plane and of the yz plane."""
+    middle = Screen(event.setting).place((0.0, 0.0, 0.0))[1]
+    return any(abs(Screen(event.setting, plane).place(event.named(-13)[0].dots[-1])[1] - middle)
+               >= LEAST_KINK for plane in ("xy", "yz"))
 
 
 class Pions:
@@ -24,9 +39,10 @@ class Pions:
         self.true_length = PION_CTAU * self.momentum / PION
         screen, hand = Screen(setting), Hand(hand_seed)
         self.places, self.lengths, self.decayed = [], [], []
+        self.kinks = 0
         for event in events(setting, COUNT):
-            pion = event.particles[0]
-            decayed = pion.fate == "decayed"
+            pion, decayed = event.particles[0], seen_to_decay(event)
+            self.kinks += decayed and shows_kink(event)
             start = screen.place((0.0, -400.0, 0.0))
             end = screen.place(pion.dots[-1] if decayed else (0.0, 400.0, 0.0))
             self.places.append((hand.put(start), hand.put(end)))
@@ -59,9 +75,10 @@ class Pions:
 
 def of_many(setting):
     """The same from many records: corrected mean and its error, cm; pions that left."""
-    pions = [event.particles[0] for event in events(setting, MANY)]
-    decays = sum(p.fate == "decayed" for p in pions)
-    total = sum(math.dist(p.place, p.end) if p.fate == "decayed" else setting.side for p in pions)
+    made = events(setting, MANY)
+    lengths = [math.dist(event.particles[0].place, event.particles[0].end)
+               if seen_to_decay(event) else setting.side for event in made]
+    decays, total = sum(map(seen_to_decay, made)), sum(lengths)
     return total / decays - 1.5 * setting.step, total / decays / math.sqrt(decays), MANY - decays
 
 
@@ -81,6 +98,7 @@ def results():
         texts |= {
             f"{name}_decays": str(pions.decays),
             f"{name}_left": str(COUNT - pions.decays),
+            f"{name}_kinks": str(pions.kinks),
             f"{name}_total": number(pions.total, 0),
             f"{name}_fit": number(fit, 0),
             f"{name}_error": number(error, 0),
@@ -112,5 +130,10 @@ def results():
     return texts
 
 
+def gestures():
+    return [(pions.setting, gesture(i + 1, "xy", "tape", ends))
+            for pions in (Pions(SLOW, 41), Pions(FAST, 42)) for i, ends in enumerate(pions.places)]
+
+
 if __name__ == "__main__":
-    show(results())
+    run(results, gestures)

@@ -4,68 +4,120 @@
 
 """Exercise 3: the mass of the unseen particle in the decay of a pion."""
 import math
-import sys
 
-from bench import (MUON, PION, Hand, Screen, Setting, angle, circle, evenly, events, markdown_table,
-                   mean_and_spread, momentum, number, show, tape)
+from bench import (MUON, PION, Hand, Rise, Screen, Setting, angle, circle, evenly, events, gesture,
+                   markdown_table, mean_and_spread, momentum, number, run, turns_clockwise)
 
-SETTING = Setting("pi+", float(sys.argv[2]) if len(sys.argv)>2 else 1.5, float(sys.argv[4]) if len(sys.argv)>4 else 200.0, float(sys.argv[3]) if len(sys.argv)>3 else 10.0, int(sys.argv[1]) if len(sys.argv)>1 else 3)
-ZOOM = int(sys.argv[5]) if len(sys.argv)>5 else 1
+SETTING = Setting("pi+", 1.5, 200.0, 10.0, 3)
 COUNT = 30
-LEAST_DOTS = 9
-ARM = 4
+LEAST_DOTS = 9  # of a track that is measured
+ARM = 4  # dots from the kink to the ends of the angle's arms
 
 
 class Kink:
+    """A pion that decayed and its muon, measured."""
+
     def __init__(self, event, hand):
-        self.event = event
-        self.pion, self.muon = event.named(211)[0], event.named(-13)[0]
-        setting = event.setting
-        screen = Screen(setting, zoom=ZOOM)
-        pion = [screen.place(d) for d in self.pion.dots]
-        muon = [screen.place(d) for d in self.muon.dots]
-        kink = pion[-1]
-        self.pion_radius = circle([hand.put(p) for p in evenly(pion, 5)])[1] * screen.cm
-        self.muon_radius = circle([hand.put(p) for p in evenly([kink, *muon], 5)])[1] * screen.cm
-        self.pion_momentum = momentum(self.pion_radius, setting.field)
-        self.muon_transverse = momentum(self.muon_radius, setting.field)
-        # angle between the arms: back along the pion, on along the muon
-        v, a, b = hand.put(kink), hand.put(pion[-1 - ARM]), hand.put(muon[ARM - 1])
-        self.read_angle = angle(v, a, b)
-        arms = math.dist(v, a) * screen.cm, math.dist(v, b) * screen.cm
-        # The sense of the kink: positive when the muon leaves to the side that the field bends to.
-        turn = (v[0]-a[0])*(b[1]-v[1]) - (v[1]-a[1])*(b[0]-v[0])
-        sense = 1 if turn > 0 else -1   # y down: clockwise positive
-        bend = math.degrees(arms[0] / (2 * self.pion_radius) + arms[1] / (2 * self.muon_radius))
-        self.kink = sense * (180 - self.read_angle) - bend
-        # rise
-        side = Screen(setting, "yz", ZOOM)
-        first, last = side.place(self.pion.dots[-1]), side.place(self.muon.dots[-1])
-        f, l = hand.put(first), hand.put(last)
-        self.rise = tape((0, f[1]), (0, l[1]), side)
-        chord = tape(hand.put(kink), hand.put(muon[-1]), screen)
-        self.arc = 2 * self.muon_radius * math.asin(min(1, chord / 2 / self.muon_radius))
-        self.slope = self.rise / self.arc
-        self.muon_total = self.muon_transverse * math.hypot(1, self.slope)
-        self.unseen_energy = math.hypot(PION, self.pion_momentum) - math.hypot(MUON, self.muon_total)
-        self.unseen_square = (self.pion_momentum ** 2 + self.muon_total ** 2 - 2 * self.pion_momentum
-                              * self.muon_transverse * math.cos(math.radians(self.kink)))
-        self.mass_square = self.unseen_energy ** 2 - self.unseen_square
+        setting, screen = event.setting, Screen(event.setting)
+        self.number = event.number
+        self.record = event.named(-13)[0]
+        pion = [screen.place(dot) for dot in event.particles[0].dots]
+        muon = [pion[-1]] + [screen.place(dot) for dot in self.record.dots]
+        self.pion_places = [hand.put(dot) for dot in evenly(pion, 5)]
+        self.muon_places = [hand.put(dot) for dot in evenly(muon, 5)]
+        radii = [circle(p)[1] * screen.cm for p in (self.pion_places, self.muon_places)]
+        self.pion_momentum, self.transverse = (momentum(r, setting.field) for r in radii)
+        self.arms = hand.put(muon[0]), hand.put(pion[-1 - ARM]), hand.put(muon[ARM])
+        self.turn = turn_at_kink(self.arms, radii, screen)
+        self.rise = Rise([event.particles[0].dots[-1]] + self.record.dots, setting, hand)
+        self.momentum = self.transverse / self.rise.cosine
+        self.unseen_energy = (math.hypot(PION, self.pion_momentum)
+                              - math.hypot(MUON, self.momentum))
+        square = (self.pion_momentum ** 2 + self.momentum ** 2 - 2 * self.pion_momentum
+                  * self.transverse * math.cos(math.radians(self.turn)))
+        self.unseen_momentum = math.sqrt(square)
+        self.mass_square = self.unseen_energy ** 2 - square
+
+    def gestures(self):
+        return [gesture(self.number, "xy", "curve", self.pion_places),
+                gesture(self.number, "xy", "curve", self.muon_places),
+                gesture(self.number, "xy", "angle", self.arms),
+                gesture(self.number, "yz", "tape", self.rise.places)]
+
+
+def turn_at_kink(arms, radii, screen):
+    """The angle between the directions of pion and muon at the kink, degrees, from the angle between
+    the arms. Each arm is a chord of its track and differs from its direction at the kink by half the
+    angle that the arm's length is seen under from the centre; positive to the right."""
+    vertex, back, onward = arms
+    sense = 1 if turns_clockwise((back, vertex, onward)) else -1
+    bend = sum(math.dist(vertex, end) * screen.cm / (2 * r)
+               for end, r in zip((back, onward), radii))
+    return sense * (180 - angle(*arms)) - math.degrees(bend)
+
+
+def measure():
+    """All events and the kinks among them that can be measured."""
+    made, hand = events(SETTING, COUNT), Hand(31)
+    return made, [Kink(event, hand) for event in made
+                  if event.named(-13) and event.particles[0].count >= LEAST_DOTS
+                  and event.named(-13)[0].count >= LEAST_DOTS]
+
+
+def worked_example(kink):
+    """The first kink, number by number."""
+    setting = SETTING
+    screen = Screen(setting)
+    radii = [circle(p)[1] * screen.cm for p in (kink.pion_places, kink.muon_places)]
+    return {
+        "first_event": str(kink.number),
+        "first_pion_radius": number(radii[0], 1),
+        "first_muon_radius": number(radii[1], 1),
+        "first_pion_momentum": number(kink.pion_momentum, 1),
+        "first_transverse": number(kink.transverse, 1),
+        "first_angle": number(angle(*kink.arms), 1),
+        "first_side": "right" if turns_clockwise((kink.arms[1], kink.arms[0], kink.arms[2]))
+                      else "left",
+        "first_arm_pion": number(math.dist(*kink.arms[:2]) * screen.cm, 1),
+        "first_arm_muon": number(math.dist(kink.arms[0], kink.arms[2]) * screen.cm, 1),
+        "first_turn": number(kink.turn, 1),
+        "first_rise": number(kink.rise.rise, 1),
+        "first_steps": str(kink.rise.steps),
+        "first_way": number(kink.rise.steps * setting.step, 0),
+        "first_sine": number(abs(kink.rise.sine), 3),
+        "first_momentum": number(kink.momentum, 1),
+        "first_pion_energy": number(math.hypot(PION, kink.pion_momentum), 1),
+        "first_muon_energy": number(math.hypot(MUON, kink.momentum), 1),
+        "first_unseen_energy": number(kink.unseen_energy, 1),
+        "first_unseen_momentum": number(kink.unseen_momentum, 1),
+        "first_mass_square": number(kink.mass_square, 0),
+    }
 
 
 def results():
-    hand = Hand(31)
-    made = events(SETTING, COUNT)
-    good = [e for e in made if e.named(-13) and e.particles[0].count >= LEAST_DOTS
-            and e.named(-13)[0].count >= LEAST_DOTS]
-    kinks = [Kink(e, hand) for e in good]
-    rows = [(k.event.number, len(k.pion.dots), len(k.muon.dots), number(k.pion_momentum, 1), number(k.muon_transverse, 1), number(k.muon.transverse,1),
-             number(k.kink, 1), number(k.slope, 2), number(k.muon_total, 1), number(k.muon.total, 1), number(k.unseen_energy, 1), number(math.sqrt(k.unseen_square), 1),
-             number(k.mass_square, 0)) for k in kinks]
-    import random
-    return {"decays": str(sum(bool(e.named(-13)) for e in made)), "kinks": markdown_table("n dp dm pp pt true k slope pm true E p m2".split(), rows),
-       "mean": str(mean_and_spread([k.mass_square for k in kinks])) }
+    made, kinks = measure()
+    mean, spread, error = mean_and_spread([kink.mass_square for kink in kinks])
+    pion_mean, _, pion_error = mean_and_spread([kink.pion_momentum for kink in kinks])
+    return worked_example(kinks[0]) | {
+        "decays": str(sum(bool(event.named(-13)) for event in made)),
+        "measured": str(len(kinks)),
+        "table": markdown_table(
+            ("event", "pion p (MeV/c)", "muon p_T (MeV/c)", "turn (°)", "muon p (MeV/c)",
+             "E of the unseen (MeV)", "p of the unseen (MeV/c)", "m² (MeV²)"),
+            [(k.number, number(k.pion_momentum, 1), number(k.transverse, 1), number(k.turn, 1),
+              number(k.momentum, 1), number(k.unseen_energy, 1), number(k.unseen_momentum, 1),
+              number(k.mass_square, 0)) for k in kinks]),
+        "mean": number(mean, 0), "spread": number(spread, 0), "error": number(error, 0),
+        "limit": number(math.sqrt(max(mean, 0) + 2 * error), 0),
+        "pion_mean": number(pion_mean, 1), "pion_error": number(pion_error, 1),
+        "true_pion": number(made[0].particles[0].transverse, 1),
+        "worst_muon": number(max(abs(k.momentum / k.record.total - 1) for k in kinks) * 100, 0),
+    }
+
+
+def gestures():
+    return [(SETTING, g) for kink in measure()[1] for g in kink.gestures()]
 
 
 if __name__ == "__main__":
-    show(results())
+    run(results, gestures)
