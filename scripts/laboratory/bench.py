@@ -257,6 +257,15 @@ def gesture(event, plane, tool, places):
     return event, plane, tool, places
 
 
+def set_to(setting):
+    """What is to be set, for the text."""
+    names = {"pi+": "Positive Pion", "pi0": "Neutral Pion", "mu+": "Positive Muon",
+             "lambda": "Lambda"}
+    return {"type": names[setting.type], "seed": str(setting.seed), "energy": f"{setting.energy:g}",
+            "field": f"{setting.field:g}", "side": f"{setting.side / 100:g}",
+            "step": f"{setting.step:g}", "pixel": f"{setting.side / 400:g}"}
+
+
 def run(results, gestures):
     """Prints what an exercise gives, a name and its text a line or a block; with the word --gestures
     what its measurements do with the mouse in the projector, at zoom 1 and with its window as it is at

@@ -6,7 +6,7 @@
 import math
 
 from bench import (Hand, Screen, Setting, circle, evenly, events, gesture, markdown_table,
-                   mean_and_spread, momentum, number, run, tape)
+                   mean_and_spread, momentum, number, run, set_to, tape)
 
 SETTING = Setting("mu+", 5.0, 200.0, 100.0, 1)
 REPEATS = 10
@@ -61,7 +61,8 @@ def results():
             for i, ((c, s, _), p, r, q) in enumerate(zip(tapes, by_sagitta, radii, by_curve))]
     tape_mean, tape_spread, tape_error = mean_and_spread(by_sagitta)
     curve_mean, curve_spread, curve_error = mean_and_spread(by_curve)
-    return {
+    return set_to(SETTING) | {
+        "repeats": str(REPEATS),
         "dots": str(len(muon.dots)),
         "centimetres_a_pixel": number(screen.cm, 2),
         "first_chord": number(chord, 2),

@@ -6,7 +6,7 @@
 import math
 
 from bench import (PION, PION_CTAU, Hand, Screen, Setting, events, gesture, markdown_table, number,
-                   run, tape)
+                   run, set_to, tape)
 
 SLOW = Setting("pi+", 0.0, 1000.0, 20.0, 4)
 FAST = Setting("pi+", 0.0, 1000.0, 200.0, 14)
@@ -84,7 +84,8 @@ def of_many(setting):
 
 def results():
     slow, fast = Pions(SLOW, 41), Pions(FAST, 42)
-    texts = {"rows": markdown_table(
+    texts = set_to(SLOW) | {"fast_seed": str(FAST.seed), "fast_energy": number(FAST.energy),
+                            "count": str(COUNT), "many": str(MANY)} | {"rows": markdown_table(
         ("", "20 MeV (cm)", "", "200 MeV (cm)", ""),
         [(i + 1, number(a, 1), "decay" if da else "wall", number(b, 1), "decay" if db else "wall")
          for i, (a, da, b, db) in enumerate(zip(slow.lengths, slow.decayed, fast.lengths,
@@ -125,7 +126,6 @@ def results():
         texts[name] = number(b / a, 2)
         texts[f"{name}_error"] = number(b / a * math.hypot(da / a, db / b), 2)
     texts["true_ratio"] = number(fast.gamma / slow.gamma, 2)
-    texts["step"] = number(SLOW.step, 0)
     texts["correction"] = number(1.5 * SLOW.step, 1)
     return texts
 

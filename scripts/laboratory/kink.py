@@ -6,7 +6,7 @@
 import math
 
 from bench import (MUON, PION, Hand, Rise, Screen, Setting, angle, circle, evenly, events, gesture,
-                   markdown_table, mean_and_spread, momentum, number, run, turns_clockwise)
+                   markdown_table, mean_and_spread, momentum, number, run, set_to, turns_clockwise)
 
 SETTING = Setting("pi+", 1.5, 200.0, 10.0, 3)
 COUNT = 30
@@ -98,7 +98,8 @@ def results():
     made, kinks = measure()
     mean, spread, error = mean_and_spread([kink.mass_square for kink in kinks])
     pion_mean, _, pion_error = mean_and_spread([kink.pion_momentum for kink in kinks])
-    return worked_example(kinks[0]) | {
+    return set_to(SETTING) | worked_example(kinks[0]) | {
+        "count": str(COUNT), "least_dots": str(LEAST_DOTS), "arm": str(ARM),
         "decays": str(sum(bool(event.named(-13)) for event in made)),
         "measured": str(len(kinks)),
         "table": markdown_table(

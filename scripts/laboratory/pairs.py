@@ -7,7 +7,7 @@ import math
 from collections import Counter
 
 from bench import (PIZERO, Hand, Screen, Setting, angle, circle, evenly, events, gesture,
-                   markdown_table, mean_and_spread, momentum, number, run, tape, turns_clockwise)
+                   markdown_table, mean_and_spread, momentum, number, run, set_to, tape, turns_clockwise)
 
 SETTING = Setting("pi0", 1.0, 500.0, 100.0, 2)
 COUNT = 30
@@ -112,7 +112,8 @@ def results():
     total = SETTING.energy + PIZERO
     mean, spread, error = mean_and_spread([pion.mass for pion in pions])
     energies = [e for pion in pions for e in pion.energies]
-    return worked_example(pions[0]) | {
+    return set_to(SETTING) | worked_example(pions[0]) | {
+        "count": str(COUNT), "fewest": str(FEWEST), "most": str(MOST), "used": str(USED),
         "none": str(seen[0]), "two": str(seen[2]), "four": str(seen[4]),
         "pairs": str(pairs), "photons": str(2 * COUNT),
         "share": number(100 * share, 0),

@@ -6,7 +6,7 @@
 import math
 
 from bench import (LAMBDA, PION, PROTON, Hand, Rise, Screen, Setting, angle, circle, evenly, events,
-                   gesture, markdown_table, mean_and_spread, momentum, number, run)
+                   gesture, markdown_table, mean_and_spread, momentum, number, run, set_to)
 
 SETTING = Setting("lambda", 5.0, 100.0, 100.0, 5)
 MEASURED_OF = 25  # events whose Vs are measured
@@ -114,7 +114,10 @@ def worked_example(vee):
 def results():
     vees = measure()
     mean, spread, error = mean_and_spread([vee.mass for vee in vees])
-    texts = worked_example(vees[0]) | {
+    texts = set_to(SETTING) | worked_example(vees[0]) | {
+        "of": str(MEASURED_OF), "counted": str(COUNTED), "many": str(MANY),
+        "least_dots": str(LEAST_DOTS), "least_radius": number(LEAST_RADIUS), "used": str(USED),
+        "arm": str(ARM),
         "measured": str(len(vees)),
         "table": markdown_table(
             ("event", "proton p (MeV/c)", "pion p (MeV/c)", "opening angle (°)", "mass (MeV)"),
