@@ -83,7 +83,8 @@ def results():
         "true_momentum": number(muon.transverse, 1),
         "true_radius": number(muon.transverse / (0.3 * field_kG), 1),
         "approximate_mean": number(mean_and_spread(approximate)[0], 1),
-        "sagitta_share": number(100 * math.sqrt(2 * 2 / 3 / 2) * screen.cm / sagitta, 1),
+        # Each end of the sagitta has a variance of 2/3 of a square pixel across.
+        "sagitta_share": number(100 * math.sqrt(4 / 3) * screen.cm / sagitta, 1),
     }
 
 
