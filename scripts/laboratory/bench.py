@@ -49,7 +49,7 @@ class Event:
         return [p for p in self.particles if p.pdg in pdg]
 
     def visible(self):
-        return [p for p in self.particles if p.dots]
+        return [p for p in self.particles if p.count]
 
 
 @dataclass
@@ -95,7 +95,7 @@ def numbers(row, names):
     return tuple(float(row[name]) if row[name] else math.nan for name in names.split())
 
 
-def events(setting, count):
+def events(setting, count, with_dots=True):
     """The first events of a setting."""
     made = [Event(i + 1, setting, []) for i in range(count)]
     for row in table(setting, count, "particles"):
@@ -104,10 +104,11 @@ def events(setting, count):
             numbers(row, "x y z"), numbers(row, "px py pz"), float(row["energy"]),
             numbers(row, "end_x end_y end_z"), int(row["first_point"] or -1),
             int(row["points"] or 0)))
-    for row in table(setting, count, "csv"):
-        made[int(row["event"]) - 1].points.append(numbers(row, "x y z"))
-    for event in made:
-        hand_out_dots(event)
+    if with_dots:
+        for row in table(setting, count, "csv"):
+            made[int(row["event"]) - 1].points.append(numbers(row, "x y z"))
+        for event in made:
+            hand_out_dots(event)
     return made
 
 
@@ -266,14 +267,27 @@ def set_to(setting):
             "step": f"{setting.step:g}", "pixel": f"{setting.side / 400:g}"}
 
 
+def reading(setting, plane, tool, places):
+    """What the projector shows of a measurement at zoom 1: the tape's length and a curve's radius in
+    cm, an angle in degrees, as texts."""
+    screen = Screen(setting, plane)
+    if tool == "tape":
+        return f"{tape(*places, screen):.2f}"
+    if tool == "angle":
+        return f"{angle(*places):.2f}"
+    return f"{circle(places)[1] * screen.cm:.2f}"
+
+
 def run(results, gestures):
     """Prints what an exercise gives, a name and its text a line or a block; with the word --gestures
     what its measurements do with the mouse in the projector, at zoom 1 and with its window as it is at
-    the start, a line each: seed, type, field, side, energy, event, plane, tool, x,y of each place."""
+    the start, a line each: seed, type, field, side, energy, event, plane, tool, reading, and x,y of
+    each place from the view's upper left corner."""
     if sys.argv[1:] == ["--gestures"]:
         for setting, (event, plane, tool, places) in gestures():
             print(setting.seed, setting.type, setting.field, setting.side, setting.energy, event,
-                  plane, tool, *(f"{x},{y}" for x, y in places))
+                  plane, tool, reading(setting, plane, tool, places),
+                  *(f"{x},{y}" for x, y in places))
         return
     for name, text in results().items():
         sys.stdout.write(f"{name}:\n{text}\n" if "\n" in text else f"{name}: {text}\n")

@@ -17,7 +17,7 @@ LEAST_KINK = 3  # pixels that a muon's track leaves the pion's line by, to be se
 
 def seen_to_decay(event):
     """Whether a muon's track is seen. A pion that decays on the wall shows none."""
-    return any(p.dots for p in event.named(-13))
+    return any(p.count for p in event.named(-13))
 
 
 def shows_kink(event):
@@ -75,7 +75,7 @@ class Pions:
 
 def of_many(setting):
     """The same from many records: corrected mean and its error, cm; pions that left."""
-    made = events(setting, MANY)
+    made = events(setting, MANY, with_dots=False)
     lengths = [math.dist(event.particles[0].place, event.particles[0].end)
                if seen_to_decay(event) else setting.side for event in made]
     decays, total = sum(map(seen_to_decay, made)), sum(lengths)

@@ -83,7 +83,7 @@ def measure():
 
 def share_of(count):
     """Events, those of the charged mode, and those of the other with and without tracks."""
-    made = events(SETTING, count)
+    made = events(SETTING, count, with_dots=False)
     charged = sum(map(is_charged, made))
     empty = sum(not event.visible() for event in made)
     share = charged / count
