@@ -103,7 +103,7 @@ def results():
         "decays": str(sum(bool(event.named(-13)) for event in made)),
         "measured": str(len(kinks)),
         "table": markdown_table(
-            ("event", "pion p (MeV/c)", "muon p_T (MeV/c)", "turn (°)", "muon p (MeV/c)",
+            ("event", "pion p (MeV/c)", "muon pT (MeV/c)", "turn (°)", "muon p (MeV/c)",
              "E of the unseen (MeV)", "p of the unseen (MeV/c)", "m² (MeV²)"),
             [(k.number, number(k.pion_momentum, 1), number(k.transverse, 1), number(k.turn, 1),
               number(k.momentum, 1), number(k.unseen_energy, 1), number(k.unseen_momentum, 1),
