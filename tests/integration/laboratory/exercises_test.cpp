@@ -7,7 +7,7 @@
 #include <QLabel>
 #include <QRegularExpression>
 #include <cmath>
-#include <map>
+#include <numeric>
 
 #include "tests/integration/laboratory/pupil.h"
 #include "tests/support/windows/pictures.h"
@@ -30,30 +30,32 @@ class LaboratoryTest : public Pupil, public testing::WithParamInterface<Part> {
  protected:
   [[nodiscard]] std::uint32_t seed() const override { return GetParam().seed; }
 
-  /// What the window says of the quantity that a worked answer has of a tool, without its unit.
-  [[nodiscard]] QString shown(const QString& tool) {
-    const bool is_tape = tool == QStringLiteral("tape");
-    const QString text = control<QLabel>(is_tape ? "tape_text" : "readings_text").text();
-    const std::map<QString, const char*> patterns{
-        {QStringLiteral("tape"), "D = +([0-9.]+) cm"},
-        {QStringLiteral("curve"), "R = ([0-9.]+) ± [0-9.]+ cm"},
-        {QStringLiteral("angle"), "∠ = ([0-9.]+) ± [0-9.]+ degrees"}};
-    return QRegularExpression(QString::fromUtf8(patterns.at(tool))).match(text).captured(1);
+  /// The number that the window shows where a pattern has its group, in as many digits as it shows.
+  void expectShown(const char* label, const char* pattern, double value, double tolerance) {
+    const QString text = control<QLabel>(label).text();
+    const QString read = QRegularExpression(QString::fromUtf8(pattern)).match(text).captured(1);
+    ASSERT_FALSE(read.isEmpty()) << text.toStdString();
+    const auto point = read.indexOf(QLatin1Char('.'));
+    const auto decimals = point < 0 ? 0 : static_cast<int>(read.size() - 1 - point);
+    EXPECT_NEAR(read.toDouble(), value, 0.5 * std::pow(10.0, -decimals) + tolerance);
   }
 
-  /// Whether the window reads what the worked answer has, in as many digits as it shows.
+  /// Whether the window reads what the worked answer has.
   void expectReading(const Gesture& gesture) {
-    const QString read = shown(gesture.tool);
-    const auto decimals = read.contains(QLatin1Char('.'))
-                              ? read.size() - 1 - read.indexOf(QLatin1Char('.'))
-                              : qsizetype{0};
-    const double half_a_digit = 0.5 * std::pow(10.0, -static_cast<double>(decimals));
-    constexpr double half_a_digit_of_the_answer = 0.005;
-    const double most = gesture.tool == QStringLiteral("tape")
-                            ? 1.0e-9
-                            : half_a_digit + half_a_digit_of_the_answer + 1.0e-9;
-    ASSERT_FALSE(read.isEmpty());
-    EXPECT_NEAR(read.toDouble(), gesture.reading.toDouble(), most);
+    constexpr double half_a_digit = 0.005;  // of the worked answer
+    const double value = gesture.reading.toDouble();
+    if (gesture.tool == QStringLiteral("tape")) {
+      constexpr int width = 5;
+      EXPECT_EQ(control<QLabel>("tape_text").text(),
+                QStringLiteral("D = %1 cm").arg(gesture.reading, width));
+    } else if (gesture.tool == QStringLiteral("angle")) {
+      expectShown("readings_text", "∠ = ([0-9.]+) ± [0-9.]+ degrees", value, half_a_digit);
+    } else {
+      expectShown("readings_text", "R = ([0-9.]+) ± [0-9.]+ cm", value, half_a_digit);
+      const double bend = 0.3 * gesture.field_kG;
+      expectShown("readings_text", "pT = ([0-9.]+) ± [0-9.]+ MeV/c", bend * value,
+                  bend * half_a_digit);
+    }
   }
 
   /// How many of the places, put on the track by a hand that errs by a pixel, have a dot beside them.
@@ -61,9 +63,8 @@ class LaboratoryTest : public Pupil, public testing::WithParamInterface<Part> {
     clickButton((gesture.plane + QStringLiteral("_button")).toLatin1().constData());
     constexpr double reach = 3.0;
     const QImage picture = picture_of(projection());
-    return std::ranges::count_if(gesture.places, [&](QPoint place) {
-      return has_color_near(picture, place, white, reach);
-    });
+    return std::ranges::count_if(
+        gesture.places, [&](QPoint place) { return has_color_near(picture, place, white, reach); });
   }
 };
 
@@ -83,6 +84,42 @@ TEST_P(LaboratoryTest, TheToolsReadOfTheSameEventsWhatTheWorkedAnswerHas) {
     measure(gesture);
     expectReading(gesture);
   }
+}
+
+class MuonMomentumTest : public Pupil {
+ protected:
+  [[nodiscard]] std::uint32_t seed() const override { return 1; }
+
+  /// The length that the tape reads when a measurement is made with it, cm.
+  [[nodiscard]] double taped(const Gesture& gesture) {
+    measure(gesture);
+    const QString text = control<QLabel>("tape_text").text();
+    return text.mid(4, text.size() - 7).toDouble();
+  }
+};
+
+TEST_F(MuonMomentumTest, ByChordAndSagittaIsThatOfTheRecord) {
+  constexpr int repeats = 10;
+  const auto gestures = gestures_of(QStringLiteral("curvature"), seed());
+  set(gestures.front());
+  goTo(1);
+  std::vector<double> momenta;
+  for (std::size_t i = 0; i < repeats; ++i) {
+    const double chord = taped(gestures.at(2 * i));
+    const double sagitta = taped(gestures.at(2 * i + 1));
+    const double radius = chord * chord / (8.0 * sagitta) + sagitta / 2.0;
+    momenta.push_back(0.3 * gestures.front().field_kG * radius);
+  }
+  const double mean = std::accumulate(momenta.begin(), momenta.end(), 0.0) / repeats;
+  double squares = 0.0;
+  for (const double momentum : momenta) {
+    squares += (momentum - mean) * (momentum - mean);
+  }
+  const double error = std::sqrt(squares / (repeats - 1) / repeats);
+  const auto& [x, y, z] = controller().model().shown()->tracks->record->particles()[0].momentum;
+  const double true_momentum = std::hypot(x, y);
+  EXPECT_NEAR(mean, true_momentum, 3.0 * error);
+  EXPECT_LT(error, 0.02 * true_momentum);
 }
 
 INSTANTIATE_TEST_SUITE_P(Exercises, LaboratoryTest,

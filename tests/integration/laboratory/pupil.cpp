@@ -18,9 +18,15 @@ namespace {
 Gesture gesture_of(const QString& line) {
   constexpr int words_before_places = 9;
   const QStringList words = line.split(QLatin1Char(' '));
-  Gesture gesture{words[0].toUInt(),   words[1],         words[2].toDouble(),
-                  words[3].toDouble(), words[4].toDouble(), words[5].toInt(),
-                  words[6],            words[7],         words[8],
+  Gesture gesture{words[0].toUInt(),
+                  words[1],
+                  words[2].toDouble(),
+                  words[3].toDouble(),
+                  words[4].toDouble(),
+                  words[5].toInt(),
+                  words[6],
+                  words[7],
+                  words[8],
                   {}};
   for (const QString& place : words.mid(words_before_places)) {
     const QStringList numbers = place.split(QLatin1Char(','));
@@ -48,8 +54,8 @@ std::vector<Gesture> gestures_of(const QString& exercise, std::uint32_t seed) {
   environment.insert(QStringLiteral("VELQUON_EVENTS"), QStringLiteral(VELQUON_EVENTS));
   environment.insert(QStringLiteral("PYTHONDONTWRITEBYTECODE"), QStringLiteral("1"));
   script.setProcessEnvironment(environment);
-  script.start(QStringLiteral(PYTHON), {QStringLiteral(LABORATORY "/%1.py").arg(exercise),
-                                        QStringLiteral("--gestures")});
+  script.start(QStringLiteral(PYTHON),
+               {QStringLiteral(LABORATORY "/%1.py").arg(exercise), QStringLiteral("--gestures")});
   EXPECT_TRUE(script.waitForFinished());
   EXPECT_EQ(script.exitCode(), 0) << script.readAllStandardError().toStdString();
   std::vector<Gesture> gestures;
