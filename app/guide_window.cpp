@@ -3,10 +3,10 @@
 
 #include "app/guide_window.h"
 
-#include <QFile>
 #include <QMessageBox>
 #include <QShortcut>
 #include <QTextBrowser>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace velquon {
@@ -18,10 +18,7 @@ GuideWindow::GuideWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
   browser->setFrameShape(QFrame::NoFrame);
   constexpr int text_margin = 18;
   browser->document()->setDocumentMargin(text_margin);
-  QFile guide(QStringLiteral(":/docs/guide.md"));
-  if (guide.open(QIODevice::ReadOnly)) {
-    browser->setMarkdown(QString::fromUtf8(guide.readAll()));
-  }
+  browser->setSource(QUrl(QStringLiteral("qrc:/docs/guide.md")));
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(browser);

@@ -62,7 +62,7 @@ QString SilentDialogs::fileToSave(const QString& /*title*/, const QString& /*sug
 }
 
 void ApplicationFixture::SetUp() {
-  application_ = std::make_unique<Application>(fixture_seed, dialogs());
+  application_ = std::make_unique<Application>(seed(), dialogs());
   chamber_ = &control<ChamberView>("chamber_view");
   projection_ = &control<ProjectionView>("projection_view");
   application_->showWindows();

@@ -49,6 +49,9 @@ class ApplicationFixture : public ::testing::Test {
   void SetUp() override;
   void TearDown() override;
 
+  /// The seed that the program is started with.
+  [[nodiscard]] virtual std::uint32_t seed() const { return fixture_seed; }
+
   [[nodiscard]] ChamberView& chamber() { return *chamber_; }
   [[nodiscard]] ProjectionView& projection() { return *projection_; }
   [[nodiscard]] ChamberWindow& chamberWindow() { return application_->chamberWindow(); }
