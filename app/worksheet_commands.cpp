@@ -52,7 +52,7 @@ std::optional<WorksheetFiles> ask_for_files(UserDialogs& dialogs, bool with_answ
     return files.sheets.isEmpty() ? std::nullopt : std::optional(files);
   }
   files.answers = dialogs.fileToSave(tr("Save Answers"), tr("Worksheet Answers"), filter, suffix);
-  if (files.answers == files.sheets) {
+  if (!files.answers.isEmpty() && is_one_file(files.answers, files.sheets)) {
     dialogs.alert(tr("Not saved"), tr("The worksheets and their answers need files of two names."));
     return std::nullopt;
   }

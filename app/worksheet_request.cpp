@@ -36,10 +36,11 @@ QString problem_of_names(const QCommandLineParser& parser) {
       return QStringLiteral("--%1: no file is named").arg(key);
     }
   }
-  return parser.value(sheets_key) == parser.value(answers_key)
-             ? QStringLiteral("--answers: '%1' is the file of the worksheets")
-                   .arg(parser.value(answers_key))
-             : QString();
+  const bool share_a_file =
+      parser.isSet(answers_key) && is_one_file(parser.value(sheets_key), parser.value(answers_key));
+  return share_a_file ? QStringLiteral("--answers: '%1' is the file of the worksheets")
+                            .arg(parser.value(answers_key))
+                      : QString();
 }
 
 bool save(const QString& path, const QByteArray& bytes) {

@@ -52,9 +52,12 @@ struct RecordedParticle {
   std::int16_t code = 0;         ///< track code of its points; of no meaning without points
   std::int16_t first_point = 0;  ///< index of its first point in the event
   std::int16_t points = 0;       ///< its points in the event, the decay point included
-  Vector3 place_cm{};            ///< at creation
-  Vector3 momentum{};            ///< MeV/c, at creation
-  double energy = 0.0;           ///< total energy, MeV, at creation
+  /// Steps of its walk. More than its points where two tracks are merged and the event could not
+  /// take all of them.
+  std::int16_t steps = 0;
+  Vector3 place_cm{};   ///< at creation
+  Vector3 momentum{};   ///< MeV/c, at creation
+  double energy = 0.0;  ///< total energy, MeV, at creation
   /// Where it decayed, converted or left its last point; none when that is not known.
   std::optional<Vector3> end_cm;
 };

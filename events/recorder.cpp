@@ -75,13 +75,10 @@ void Recorder::finish(std::span<const PlotPoint> event) const {
   if (record_ == nullptr || !record_->merged_) {
     return;
   }
-  // So far `points` counts what the walks have laid down.
   const auto rows = std::span(record_->rows_).first(record_->size_);
-  std::array<std::int16_t, ParticleRecord::most_particles> walked{};
   std::array<std::size_t, ParticleRecord::most_particles> last{};
-  for (std::size_t row = 0; row < rows.size(); ++row) {
-    walked[row] = rows[row].points;
-    rows[row].points = 0;
+  for (RecordedParticle& particle : rows) {
+    particle.points = 0;
   }
   for (std::size_t point = owners_->size(); point-- > 0;) {
     const std::uint8_t row = (*owners_)[point];
@@ -95,7 +92,7 @@ void Recorder::finish(std::span<const PlotPoint> event) const {
     if (particle.fate != Fate::left && particle.fate != Fate::full) {
       continue;
     }
-    if (particle.points < walked[row]) {
+    if (particle.points < particle.steps) {
       particle.fate = Fate::full;
     }
     particle.end_cm =
@@ -113,6 +110,7 @@ int Recorder::append(int number, int parent, const Vector3& position, const Vect
   particle.code = 0;
   particle.first_point = 0;
   particle.points = 0;
+  particle.steps = 0;
   particle.place_cm = in_cm(position);
   particle.momentum = momentum;
   particle.energy = energy;
@@ -126,6 +124,7 @@ void Recorder::note_track(int row, std::int16_t code, std::span<const PlotPoint>
   particle.code = code;
   particle.first_point = static_cast<std::int16_t>(owners_->size());
   particle.points = static_cast<std::int16_t>(track.size());
+  particle.steps = particle.points;
   owners_->insert(owners_->end(), track.size(), static_cast<std::uint8_t>(row));
   if (!track.empty()) {
     particle.end_cm = in_cm(position_of(track.back()));

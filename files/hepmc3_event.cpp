@@ -6,10 +6,9 @@
 #include <HepMC3/GenParticle.h>
 #include <HepMC3/GenVertex.h>
 
-#include <array>
-#include <cstdlib>
-#include <optional>
 #include <vector>
+
+#include "events/particle_kinds.h"
 
 namespace velquon {
 
@@ -21,29 +20,6 @@ constexpr int final_status = 1;
 
 HepMC3::FourVector in_cm(const Vector3& place) {
   return {place[0], place[1], place[2], 0.0};
-}
-
-/// The mass that the generator gives a particle; none for what is no single particle.
-std::optional<double> mass_of(int number) {
-  struct Mass {
-    int number;
-    double mass;
-  };
-  constexpr std::array<Mass, 9> masses{{{pdg::electron, electron.mass},
-                                        {pdg::muon, muon.mass},
-                                        {pdg::muon_neutrino, 0.0},
-                                        {pdg::photon, photon.mass},
-                                        {pdg::pizero, pizero.mass},
-                                        {pdg::pion, pion.mass},
-                                        {pdg::neutron, neutron.mass},
-                                        {pdg::proton, proton.mass},
-                                        {pdg::lambda, lambda.mass}}};
-  for (const Mass& known : masses) {
-    if (known.number == std::abs(number)) {
-      return known.mass;
-    }
-  }
-  return std::nullopt;
 }
 
 }  // namespace
@@ -84,8 +60,8 @@ HepMC3::GenEvent gen_event_of(std::uint64_t number, const ParticleRecord& record
     const bool primary = row.parent < 0;
     auto particle = std::make_shared<HepMC3::GenParticle>(momentum, row.pdg,
                                                           primary ? beam_status : final_status);
-    if (const auto mass = mass_of(row.pdg)) {
-      particle->set_generated_mass(*mass);
+    if (row.pdg != pdg::both_neutrinos) {
+      particle->set_generated_mass(particle_kind(row.pdg).values.mass);
     }
     particles.push_back(particle);
     if (primary) {

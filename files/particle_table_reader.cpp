@@ -75,6 +75,8 @@ std::optional<RecordedParticle> particle_of(const Fields& fields) {
   if (has_points) {
     is_good = is_good && parse(fields[5], particle.code) &&
               parse(fields[6], particle.first_point) && parse(fields[7], particle.points);
+    // A table does not tell the steps that an event had no room for.
+    particle.steps = particle.points;
   }
   if (!fields[15].empty()) {
     is_good = is_good && parse_vector(all.subspan(15), particle.end_cm.emplace());

@@ -10,43 +10,12 @@
 
 #include "engine/charged_track.h"
 #include "engine/kinematics.h"
+#include "events/particle_kinds.h"
 #include "events/tracking.h"
 
 namespace velquon {
 
 namespace {
-
-/// A particle as people know it.
-struct Kind {
-  int pdg;
-  std::string_view name;
-  const ParticleState& values;  ///< its mass and its decay length
-  bool charged;
-};
-
-// The neutrinos take no part but in the balance: without a mass and without an end.
-constexpr ParticleState neutrino{.decay_length = stable_decay_length};
-
-constexpr std::array kinds{
-    Kind{pdg::pion, "Positive pion π⁺", pion, true},
-    Kind{-pdg::pion, "Negative pion π⁻", pion, true},
-    Kind{pdg::pizero, "Neutral pion π⁰", pizero, false},
-    Kind{pdg::muon, "Negative muon μ⁻", muon, true},
-    Kind{-pdg::muon, "Positive muon μ⁺", muon, true},
-    Kind{pdg::electron, "Electron e⁻", electron, true},
-    Kind{-pdg::electron, "Positron e⁺", positron, true},
-    Kind{pdg::muon_neutrino, "Neutrino ν", neutrino, false},
-    Kind{-pdg::muon_neutrino, "Antineutrino ν̄", neutrino, false},
-    Kind{pdg::both_neutrinos, "Neutrino and antineutrino ν ν̄", neutrino, false},
-    Kind{pdg::photon, "Photon γ", photon, false},
-    Kind{pdg::lambda, "Lambda Λ", lambda, false},
-    Kind{pdg::proton, "Proton p", proton, true},
-    Kind{pdg::neutron, "Neutron n", neutron, false},
-};
-
-const Kind& kind_of(int pdg) {
-  return *std::ranges::find(kinds, pdg, &Kind::pdg);
-}
 
 std::string_view words_of(Fate fate) {
   constexpr std::array<std::string_view, 6> words{
@@ -61,18 +30,18 @@ double distance(const Vector3& from, const Vector3& to) {
 }
 
 EventRow row_of(const RecordedParticle& particle, const ChamberValues& values) {
-  const Kind& kind = kind_of(particle.pdg);
+  const ParticleKind& kind = particle_kind(particle.pdg);
   const auto field = static_cast<double>(values.B_field);
   const auto& [px, py, pz] = particle.momentum;
   EventRow row;
-  row.name = kind.name;
+  row.name = std::string(kind.name) + " " + std::string(kind.symbol);
   row.fate = words_of(particle.fate);
   row.parent = particle.parent;
   row.momentum = magnitude(particle.momentum);
   row.transverse_momentum = std::hypot(px, py);
   row.kinetic_energy = particle.energy - kind.values.mass;
-  row.flight_cm = flight_cm(particle, kind.charged, values);
-  if (kind.charged && field != 0.0) {
+  row.flight_cm = flight_cm(particle, kind.charge != 0, values);
+  if (kind.charge != 0 && field != 0.0) {
     row.radius_cm = std::abs(helix_radius_cm(row.transverse_momentum, field));
   }
   if (kind.values.mass > 0.0 && kind.values.decay_length < stable_decay_length) {
@@ -92,8 +61,8 @@ std::string_view color_name(std::int16_t code) {
 }  // namespace
 
 std::optional<bool> is_charged(int pdg) {
-  const auto* const kind = std::ranges::find(kinds, pdg, &Kind::pdg);
-  return kind == kinds.end() ? std::nullopt : std::optional(kind->charged);
+  const ParticleKind* const kind = find_particle_kind(pdg);
+  return kind == nullptr ? std::nullopt : std::optional(kind->charge != 0);
 }
 
 std::optional<double> flight_cm(const RecordedParticle& particle, bool charged,
@@ -101,8 +70,9 @@ std::optional<double> flight_cm(const RecordedParticle& particle, bool charged,
   if (!particle.end_cm) {
     return std::nullopt;
   }
-  // A charged particle leaves a point each step.
-  return charged ? particle.points * track_step / drawing_scale(values)
+  // A track that is cut ends at its last point, but a decay is where it is.
+  const std::int16_t steps = particle.fate == Fate::decayed ? particle.steps : particle.points;
+  return charged ? steps * track_step / drawing_scale(values)
                  : distance(particle.place_cm, *particle.end_cm);
 }
 

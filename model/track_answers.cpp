@@ -4,11 +4,12 @@
 #include "model/track_answers.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <numbers>
 
+#include "engine/charged_track.h"
 #include "engine/kinematics.h"
+#include "events/particle_kinds.h"
 #include "events/tracking.h"
 
 namespace velquon {
@@ -19,25 +20,16 @@ double transverse(const Vector3& vector) {
   return std::hypot(vector[0], vector[1]);
 }
 
-/// Charge of a particle that leaves a track, in units of e; 0 for all others.
-int charge_of(int number) {
-  constexpr std::array negative_leptons{pdg::electron, pdg::muon};
-  constexpr std::array positive_hadrons{pdg::pion, pdg::proton};
-  const int sign = number < 0 ? -1 : 1;
-  if (std::ranges::find(negative_leptons, std::abs(number)) != negative_leptons.end()) {
-    return -sign;
-  }
-  const bool is_hadron =
-      std::ranges::find(positive_hadrons, std::abs(number)) != positive_hadrons.end();
-  return is_hadron ? sign : 0;
+int charge_of(const RecordedParticle& particle) {
+  return particle_kind(particle.pdg).charge;
 }
 
-/// Radius of a charged particle's circle, cm: 10 pt / (3 B). None without a field.
+/// Radius of a charged particle's circle, cm. None without a field.
 std::optional<double> radius_of(const RecordedParticle& particle, double field_kG) {
-  if (field_kG == 0.0 || charge_of(particle.pdg) == 0) {
+  if (field_kG == 0.0 || charge_of(particle) == 0) {
     return std::nullopt;
   }
-  return 10.0 * transverse(particle.momentum) / (3.0 * std::fabs(field_kG));
+  return helix_radius_cm(transverse(particle.momentum), std::fabs(field_kG));
 }
 
 /// Length of a track, cm: each of its points lies one step behind the one before, the first behind
@@ -65,7 +57,7 @@ Vector3 momentum_at_end(const RecordedParticle& particle, const ChamberValues& v
   Vector3 momentum = particle.momentum;
   if (radius_cm && *radius_cm > 0.0) {
     const double turn = paper_length_of(particle, values) / *radius_cm;
-    rotate_p(momentum, std::copysign(turn, charge_of(particle.pdg) * field_kG));
+    rotate_p(momentum, std::copysign(turn, charge_of(particle) * field_kG));
   }
   return momentum;
 }
@@ -107,7 +99,7 @@ std::vector<TrackAnswer> answers_of(const ParticleRecord& record, const ChamberV
   const auto particles = record.particles();
   std::vector<TrackAnswer> answers;
   for (const RecordedParticle& particle : particles) {
-    if (charge_of(particle.pdg) != 0 && particle.points > 0) {
+    if (charge_of(particle) != 0 && particle.points > 0) {
       const auto* parent =
           particle.parent < 0 ? nullptr : &particles[static_cast<std::size_t>(particle.parent)];
       answers.push_back(answer_of(particle, parent, values));

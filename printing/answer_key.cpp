@@ -10,6 +10,7 @@
 #include <array>
 #include <string_view>
 
+#include "events/particle_kinds.h"
 #include "model/shown_event.h"
 #include "printing/page.h"
 #include "printing/print_view.h"
@@ -64,22 +65,8 @@ constexpr std::array<const char*, 3> notes{
 };
 
 QString symbol_of(int number) {
-  struct Symbol {
-    int number;
-    const char* text;
-  };
-  constexpr std::array<Symbol, 10> symbols{{{pdg::electron, "e⁻"},
-                                            {-pdg::electron, "e⁺"},
-                                            {pdg::muon, "μ⁻"},
-                                            {-pdg::muon, "μ⁺"},
-                                            {-pdg::pion, "π⁻"},
-                                            {pdg::pion, "π⁺"},
-                                            {pdg::pizero, "π⁰"},
-                                            {pdg::proton, "p"},
-                                            {pdg::photon, "γ"},
-                                            {pdg::lambda, "Λ"}}};
-  const auto* const found = std::ranges::find(symbols, number, &Symbol::number);
-  return found != symbols.end() ? QString::fromUtf8(found->text) : QString::number(number);
+  const std::string_view symbol = particle_kind(number).symbol;
+  return QString::fromUtf8(symbol.data(), static_cast<qsizetype>(symbol.size()));
 }
 
 QString number_or_dash(const std::optional<double>& value) {

@@ -13,4 +13,7 @@ namespace velquon {
 /// \return why it could not be written, or nothing
 [[nodiscard]] std::optional<QString> write_whole_file(const QString& path, QByteArrayView bytes);
 
+/// Whether two names lead to one file, be it there already or not.
+[[nodiscard]] bool is_one_file(const QString& path, const QString& other);
+
 }  // namespace velquon

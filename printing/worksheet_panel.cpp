@@ -54,6 +54,8 @@ WorksheetPanel::WorksheetPanel(const WorksheetOrder& preset, QWidget* parent)
   problem_label_->setWordWrap(true);
   layout->addWidget(problem_label_);
   layout->addWidget(makeButtons());
+  // In the dialog by now: before, Return would be for the first button, Cancel.
+  save_button_->setDefault(true);
   takeOrder();
 }
 
@@ -101,9 +103,8 @@ void WorksheetPanel::addNumbers(QFormLayout& form) {
 
 QWidget* WorksheetPanel::makeButtons() {
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
-  save_button_ = named(buttons->addButton(tr("Save as P&DF…"), QDialogButtonBox::AcceptRole),
+  save_button_ = named(buttons->addButton(tr("Sa&ve as PDF…"), QDialogButtonBox::AcceptRole),
                        "worksheet_save_button");
-  save_button_->setDefault(true);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   return buttons;

@@ -19,7 +19,7 @@ RecordWindow::RecordWindow(ChamberModel& model)
     : model_(model),
       message_(new QLabel(this)),
       tree_(new RecordTree(this)),
-      hide_box_(new QCheckBox(tr("&Hide answers"), this)),
+      hide_box_(new QCheckBox(tr("H&ide answers"), this)),
       reveal_button_(new QPushButton(tr("Re&veal"), this)) {
   setTitle(tr("Event Record"));
   layOut();

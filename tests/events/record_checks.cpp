@@ -98,6 +98,17 @@ class ForetoldPath {
   Vector3 advance_{};
 };
 
+std::set<Fate> possible_fates(int number) {
+  if (charge_of(number) != 0) {
+    return {Fate::decayed, Fate::left, Fate::full};
+  }
+  if (number == pdg::photon) {
+    return {Fate::converted, Fate::escaped};
+  }
+  const bool decays = number == pdg::pizero || number == pdg::lambda;
+  return decays ? std::set{Fate::decayed, Fate::escaped} : std::set{Fate::undetected};
+}
+
 std::string at_row(std::size_t row, const std::string& what) {
   return "particle " + std::to_string(row) + ": " + what;
 }
@@ -124,6 +135,9 @@ std::string problem_in_row(const RecordedEvent& event, std::size_t i) {
   }
   const bool ends_in_chamber = row.fate == Fate::decayed || row.fate == Fate::converted;
   const bool seen = charge_of(row.pdg) != 0;
+  if (!possible_fates(row.pdg).contains(row.fate)) {
+    return at_row(i, "a fate that it cannot have");
+  }
   if (ends_in_chamber != row.end_cm.has_value() && !(seen && row.points > 0)) {
     return at_row(i, "an end that is not known, or none where one is");
   }

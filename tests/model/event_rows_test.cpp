@@ -225,6 +225,31 @@ TEST(EventRowsTest, AFlightIsAsLongAsItsTrack) {
   }
 }
 
+TEST(EventRowsTest, TheFlightToADecayIsWholeWhereTheEventCutsItsTrack) {
+  // Pions that circle beside their proton: an event's 350 points are less than both tracks have.
+  const ChamberValues values{.B_field = 100.0F, .sides_cm = 100.0F, .kinetic_Mev = 300.0F};
+  int cut = 0;
+  std::srand(1);
+  for (int number = 0; number < 20'000; ++number) {
+    TrackBuffer buffer;
+    ParticleRecord record;
+    static_cast<void>(make_event(event_types()[lambda_type], values, buffer, &record));
+    const auto rows = event_rows(record, values);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+      const RecordedParticle& particle = record.particles()[i];
+      if (particle.pdg != -pdg::pion || particle.fate != Fate::decayed) {
+        continue;
+      }
+      // A helix goes along z at an even pace.
+      const double along_z = (*particle.end_cm)[2] - particle.place_cm[2];
+      ASSERT_TRUE(rows[i].flight_cm);
+      EXPECT_NEAR(*rows[i].flight_cm * particle.momentum[2] / rows[i].momentum, along_z, 1e-6);
+      cut += particle.points < particle.steps ? 1 : 0;
+    }
+  }
+  EXPECT_GE(cut, 3);
+}
+
 TEST(EventRowsTest, ANeutralFlightIsTheWayToItsEnd) {
   const Made event = made(lambda_type, usual, 1);
   const auto rows = event_rows(event.record, usual);

@@ -65,6 +65,18 @@ double number(const QStringList& row, int column) {
   return row[column].toDouble();
 }
 
+enum class Space { solid, paper };
+
+/// Angle between two particles' momenta, degrees.
+double angle_between(const QStringList& a, const QStringList& b, Space space) {
+  const auto product = [space](const QStringList& c, const QStringList& d) {
+    const double across = number(c, px) * number(d, px) + number(c, py) * number(d, py);
+    return space == Space::paper ? across : across + number(c, pz) * number(d, pz);
+  };
+  const double cosine = product(a, b) / std::sqrt(product(a, a) * product(b, b));
+  return std::acos(std::clamp(cosine, -1.0, 1.0)) * 180.0 / std::acos(-1.0);
+}
+
 /// Radius of the circle through three places of a track, cm.
 double radius_through(const EventPlaces& places, std::size_t first, std::size_t count,
                       double side_cm) {
@@ -106,8 +118,13 @@ TEST_F(WorksheetAnswersTest, EachTrackHasALineWithTheNumbersOfTheRecord) {
         const auto is_parent = [&](const QStringList& other) {
           return other[event] == row[event] && other[particle] == row[parent];
         };
-        EXPECT_EQ(answer[2], symbol_of((*std::ranges::find_if(rows, is_parent))[pdg]));
-        EXPECT_NE(answer[8], QStringLiteral("–"));
+        const QStringList& parent_row = *std::ranges::find_if(rows, is_parent);
+        EXPECT_EQ(answer[2], symbol_of(parent_row[pdg]));
+        if (parent_row[points].isEmpty()) {
+          // A straight parent keeps its direction to the vertex.
+          EXPECT_NEAR(answer[8].toDouble(), angle_between(row, parent_row, Space::solid), 0.051);
+          EXPECT_NEAR(answer[9].toDouble(), angle_between(row, parent_row, Space::paper), 0.051);
+        }
       }
       const double p = std::hypot(number(row, px), number(row, py), number(row, pz));
       const double pt = std::hypot(number(row, px), number(row, py));

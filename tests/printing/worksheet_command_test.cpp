@@ -3,6 +3,8 @@
 
 // Worksheets from the command line, as a shell sees them.
 
+#include <QFile>
+
 #include "tests/support/documents/worksheet_run.h"
 #include "tests/support/file_size_limit.h"
 
@@ -107,6 +109,20 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"--events 5", "--events goes with --worksheets"},
         Refusal{"--paper A4", "--paper goes with --worksheets"},
         Refusal{"--answers @", "--answers goes with --worksheets"}));
+
+TEST_F(WorksheetCommandTest, AnswersInTheFileOfTheWorksheetsByAnotherNameAreRefused) {
+  static_cast<void>(pages(words("--type pi- --seed 1")));
+  const QByteArray before = read(sheets());
+  const QString link = path(QStringLiteral("link.pdf"));
+  ASSERT_TRUE(QFile::link(sheets(), link));
+  for (const QString& name : {link, path(QStringLiteral("./sheets.pdf"))}) {
+    const QuietEnding ending = leave(words("--type pi- --seed 2 --answers") + QStringList{name});
+    EXPECT_EQ(ending.status, 2);
+    EXPECT_EQ(ending.errors,
+              QStringLiteral("velquon: --answers: '%1' is the file of the worksheets\n").arg(name));
+    EXPECT_EQ(read(sheets()), before);
+  }
+}
 
 TEST_F(WorksheetCommandTest, AFileThatCannotBeWrittenIsNamedWithTheReason) {
   const QString nowhere = path(QStringLiteral("no/such.pdf"));

@@ -178,6 +178,7 @@ TEST_F(WorksheetPagesTest, TheTextsTellNumberSeedAndValues) {
           QStringLiteral("Length"), QStringLiteral("Notes")}) {
       EXPECT_TRUE(text.contains(wanted)) << wanted.toStdString() << "\nin\n" << text.toStdString();
     }
+    EXPECT_TRUE(text.contains(QStringLiteral("\n1\n2\n3\n4\nNotes"))) << "room for four tracks";
   }
 }
 

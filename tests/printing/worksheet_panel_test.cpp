@@ -20,6 +20,7 @@
 #include "tests/support/documents/modal.h"
 #include "tests/support/documents/pdf_page.h"
 #include "tests/support/windows/application_fixture.h"
+#include "tests/support/windows/waiting.h"
 
 namespace velquon::test {
 
@@ -31,12 +32,15 @@ class NamingDialogs : public SilentDialogs {
   QString fileToSave(const QString& /*title*/, const QString& suggestion, const QString& /*filter*/,
                      const QString& suffix) override {
     ++names_asked;
-    return names_asked > names_given
-               ? QString()
-               : folder + QLatin1Char('/') + suggestion + QLatin1Char('.') + suffix;
+    if (names_asked > names_given) {
+      return {};
+    }
+    return folder + QLatin1Char('/') +
+           (only_name.isEmpty() ? suggestion + QLatin1Char('.') + suffix : only_name);
   }
 
   QString folder;
+  QString only_name;  ///< unless it is empty, given for every file
   int names_asked = 0;
   int names_given = 2;  ///< after so many the user gives up
 };
@@ -166,6 +170,79 @@ TEST_F(WorksheetPanelTest, GivenUpAtEitherNameNothingIsLeft) {
     onPanel([](QWidget& panel) { save(panel); });
     EXPECT_EQ(files(), QStringList()) << names;
   }
+}
+
+TEST_F(WorksheetPanelTest, OneFileForBothIsToldAndNothingIsLeft) {
+  naming().only_name = QStringLiteral("both.pdf");
+  onPanel([](QWidget& panel) { save(panel); });
+  ASSERT_EQ(naming().alerts.size(), 1);
+  EXPECT_TRUE(naming().alerts[0].contains(
+      QStringLiteral("The worksheets and their answers need files of two names.")));
+  EXPECT_EQ(files(), QStringList());
+}
+
+TEST_F(WorksheetPanelTest, EitherFileThatCannotBeWrittenIsToldOnce) {
+  // A folder stands where the file would be.
+  for (const QString& name :
+       {QStringLiteral("Worksheets.pdf"), QStringLiteral("Worksheet Answers.pdf")}) {
+    naming().alerts.clear();
+    naming().names_asked = 0;
+    ASSERT_TRUE(QDir(folder()).mkdir(name));
+    onPanel([](QWidget& panel) {
+      in<QSpinBox>(panel, "count_box").setValue(1);
+      save(panel);
+    });
+    ASSERT_EQ(naming().alerts.size(), 1) << name.toStdString();
+    EXPECT_TRUE(naming().alerts[0].contains(name)) << naming().alerts[0].toStdString();
+    EXPECT_TRUE(naming().alerts[0].contains(QStringLiteral("Is a directory")));
+    const bool sheets_are_there = QFileInfo(folder() + QStringLiteral("/Worksheets.pdf")).isFile();
+    EXPECT_EQ(sheets_are_there, name == QStringLiteral("Worksheet Answers.pdf"));
+    EXPECT_FALSE(QFileInfo(folder() + QStringLiteral("/Worksheet Answers.pdf")).isFile());
+    ASSERT_TRUE(QDir(folder()).rmdir(name));
+  }
+}
+
+TEST_F(WorksheetPanelTest, ReturnInAFieldSaves) {
+  onPanel([](QWidget& panel) {
+    auto& side = in<QLineEdit>(panel, "side_box");
+    side.setFocus();
+    QTest::keyClick(&side, Qt::Key_Return);
+    EXPECT_FALSE(panel.isVisible());
+  });
+  EXPECT_EQ(naming().names_asked, 2);
+}
+
+/// What is typed to choose a control by the letter that is underlined in a text.
+QKeyCombination key_of(const QString& text) {
+  const QKeySequence keys = QKeySequence::mnemonic(text);
+  return keys.isEmpty() ? QKeyCombination() : keys[0];
+}
+
+TEST_F(WorksheetPanelTest, EachFieldAndButtonIsReachedByAKeyOfItsOwn) {
+  onPanel([](QWidget& panel) {
+    const auto type = [&panel](const QString& text) {
+      const QKeyCombination keys = key_of(text);
+      ASSERT_NE(keys.key(), Qt::Key()) << text.toStdString();
+      QTest::keyClick(&panel, keys.key(), keys.keyboardModifiers());
+    };
+    int fields = 0;
+    for (const QLabel* const label : panel.findChildren<QLabel*>()) {
+      if (label->buddy() != nullptr) {
+        type(label->text());
+        EXPECT_TRUE(label->buddy()->hasFocus() || label->buddy()->isAncestorOf(panel.focusWidget()))
+            << label->text().toStdString();
+        ++fields;
+      }
+    }
+    EXPECT_EQ(fields, 7);
+    auto& answers = in<QCheckBox>(panel, "answers_check");
+    type(answers.text());
+    EXPECT_TRUE(wait_until([&] { return !answers.isChecked(); }));
+    type(in<QPushButton>(panel, "worksheet_save_button").text());
+    EXPECT_TRUE(wait_until([&] { return !panel.isVisible(); }));
+    panel.close();
+  });
+  EXPECT_EQ(naming().names_asked, 1);
 }
 
 TEST_F(WorksheetPanelTest, CancelledOnTheWayNothingIsLeft) {

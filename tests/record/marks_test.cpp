@@ -5,10 +5,12 @@
 // screen.
 
 #include <QCheckBox>
+#include <QLineF>
 #include <QPainter>
 #include <QTest>
 
 #include "tests/record/record_window_fixture.h"
+#include "tests/support/windows/matrices.h"
 #include "tests/support/windows/pictures.h"
 #include "tests/support/windows/screen_view.h"
 #include "tests/support/windows/waiting.h"
@@ -63,6 +65,19 @@ class MarksTest : public RecordWindowFixture {
   QImage plain_projection_;
 };
 
+/// The middle of what differs between two pictures.
+QPointF middle_of_change(const QImage& before, const QImage& after) {
+  QRect changed;
+  for (int y = 0; y < before.height(); ++y) {
+    for (int x = 0; x < before.width(); ++x) {
+      if (before.pixel(x, y) != after.pixel(x, y)) {
+        changed |= QRect(x, y, 1, 1);
+      }
+    }
+  }
+  return QRectF(changed).center();
+}
+
 /// A printed view as a picture.
 QImage page_of(Printable& view) {
   QImage page(500, 720, QImage::Format_RGB32);
@@ -93,6 +108,31 @@ TEST_F(MarksTest, OnlyTheChosenTrackGrows) {
   clickRow(1);
   EXPECT_TRUE(wait_until([this] { return onScreen(yellow) > inPlainPicture(yellow) * 3 / 2; }));
   EXPECT_LE(onScreen(red), inPlainPicture(red));
+}
+
+TEST_F(MarksTest, AMarkStandsAtItsPointInBothViews) {
+  // A step of a track is some 10 pixels.
+  constexpr double most_off = 3.0;
+  const auto points = model().shown()->points();
+  const EventTracks& tracks = *model().shown()->tracks;
+  const auto red_points = event_rows(*tracks.record, tracks.values)[0].points;
+  const QImage plain_chamber = picture_of(chamber());
+  const QImage plain_projection = picture_of(projection());
+  for (const std::size_t point : {red_points.front(), red_points.back(), points.size() - 1}) {
+    model().mark({point});
+    const auto& coords = points[point].coords;
+    const QPointF in_chamber = resting_camera().pixel({coords[0], coords[1], coords[2]});
+    EXPECT_LT(QLineF(middle_of_change(plain_chamber, picture_of(chamber())), in_chamber).length(),
+              most_off)
+        << point;
+    const auto place =
+        projection().mapping().map(project(points[point], projection().projection_plane()));
+    const QPointF in_projection(place.x, projection().height() - place.y);
+    EXPECT_LT(QLineF(middle_of_change(plain_projection, picture_of(projection())), in_projection)
+                  .length(),
+              most_off)
+        << point;
+  }
 }
 
 TEST_F(MarksTest, SeveralRowsAreMarkedTogether) {

@@ -210,6 +210,20 @@ TEST_F(RecordWindowTest, AnOpenedEventHasItsTracksAndNoRecord) {
   EXPECT_EQ(texts().size(), 2);
 }
 
+TEST_F(RecordWindowTest, ControlsAreChosenByKeysThatNoMenuHas) {
+  newEvent(negative_pion, lively);
+  openRecord();
+  const auto type = [this](const QAbstractButton& button) {
+    const QKeyCombination keys = QKeySequence::mnemonic(button.text())[0];
+    QTest::keyClick(&tree(), keys.key(), keys.keyboardModifiers());
+  };
+  type(hideBox());
+  EXPECT_TRUE(wait_until([this] { return hideBox().isChecked(); }));
+  EXPECT_TRUE(revealButton().isEnabled());
+  type(revealButton());
+  EXPECT_TRUE(wait_until([this] { return model().answersShown(); }));
+}
+
 TEST_F(RecordWindowTest, ControlsHaveTheirNamesAndFollowInTheOrderOfTab) {
   newEvent(negative_pion, lively);
   openRecord();

@@ -103,6 +103,9 @@ TEST_P(Hepmc3File, TellsTheRun) {
   const auto type = read.run->attribute<HepMC3::StringAttribute>("type");
   ASSERT_TRUE(type);
   EXPECT_EQ(type->value(), GetParam().type);
+  ASSERT_EQ(read.run->tools().size(), 1U);
+  EXPECT_EQ(read.run->tools()[0].name, "velquon-events");
+  EXPECT_EQ("velquon-events " + read.run->tools()[0].version + "\n", run_tool({"--version"}).out);
 }
 
 std::vector<double> numbers_of(const HepMC3::FourVector& vector) {
@@ -120,6 +123,11 @@ void expect_particle(const HepMC3::GenParticle& particle, const ParticleRecord& 
   EXPECT_EQ(particle.status(), i == 0 ? 4 : has_daughters ? 2 : 1);
   EXPECT_EQ(numbers_of(particle.momentum()),
             (std::vector<double>{row.momentum[0], row.momentum[1], row.momentum[2], row.energy}));
+  if (row.pdg != pdg::both_neutrinos) {
+    const double squared = row.energy * row.energy - row.momentum[0] * row.momentum[0] -
+                           row.momentum[1] * row.momentum[1] - row.momentum[2] * row.momentum[2];
+    EXPECT_NEAR(particle.generated_mass() * particle.generated_mass(), squared, 1e-6);
+  }
   ASSERT_EQ(particle.end_vertex() != nullptr, has_daughters);
   if (has_daughters) {
     EXPECT_EQ(numbers_of(particle.end_vertex()->position()),

@@ -106,6 +106,7 @@ INSTANTIATE_TEST_SUITE_P(Types, SummaryOfType,
 TEST(Summary, CountsWhatTheRecordsSay) {
   std::srand(3);
   double flights = 0.0;
+  double squared_flights = 0.0;
   std::uint64_t charged = 0;
   std::uint64_t escaped = 0;
   for (int i = 0; i < 300; ++i) {
@@ -115,7 +116,9 @@ TEST(Summary, CountsWhatTheRecordsSay) {
     const RecordedParticle& lambda = record.particles()[0];
     escaped += lambda.fate == Fate::escaped ? 1U : 0U;
     charged += record.particles().size() > 1 && record.particles()[1].pdg == pdg::proton ? 1U : 0U;
-    flights += lambda.end_cm ? (*lambda.end_cm)[1] + 150.0 : 0.0;
+    const double flight = lambda.end_cm ? (*lambda.end_cm)[1] + 150.0 : 0.0;
+    flights += flight;
+    squared_flights += flight * flight;
   }
   const Summary summary = summary_of("lambda", {3});
   const ParticleSums& lambdas = summary.particles.at(pdg::lambda);
@@ -124,7 +127,9 @@ TEST(Summary, CountsWhatTheRecordsSay) {
   EXPECT_EQ(lambdas.modes.at("2212 -211"), charged);
   EXPECT_EQ(lambdas.modes.at("2112 111"), 300U - escaped - charged);
   EXPECT_NEAR(lambdas.flight_cm.sum, flights, 1e-9);
+  EXPECT_NEAR(lambdas.flight_cm.sum2, squared_flights, 1e-9);
   EXPECT_NEAR(lambdas.energy_MeV.sum, 300 * (60.0 + 1115.6), 1e-6);
+  EXPECT_NEAR(lambdas.energy_MeV.sum2, 300 * (60.0 + 1115.6) * (60.0 + 1115.6), 1e-3);
 }
 
 TEST(Summary, CountsEventsThatAreNotHandedOver) {
