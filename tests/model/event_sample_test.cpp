@@ -129,6 +129,7 @@ TEST(ParticleTableReaderTest, RefusesWhatIsDamagedAndSaysWhere) {
       {with("1,0,pi,-1,decayed,,," + tail), 2},
       {with("1,0,211,-1,decayed,x,0,5,0,0,0,1,0,0,140,,,"), 2},
       {with("1,0,211,-1,decayed,,," + tail + "\n1,0,211,-1,decayed,,," + tail), 3},
+      {with("1,0,211,-1,decayed,,," + tail + "\n1,2,211,0,decayed,,," + tail), 3},
       {with(std::string(5000, '1')), 2}};
   for (const auto& [text, line] : cases) {
     for (const std::size_t piece : {std::size_t{50}, std::size_t{1U << 20U}}) {
