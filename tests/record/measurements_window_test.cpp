@@ -207,6 +207,11 @@ TEST_F(MeasurementsWindowTest, DeleteInANoteTakesALetterAndNoRow) {
   handle_waiting_events();
   EXPECT_EQ(rows(), 1);
   EXPECT_EQ(measurements().rows()[0].note, "b");
+  // Nor does it where another control has the keys.
+  auto& popup = windowControl<QComboBox>("quantity_popup");
+  popup.setFocus();
+  QTest::keyClick(&popup, Qt::Key_Delete);
+  EXPECT_EQ(rows(), 1);
 }
 
 TEST_F(MeasurementsWindowTest, TheHistogramFillsWhileOneMeasures) {
