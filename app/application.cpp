@@ -55,6 +55,8 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
       items.event_menu);
   join(*chamber_window_);
   join(*projector_window_);
+  connect(projector_window_.get(), &ProjectorWindow::recordAsked, this,
+          &Application::recordReadings);
   addFileCommands();
   add_worksheet_command(*commands_, items, model_, dialogs);
   add_chamber_commands(*commands_, items, *controller_, *chamber_window_->view());

@@ -4,6 +4,7 @@
 // The window of measurements through mouse and keyboard: recording, editing, deleting, undoing, the
 // histogram.
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
@@ -121,6 +122,17 @@ TEST_F(MeasurementsWindowTest, RecordingElsewhereShowsTheWindowAndLeavesTheKeys)
   run_loop_for(200);
   EXPECT_TRUE(projectorWindow().isActiveWindow());
   EXPECT_EQ(rows(), 1);
+}
+
+TEST_F(MeasurementsWindowTest, TheProjectorsButtonRecords) {
+  makeEvent(1);
+  activate(projectorWindow());
+  layTape(QPoint(100, 200), QPoint(200, 200));
+  auto* const button =
+      projectorWindow().findChild<QAbstractButton*>(QStringLiteral("record_button"));
+  ASSERT_NE(button, nullptr);
+  QTest::mouseClick(button, Qt::LeftButton);
+  EXPECT_EQ(measurements().rows().size(), 1U);
 }
 
 TEST_F(MeasurementsWindowTest, RecordWithoutAToolLaidOutSaysWhatToDo) {
