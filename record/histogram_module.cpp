@@ -12,7 +12,7 @@ namespace velquon {
 std::unique_ptr<HistogramPlot> load_histogram_plot() {
   const QDir folder(QCoreApplication::applicationDirPath());
   // Installed; of a build; of a build, for the programs of its tests.
-  for (const char* const place : {"../lib/velquon", "../record", "../../record"}) {
+  for (const char* const place : {"../lib/velquon/modules", "../record", "../../record"}) {
     const QString path =
         folder.filePath(QLatin1String(place) + QLatin1String("/libvelquon-histogram.so"));
     const auto make =
