@@ -101,8 +101,9 @@ TEST(CurveAccuracyTest, ThreeClicksAPixelOffGiveTheMomentumWithinThreePerCent) {
   int clicked = 0;
   double worst = 0.0;
   for (const auto& [key, values] : settings) {
-    const auto type = std::ranges::find_if(
-        event_types(), [&](const EventType& known) { return known.key == std::string_view(key); });
+    const auto type = std::ranges::find_if(event_types(), [&, key = key](const EventType& known) {
+      return known.key == std::string_view(key);
+    });
     ASSERT_NE(type, event_types().end());
     int of_type = 0;
     for (EventTracks& made : seeded_events(*type, values, 5, 200)) {
