@@ -24,14 +24,32 @@ namespace {
 constexpr int most_events = 100'000;
 constexpr int usual_events = 1000;
 
+/// Takes a number with a decimal point or comma and shows it with a point, as all of the program does.
+class NumberBox : public QDoubleSpinBox {
+ public:
+  explicit NumberBox(QWidget* parent) : QDoubleSpinBox(parent) { setLocale(QLocale::c()); }
+
+  [[nodiscard]] double valueFromText(const QString& text) const override {
+    return QDoubleSpinBox::valueFromText(with_point(text));
+  }
+  QValidator::State validate(QString& text, int& position) const override {
+    text = with_point(text);
+    return QDoubleSpinBox::validate(text, position);
+  }
+
+ private:
+  static QString with_point(QString text) {
+    return text.replace(QLatin1Char(','), QLatin1Char('.'));
+  }
+};
+
 QDoubleSpinBox* number_box(double lowest, double highest, int decimals, const QString& unit,
                            float value, QWidget* parent) {
-  auto* const box = new QDoubleSpinBox(parent);
+  auto* const box = new NumberBox(parent);
   box->setDecimals(decimals);
   box->setRange(lowest, highest);
   box->setSuffix(unit);
   box->setValue(static_cast<double>(value));
-  box->setGroupSeparatorShown(false);
   return box;
 }
 
@@ -106,7 +124,7 @@ void MakeEventsDialog::layOut(std::size_t type) {
   addRow(*form, tr("&Kinetic energy:"), energy_box_, "make_energy_box");
   form->addRow(QString(), random_box_);
   addRow(*form, tr("&Seed:"), seed_box_, "make_seed_box");
-  addRow(*form, tr("N&ote of each:"), sampled_popup_, "make_sampled_popup");
+  addRow(*form, tr("&Quantity to note:"), sampled_popup_, "make_sampled_popup");
   auto* const layout = new QVBoxLayout(this);
   layout->addLayout(form);
   layout->addWidget(progress_);

@@ -66,7 +66,8 @@ bool edit(Measurement& row, MeasurementColumn column, const QString& text) {
     row.ending = ending < 0 ? row.ending : static_cast<Ending>(ending);
     return ending >= 0;
   }
-  const QString trimmed = text.trimmed();
+  // A comma is a decimal point here, too, and never parts thousands.
+  const QString trimmed = text.trimmed().replace(QLatin1Char(','), QLatin1Char('.'));
   bool is_number = false;
   const double longest = QLocale::c().toDouble(trimmed, &is_number);
   if (trimmed.isEmpty()) {

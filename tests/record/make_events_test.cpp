@@ -8,6 +8,7 @@
 #include <QDoubleSpinBox>
 #include <QFile>
 #include <QLabel>
+#include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
@@ -79,6 +80,21 @@ TEST_F(MakeEventsTest, OffersTheChosenKindAndTheValuesOfTheNextEvent) {
         "make_seed_box", "make_sampled_popup"}) {
     EXPECT_FALSE(field<QWidget>(name).accessibleName().isEmpty()) << name;
   }
+}
+
+TEST_F(MakeEventsTest, NumbersHaveAPointAndMayBeTypedWithACommaWhateverTheCountry) {
+  const QLocale usual;
+  QLocale::setDefault(QLocale(QLocale::German));
+  openDialog();
+  auto& box = field<QDoubleSpinBox>("make_field_box");
+  EXPECT_EQ(box.text().toStdString(), "0.600 kG");
+  for (const char* const typed : {"1.25", "1,25"}) {
+    box.setValue(3.0);
+    box.selectAll();
+    QTest::keyClicks(&box, QLatin1String(typed));
+    EXPECT_EQ(box.value(), 1.25) << typed;
+  }
+  QLocale::setDefault(usual);
 }
 
 TEST_F(MakeEventsTest, EventsBecomeRowsInOneStep) {
