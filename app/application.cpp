@@ -139,6 +139,9 @@ void Application::recordReadings() {
     window.setAttribute(Qt::WA_ShowWithoutActivating);
     window.show();
     window.setAttribute(Qt::WA_ShowWithoutActivating, false);
+    if (QWidget* const active = QApplication::activeWindow()) {
+      active->raise();
+    }
   }
   if (readings.empty()) {
     window.tell(tr("Nothing is measured: lay out a tool of the projector first."));

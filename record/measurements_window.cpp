@@ -145,11 +145,15 @@ void MeasurementsWindow::layOut() {
   table_->setModel(columns_);
   table_->setSelectionBehavior(QAbstractItemView::SelectRows);
   table_->setAlternatingRowColors(true);
+  table_->setWordWrap(false);
   table_->setItemDelegateForColumn(static_cast<int>(MeasurementColumn::ending),
                                    new EndingDelegate(table_));
   // Tab leads on to the histogram; the arrow keys go from cell to cell.
   table_->setTabKeyNavigation(false);
   table_->horizontalHeader()->setStretchLastSection(true);
+  // Rows beyond those that are seen that the widths of columns go by.
+  constexpr int rows_that_count = 100;
+  table_->horizontalHeader()->setResizeContentsPrecision(rows_that_count);
   message_->setObjectName(QStringLiteral("measurements_message"));
   message_->setWordWrap(true);
   message_->setTextFormat(Qt::PlainText);
@@ -182,9 +186,7 @@ void MeasurementsWindow::refresh() {
   const int rows = columns_->rowCount();
   if (rows > rows_before) {
     table_->scrollToBottom();
-    if (rows_before == 0) {
-      table_->resizeColumnsToContents();
-    }
+    fitColumns(rows_before == 0);
   }
   histogram_->refresh();
   tell({});
@@ -193,6 +195,16 @@ void MeasurementsWindow::refresh() {
   redo_item_->setEnabled(measurements_.canRedo());
   save_item_->setEnabled(rows > 0);
   save_plot_item_->setEnabled(histogram_->canBeSaved());
+}
+
+void MeasurementsWindow::fitColumns(bool may_shrink) {
+  constexpr int widest = 300;
+  for (int column = 0; column < columns_->columnCount(); ++column) {
+    const int before = may_shrink ? 0 : table_->columnWidth(column);
+    table_->resizeColumnToContents(column);
+    const int wanted = std::min(table_->columnWidth(column), widest);
+    table_->setColumnWidth(column, std::max(before, wanted));
+  }
 }
 
 void MeasurementsWindow::deleteRows() {

@@ -54,6 +54,9 @@ class MeasurementsWindow : public GLPanel {
                    const std::function<void()>& run);
   void fillToolBar();
   void refresh();
+  /// Makes columns as wide as their texts, but for long ones.
+  /// \param may_shrink whether a column that is wider becomes narrower
+  void fitColumns(bool may_shrink);
   void deleteRows();
   void makeEvents();
   void savePlot();

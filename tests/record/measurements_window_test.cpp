@@ -23,6 +23,8 @@
 #include "model/projector.h"
 #include "tests/record/measurements_fixture.h"
 #include "tests/support/documents/environment.h"
+#include "tests/support/windows/pictures.h"
+#include "tests/support/windows/screen_view.h"
 #include "tests/support/windows/waiting.h"
 
 namespace velquon::test {
@@ -124,6 +126,16 @@ TEST_F(MeasurementsWindowTest, RecordingElsewhereShowsTheWindowAndLeavesTheKeys)
   EXPECT_EQ(rows(), 1);
 }
 
+TEST_F(MeasurementsWindowTest, RecordingElsewhereDoesNotCoverTheWindowInWhichOneMeasures) {
+  makeEvent(1);
+  activate(projectorWindow());
+  layTape(QPoint(100, 200), QPoint(200, 200));
+  window().move(projectorWindow().pos());
+  application().recordReadings();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window()));
+  EXPECT_TRUE(screen_comes_to_show(projection(), picture_of(projection())));
+}
+
 TEST_F(MeasurementsWindowTest, TheProjectorsButtonRecords) {
   makeEvent(1);
   activate(projectorWindow());
@@ -133,6 +145,36 @@ TEST_F(MeasurementsWindowTest, TheProjectorsButtonRecords) {
   ASSERT_NE(button, nullptr);
   QTest::mouseClick(button, Qt::LeftButton);
   EXPECT_EQ(measurements().rows().size(), 1U);
+}
+
+TEST_F(MeasurementsWindowTest, ColumnsWidenForWhatIsRecordedLater) {
+  addRows(Quantity::length, {10.0});
+  openMeasurements();
+  addRows(Quantity::angle, {0.430143});
+  addRows(Quantity::transverse_momentum, {22.615});
+  Measurement long_texts;
+  long_texts.event = "a name that is longer than the first one";
+  long_texts.note = std::string(400, 'n');
+  measurements().add({long_texts});
+  for (const Column column : {Column::event, Column::quantity, Column::value, Column::unit}) {
+    const int index = static_cast<int>(column);
+    int widest = 0;
+    for (int row = 0; row < rows(); ++row) {
+      widest = std::max(widest, table().fontMetrics().horizontalAdvance(
+                                    QString::fromStdString(cell(row, column))));
+    }
+    EXPECT_GT(table().columnWidth(index), widest) << index;
+  }
+  EXPECT_LE(table().columnWidth(static_cast<int>(Column::note)), 300);
+  EXPECT_FALSE(table().wordWrap()) << "a number stays on one line";
+}
+
+TEST_F(MeasurementsWindowTest, AWidthThatIsChosenStays) {
+  addRows(Quantity::length, {10.0});
+  openMeasurements();
+  table().setColumnWidth(0, 222);
+  addRows(Quantity::length, {20.0});
+  EXPECT_EQ(table().columnWidth(0), 222);
 }
 
 TEST_F(MeasurementsWindowTest, RecordWithoutAToolLaidOutSaysWhatToDo) {
@@ -160,10 +202,12 @@ TEST_F(MeasurementsWindowTest, TheLongestLengthIsANumberAboveZeroOrNothing) {
   openMeasurements();
   typeInto(0, Column::longest, QStringLiteral("250.5"));
   EXPECT_EQ(measurements().rows()[0].longest_cm, 250.5);
-  for (const char* const refused : {"-1", "0", "nan", "inf", "2,5", "far"}) {
+  for (const char* const refused : {"-1", "0", "nan", "inf", "1,234.5", "1,234,567", "far"}) {
     typeInto(0, Column::longest, QLatin1String(refused));
     EXPECT_EQ(measurements().rows()[0].longest_cm, 250.5) << refused;
   }
+  typeInto(0, Column::longest, QStringLiteral("1,234"));
+  EXPECT_EQ(measurements().rows()[0].longest_cm, 1.234) << "a comma is a decimal point";
   typeInto(0, Column::longest, QStringLiteral(" "));
   EXPECT_TRUE(std::isnan(measurements().rows()[0].longest_cm));
 }
