@@ -166,6 +166,69 @@ TEST_F(DesktopDialogsTest, AFileToOpenIsGivenBackWithItsPath) {
   EXPECT_EQ(result, path(QStringLiteral("a.cwd")));
 }
 
+TEST_F(DesktopDialogsTest, SeveralFilesAreChosenTogether) {
+  for (const char* const name : {"a.csv", "b.csv", "c.csv", "d.cwd"}) {
+    makeFile(QLatin1String(name));
+  }
+  const auto choose = [this](const Turn& turn) {
+    QStringList result;
+    EXPECT_TRUE(with_dialogs(
+        [&] {
+          result = dialogs().filesToOpen(QStringLiteral("Add Files"),
+                                         QStringLiteral("Tables of measurements (*.csv)"));
+        },
+        {turn}));
+    result.sort();
+    return result;
+  };
+  const Turn choose_two{
+      "QFileDialog", [this](QWidget& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Add Files"));
+        dynamic_cast<QFileDialog&>(dialog).setDirectory(path({}));
+        EXPECT_TRUE(wait_until([&] { return files_offered(dialog).size() == 3; }))
+            << files_offered(dialog).join(u' ').toStdString();
+        auto& list = *dialog.findChild<QListView*>(QStringLiteral("listView"));
+        for (const int row : {0, 2}) {
+          list.selectionModel()->select(list.model()->index(row, 0, list.rootIndex()),
+                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        }
+        auto& edit = *dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        QTest::keyClick(&edit, Qt::Key_Return);
+      }};
+  EXPECT_EQ(choose(choose_two),
+            QStringList({path(QStringLiteral("a.csv")), path(QStringLiteral("c.csv"))}));
+  EXPECT_EQ(choose(giving_up()), QStringList());
+}
+
+TEST_F(DesktopDialogsTest, WhatBecomesOfUnsavedMeasurementsIsAskedByThreeButtons) {
+  const auto answer = [this](const std::function<void(QMessageBox&)>& act) {
+    SaveAnswer given = SaveAnswer::cancel;
+    EXPECT_TRUE(with_dialogs(
+        [&] {
+          given = dialogs().askToSave(QStringLiteral("Measurements"), QStringLiteral("<b>a</b>"));
+        },
+        {{"QMessageBox", [&](QWidget& box) { act(dynamic_cast<QMessageBox&>(box)); }}}));
+    return given;
+  };
+  const auto click = [](QMessageBox::StandardButton button) {
+    return [button](QMessageBox& box) {
+      EXPECT_EQ(box.windowTitle(), QStringLiteral("Measurements"));
+      EXPECT_EQ(box.text(), QStringLiteral("<b>a</b>"));
+      EXPECT_EQ(box.textFormat(), Qt::PlainText);
+      EXPECT_EQ(box.buttons().size(), 3);
+      QTest::mouseClick(box.button(button), Qt::LeftButton);
+    };
+  };
+  EXPECT_EQ(answer(click(QMessageBox::Save)), SaveAnswer::save);
+  EXPECT_EQ(answer(click(QMessageBox::Discard)), SaveAnswer::discard);
+  EXPECT_EQ(answer(click(QMessageBox::Cancel)), SaveAnswer::cancel);
+  EXPECT_EQ(answer([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); }),
+            SaveAnswer::save);
+  EXPECT_EQ(answer([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }),
+            SaveAnswer::cancel);
+  EXPECT_EQ(answer([](QMessageBox& box) { box.close(); }), SaveAnswer::cancel);
+}
+
 TEST_F(DesktopDialogsTest, ANewNameGetsItsEndingWithoutAQuestion) {
   EXPECT_EQ(save({typing(QStringLiteral("new"))}), path(QStringLiteral("new.cwd")));
   EXPECT_EQ(save({typing(QStringLiteral("new.cwd"))}), path(QStringLiteral("new.cwd")));
