@@ -65,6 +65,7 @@ TEST_F(MeasuringTest, CurveDrawsTheCircleThroughThreeClicksAndReadsIt) {
     EXPECT_TRUE(has_color_near(seen, on_circle(direction), red, 1.5)) << direction;
     EXPECT_TRUE(has_color_near(seen, on_circle(-direction), dark_red, 1.5)) << direction;
   }
+  EXPECT_TRUE(has_line(seen, {154.0, 250.0}, {346.0, 250.0}, dark_red)) << "the chord";
   for (const QPoint place : half_circle) {
     EXPECT_TRUE(hasMark(place));
   }

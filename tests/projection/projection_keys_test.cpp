@@ -69,6 +69,9 @@ TEST_F(ProjectionKeysTest, ArrowKeysMoveACrossByOneAndWithShiftByTen) {
 }
 
 TEST_F(ProjectionKeysTest, TheCrossIsSeenOnTheScreenAndGoesWithTheMouse) {
+  // Where an earlier program has left the mouse, another move would change nothing.
+  QTest::mouseMove(&projection(), QPoint(60, 60));
+  run_loop_for(100);
   const QImage without = picture_of(projection());
   key(Qt::Key_Right);
   EXPECT_TRUE(screen_comes_to_show(projection(), picture_of(projection())));
@@ -84,14 +87,21 @@ TEST_F(ProjectionKeysTest, TheCrossIsSeenOnTheScreenAndGoesWithTheMouse) {
 }
 
 TEST_F(ProjectionKeysTest, TheTapeIsLaidByReturnAndArrows) {
-  for (const Qt::Key set : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Enter}) {
+  struct Case {
+    Qt::Key set;
+    int tens;
+    const char* reading;
+  };
+  for (const auto& [set, tens, reading] :
+       {Case{Qt::Key_Return, 10, "D = 125.00 cm"}, Case{Qt::Key_Space, 12, "D = 150.00 cm"},
+        Case{Qt::Key_Enter, 14, "D = 175.00 cm"}}) {
     key(Qt::Key_Up);
     key(set);
-    key(Qt::Key_Right, 10, Qt::ShiftModifier);
-    EXPECT_EQ(tape(), "D = 125.00 cm");
+    key(Qt::Key_Right, tens, Qt::ShiftModifier);
+    EXPECT_EQ(tape(), reading);
     key(set);
-    key(Qt::Key_Left, 10, Qt::ShiftModifier);
-    EXPECT_EQ(tape(), "D = 125.00 cm") << "fixed";
+    key(Qt::Key_Left, tens, Qt::ShiftModifier);
+    EXPECT_EQ(tape(), reading) << "fixed";
     // The cross lies over the end.
     EXPECT_GE(pixels_of(picture_of(projection()), red).size(), 90U);
   }
@@ -202,6 +212,8 @@ TEST_F(ProjectionKeysTest, CtrlReturnAsksForTheRecord) {
   key(Qt::Key_Return);
   key(Qt::Key_Return, 1, Qt::ControlModifier);
   EXPECT_EQ(asked.count(), 1);
+  key(Qt::Key_Enter, 1, Qt::ControlModifier);
+  EXPECT_EQ(asked.count(), 2);
 }
 
 TEST_F(ProjectionKeysTest, TheViewIsInTheTabOrderAndShowsItsCrossThere) {
