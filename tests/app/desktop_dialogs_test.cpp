@@ -17,6 +17,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 #include <algorithm>
 #include <array>
 
@@ -166,6 +167,17 @@ TEST_F(DesktopDialogsTest, AFileToOpenIsGivenBackWithItsPath) {
   EXPECT_EQ(result, path(QStringLiteral("a.cwd")));
 }
 
+/// Chooses files of an open dialog by mouse, the second and those after it with the Ctrl key.
+void click_rows(QWidget& dialog, std::initializer_list<int> rows) {
+  auto& list = *dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+  Qt::KeyboardModifiers keys = Qt::NoModifier;
+  for (const int row : rows) {
+    const QModelIndex index = list.model()->index(row, 0, list.rootIndex());
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, keys, list.visualRect(index).center());
+    keys = Qt::ControlModifier;
+  }
+}
+
 TEST_F(DesktopDialogsTest, SeveralFilesAreChosenTogether) {
   for (const char* const name : {"a.csv", "b.csv", "c.csv", "d.cwd"}) {
     makeFile(QLatin1String(name));
@@ -181,23 +193,26 @@ TEST_F(DesktopDialogsTest, SeveralFilesAreChosenTogether) {
     result.sort();
     return result;
   };
-  const Turn choose_two{
-      "QFileDialog", [this](QWidget& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Add Files"));
-        dynamic_cast<QFileDialog&>(dialog).setDirectory(path({}));
-        EXPECT_TRUE(wait_until([&] { return files_offered(dialog).size() == 3; }))
-            << files_offered(dialog).join(u' ').toStdString();
-        auto& list = *dialog.findChild<QListView*>(QStringLiteral("listView"));
-        for (const int row : {0, 2}) {
-          list.selectionModel()->select(list.model()->index(row, 0, list.rootIndex()),
-                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);
-        }
-        auto& edit = *dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        QTest::keyClick(&edit, Qt::Key_Return);
-      }};
+  const Turn choose_two{"QFileDialog", [this](QWidget& dialog) {
+                          EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Add Files"));
+                          dynamic_cast<QFileDialog&>(dialog).setDirectory(path({}));
+                          EXPECT_TRUE(wait_until([&] { return files_offered(dialog).size() == 3; }))
+                              << files_offered(dialog).join(u' ').toStdString();
+                          click_rows(dialog, {0, 2});
+                          auto& edit =
+                              *dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+                          QTest::keyClick(&edit, Qt::Key_Return);
+                        }};
   EXPECT_EQ(choose(choose_two),
             QStringList({path(QStringLiteral("a.csv")), path(QStringLiteral("c.csv"))}));
-  EXPECT_EQ(choose(giving_up()), QStringList());
+  const Turn give_up_chosen{
+      "QFileDialog", [this](QWidget& dialog) {
+        dynamic_cast<QFileDialog&>(dialog).setDirectory(path({}));
+        EXPECT_TRUE(wait_until([&] { return files_offered(dialog).size() == 3; }));
+        click_rows(dialog, {1});
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+      }};
+  EXPECT_EQ(choose(give_up_chosen), QStringList());
 }
 
 TEST_F(DesktopDialogsTest, WhatBecomesOfUnsavedMeasurementsIsAskedByThreeButtons) {
