@@ -34,7 +34,9 @@ bool HeldKeys::nativeEventFilter(const QByteArray& kind, void* message, qintptr*
     released_at_ = key->time;
     repeats_ = false;
   } else if (type == XCB_KEY_PRESS) {
-    repeats_ = key->detail == released_key_ && key->time == released_at_;
+    // The server reads its clock for the release and again for the press.
+    constexpr std::uint32_t one_moment = 2;  // milliseconds
+    repeats_ = key->detail == released_key_ && key->time - released_at_ <= one_moment;
   }
   return false;
 }
