@@ -86,6 +86,20 @@ class Hand {
   std::uniform_real_distribution<double> direction_{0.0, 2.0 * std::numbers::pi};
 };
 
+std::shared_ptr<const ShownEvent> event_of(EventTracks&& tracks, const ChamberValues& values) {
+  auto event = std::make_shared<ShownEvent>();
+  event->tracks = std::make_shared<const EventTracks>(std::move(tracks));
+  event->values = values;
+  return event;
+}
+
+/// Shows an event with Curve as the tool.
+void lay_curves(Projector& projector, const std::shared_ptr<const ShownEvent>& event) {
+  projector.setScaler(projection_scaler(event->values));
+  projector.show(event);
+  projector.setTool(ProjectorTool::curve);
+}
+
 }  // namespace
 
 TEST(CurveAccuracyTest, ThreeClicksAPixelOffGiveTheMomentumWithinThreePerCent) {
@@ -107,13 +121,9 @@ TEST(CurveAccuracyTest, ThreeClicksAPixelOffGiveTheMomentumWithinThreePerCent) {
     ASSERT_NE(type, event_types().end());
     int of_type = 0;
     for (EventTracks& made : seeded_events(*type, values, 5, 200)) {
-      auto event = std::make_shared<ShownEvent>();
-      event->tracks = std::make_shared<const EventTracks>(std::move(made));
-      event->values = values;
+      const std::shared_ptr<const ShownEvent> event = event_of(std::move(made), values);
       Projector projector;
-      projector.setScaler(projection_scaler(values));
-      projector.show(event);
-      projector.setTool(ProjectorTool::curve);
+      lay_curves(projector, event);
       projector.setSnaps(false);
       for (const Track& track : tracks_of(*event->tracks, projector)) {
         if (track.turn < third_of_a_circle || track.length < least_arc) {
@@ -152,13 +162,9 @@ TEST(CurveAccuracyTest, ThreeClicksThatSnapGiveTheMomentumItself) {
   Hand hand;
   int clicked = 0;
   for (EventTracks& made : seeded_events(*type, values, 5, 60)) {
-    auto event = std::make_shared<ShownEvent>();
-    event->tracks = std::make_shared<const EventTracks>(std::move(made));
-    event->values = values;
+    const std::shared_ptr<const ShownEvent> event = event_of(std::move(made), values);
     Projector projector;
-    projector.setScaler(projection_scaler(values));
-    projector.show(event);
-    projector.setTool(ProjectorTool::curve);
+    lay_curves(projector, event);
     for (const Track& track : tracks_of(*event->tracks, projector)) {
       if (track.length < least_arc) {
         continue;
