@@ -13,6 +13,7 @@
 #include <QLibraryInfo>
 #include <QMenuBar>
 #include <QSet>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
