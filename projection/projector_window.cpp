@@ -132,6 +132,8 @@ void ProjectorWindow::connectKeys() {
 void ProjectorWindow::showReading() {
   ui_->tape_text->setText(QStringLiteral("D = %1 cm").arg(fixed_text(projector_.reading(), 5, 2)));
   const QString readings = shown_readings(projector_);
+  // What to do next may take both lines in some languages; readings have lines of their own.
+  ui_->readings_text->setWordWrap(projector_.readings().empty());
   ui_->readings_text->setText(readings);
   ui_->readings_text->setVisible(!readings.isEmpty());
   ui_->tape_text->setVisible(readings.isEmpty());
