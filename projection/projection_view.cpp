@@ -81,7 +81,7 @@ void ProjectionView::paint(QPainter& page) {
 }
 
 double ProjectionView::pictureHeight() const {
-  return std::max<double>(projection_height, height());
+  return std::max<double>(projection_height, visibleRect().height());
 }
 
 void ProjectionView::makeDisplayPoints() {
@@ -93,7 +93,7 @@ void ProjectionView::makeDisplayPoints() {
 
 void ProjectionView::drawRect() {
   const QRectF seen = visibleRect();
-  const double ratio = devicePixelRatioF();
+  const double ratio = pixelRatio();
   glMatrixMode(GL_PROJECTION);
   glLoadIdentity();
   glClearColor(0.0F, 0.0F, 0.0F, 0.0F);
@@ -111,7 +111,7 @@ void ProjectionView::drawRect() {
 
 void ProjectionView::drawTracks() {
   glColor3f(1.0F, 1.0F, 1.0F);
-  draw_dotted_frame(projector_.mapping().frame(), std::max(qRound(devicePixelRatioF()), 1));
+  draw_dotted_frame(projector_.mapping().frame(), std::max(qRound(pixelRatio()), 1));
   for (std::size_t point = 0; point < display_points_.size(); ++point) {
     drawSquare(point, half_square);
   }
