@@ -63,7 +63,7 @@ void ChamberView::paint(QPainter& page) {
 
 void ChamberView::drawRect() {
   const QPointF origin = visibleRect().topLeft();
-  scene_.draw(camera_.scrolled(origin.x(), origin.y()), devicePixelRatioF(),
+  scene_.draw(camera_.scrolled(origin.x(), origin.y()), pixelRatio(),
               static_cast<std::size_t>(point_number_), sceneOptions());
 }
 

@@ -14,6 +14,7 @@
 #include "model/projector.h"
 #include "model/shown_event.h"
 #include "printing/page.h"
+#include "projection/projection_scene.h"
 #include "widgets/gl_view.h"
 
 namespace velquon {
@@ -74,8 +75,6 @@ class ProjectionView : public GLView, public Printable {
   /// Height of the picture, which hangs from its top.
   [[nodiscard]] double pictureHeight() const;
   void makeDisplayPoints();
-  void drawTracks();
-  void drawSquare(std::size_t point, double half_side) const;
   /// What keys can reach: the part of the view that is seen.
   [[nodiscard]] KeyField keyField() const;
   /// \return whether the key is one that moves the cross
@@ -90,7 +89,7 @@ class ProjectionView : public GLView, public Printable {
   KeyCross cross_;
   QPointF mouse_;  ///< where on the screen it was seen last
   std::shared_ptr<const ShownEvent> event_ = std::make_shared<const ShownEvent>();
-  std::vector<Place> display_points_;
+  ProjectionScene scene_;
   std::vector<std::size_t> marked_;
   QCursor cross_hair_cursor_;
   QCursor grabber_cursor_;
