@@ -13,7 +13,7 @@
 #include "app/commands.h"
 #include "app/event_documents.h"
 #include "app/event_exports.h"
-#include "app/guide_window.h"
+#include "app/help_commands.h"
 #include "app/menus.h"
 #include "app/readable_style.h"
 #include "app/track_commands.h"
@@ -46,6 +46,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
       documents_(std::make_unique<EventDocuments>(*controller_, dialogs)),
       exports_(std::make_unique<EventExports>(model_, dialogs)),
       measurement_files_(std::make_unique<MeasurementFiles>(measurements_, dialogs)),
+      help_(std::make_unique<HelpCommands>(*menus_)),
       dialogs_(dialogs),
       commands_(std::make_unique<Commands>()) {
   make_style_readable();
@@ -62,7 +63,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   add_chamber_commands(*commands_, items, *controller_, *chamber_window_->view());
   addTrackCommands();
   addWindowCommands();
-  addHelpCommands();
+  help_->addTo(*commands_);
   controller_->awakeFromNib();
   numbering_ = std::make_unique<EventNumbering>(model_);
   commands_->refresh();
@@ -225,22 +226,6 @@ void Application::addWindowCommands() {
        {.item = items.event_record_item, .run = [this] { recordWindow().makeKeyAndOrderFront(); }},
        {.item = items.measurements_item,
         .run = [this] { measurementsWindow().makeKeyAndOrderFront(); }}});
-}
-
-void Application::addHelpCommands() {
-  const Ui::Menus& items = menus_->items();
-  commands_->add(
-      {{.item = items.guide_item, .run = [this] { showGuide(); }},
-       {.item = items.about_item, .run = [] { show_about(QApplication::activeWindow()); }}});
-}
-
-void Application::showGuide() {
-  if (!guide_window_) {
-    guide_window_ = std::make_unique<GuideWindow>();
-  }
-  guide_window_->show();
-  guide_window_->raise();
-  guide_window_->activateWindow();
 }
 
 }  // namespace velquon
