@@ -43,10 +43,12 @@ GuidePage read_page(const QString& path) {
 
 }  // namespace
 
-std::vector<GuidePage> read_guide_pages() {
+std::vector<GuidePage> read_guide_pages(const QString& language) {
   std::vector<GuidePage> pages;
-  std::ranges::transform(names, std::back_inserter(pages), [](const char* name) {
-    return read_page(QStringLiteral(":/docs/") + QLatin1String(name));
+  std::ranges::transform(names, std::back_inserter(pages), [&](const char* name) {
+    const QString translated = QStringLiteral(":/docs/%1/%2").arg(language, QLatin1String(name));
+    return read_page(QFile::exists(translated) ? translated
+                                               : QStringLiteral(":/docs/") + QLatin1String(name));
   });
   return pages;
 }

@@ -24,8 +24,9 @@ struct GuidePage {
 };
 
 /// Reads the pages of the guide and of its laboratory.
+/// \param language code such as "de"; a page that is not translated is read in English
 /// \return the pages in the order of reading
-[[nodiscard]] std::vector<GuidePage> read_guide_pages();
+[[nodiscard]] std::vector<GuidePage> read_guide_pages(const QString& language);
 
 /// \return the page with the address, an index, or the number of pages when there is none
 [[nodiscard]] std::size_t page_at(const std::vector<GuidePage>& pages, const QUrl& url);

@@ -18,7 +18,7 @@ namespace velquon {
 
 GuideWindow::GuideWindow(QWidget* parent)
     : QWidget(parent, Qt::Window),
-      pages_(read_guide_pages()),
+      pages_(read_guide_pages(tr("en", "code of this language; names the folder of its guide"))),
       contents_(new GuideContents),
       browser_(new GuideBrowser) {
   setWindowTitle(tr("Velquon Guide"));
