@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <optional>
 #include <span>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -19,7 +18,8 @@ namespace velquon {
 
 /// What there is to tell of one particle of an event.
 struct EventRow {
-  std::string name;                  ///< with its symbol, UTF-8
+  std::string_view name;             ///< of its kind
+  std::string_view symbol;           ///< UTF-8
   std::string_view fate;             ///< in words
   int parent = -1;                   ///< row of the particle that it comes from, -1 for the primary
   double momentum = 0.0;             ///< MeV/c, at creation as all that follows

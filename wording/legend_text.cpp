@@ -14,9 +14,9 @@ namespace velquon {
 
 namespace {
 
-QString tr(const char* text) {
-  return QCoreApplication::translate("Legend", text);
-}
+struct Legend {
+  Q_DECLARE_TR_FUNCTIONS(velquon::Legend)
+};
 
 QColor color_of(const LegendEntry& entry) {
   const auto& [red, green, blue] = track_colors[entry.color];
@@ -47,7 +47,7 @@ QString name_of(const LegendEntry& entry, TrackColoring coloring) {
     case LegendMeaning::particle:
       return particle_name(*entry.particle);
     case LegendMeaning::decay_point:
-      return tr("Decay of %1").arg(from_utf8(entry.particle->symbol));
+      return Legend::tr("Decay of %1").arg(from_utf8(entry.particle->symbol));
     case LegendMeaning::not_told:
       break;
   }
@@ -84,7 +84,8 @@ QString spoken_legend(const std::vector<LegendEntry>& entries, TrackColoring col
     }
     const QString meaning = entry.meaning == LegendMeaning::not_told ? possible_symbols(entry)
                                                                      : name_of(entry, coloring);
-    sentences << (has_colors ? tr("%1: %2").arg(track_color_name(entry.code), meaning) : meaning);
+    sentences << (has_colors ? Legend::tr("%1: %2").arg(track_color_name(entry.code), meaning)
+                             : meaning);
   }
   return sentences.join(QStringLiteral("; "));
 }
