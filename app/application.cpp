@@ -15,6 +15,8 @@
 #include "app/event_exports.h"
 #include "app/guide_window.h"
 #include "app/menus.h"
+#include "app/picture_commands.h"
+#include "app/picture_files.h"
 #include "app/readable_style.h"
 #include "app/track_commands.h"
 #include "app/worksheet_commands.h"
@@ -45,6 +47,8 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
                                                       dialogs)),
       documents_(std::make_unique<EventDocuments>(*controller_, dialogs)),
       exports_(std::make_unique<EventExports>(model_, dialogs)),
+      pictures_(std::make_unique<PictureFiles>(*controller_, *chamber_window_->view(),
+                                               *projector_window_->view(), dialogs)),
       measurement_files_(std::make_unique<MeasurementFiles>(measurements_, dialogs)),
       dialogs_(dialogs),
       commands_(std::make_unique<Commands>()) {
@@ -58,6 +62,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   connect(projector_window_.get(), &ProjectorWindow::recordAsked, this,
           &Application::recordReadings);
   addFileCommands();
+  add_picture_commands(*commands_, items, *pictures_, [this] { return numbering_->nameOfShown(); });
   add_worksheet_command(*commands_, items, model_, dialogs);
   add_chamber_commands(*commands_, items, *controller_, *chamber_window_->view());
   addTrackCommands();

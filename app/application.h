@@ -26,6 +26,7 @@ class GuideWindow;
 class MeasurementFiles;
 class MeasurementsWindow;
 class Menus;
+class PictureFiles;
 class ProjectorWindow;
 class RecordWindow;
 class ScreenRoom;
@@ -96,6 +97,7 @@ class Application : public QObject {
   std::unique_ptr<ChamberController> controller_;
   std::unique_ptr<EventDocuments> documents_;
   std::unique_ptr<EventExports> exports_;
+  std::unique_ptr<PictureFiles> pictures_;
   std::unique_ptr<EventNumbering> numbering_;
   std::unique_ptr<MeasurementFiles> measurement_files_;
   UserDialogs& dialogs_;
