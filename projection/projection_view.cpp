@@ -65,8 +65,7 @@ void ProjectionView::makeDisplayPoints() {
 }
 
 void ProjectionView::drawRect() {
-  scene_.draw(visibleRect(), pixelRatio(), projector_,
-              {.marked = marked_, .cross = &cross_});
+  scene_.draw(visibleRect(), pixelRatio(), projector_, {.marked = marked_, .cross = &cross_});
 }
 
 void ProjectionView::reshape() {
