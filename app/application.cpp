@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QOpenGLContext>
+#include <QPointer>
 #include <algorithm>
 
 #include "app/chamber_commands.h"
@@ -15,6 +16,7 @@
 #include "app/event_exports.h"
 #include "app/guide_window.h"
 #include "app/menus.h"
+#include "app/presentations.h"
 #include "app/readable_style.h"
 #include "app/track_commands.h"
 #include "app/worksheet_commands.h"
@@ -47,6 +49,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
       exports_(std::make_unique<EventExports>(model_, dialogs)),
       measurement_files_(std::make_unique<MeasurementFiles>(measurements_, dialogs)),
       dialogs_(dialogs),
+      presentations_(std::make_unique<Presentations>()),
       commands_(std::make_unique<Commands>()) {
   make_style_readable();
   const Ui::Menus& items = menus_->items();
@@ -62,6 +65,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   add_chamber_commands(*commands_, items, *controller_, *chamber_window_->view());
   addTrackCommands();
   addWindowCommands();
+  addPresentation();
   addHelpCommands();
   controller_->awakeFromNib();
   numbering_ = std::make_unique<EventNumbering>(model_);
@@ -71,6 +75,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
 Application::~Application() {
   // Before what it tells of: windows that go change the state of what they showed.
   commands_.reset();
+  presentations_.reset();
   record_window_.reset();
   measurements_window_.reset();
 }
@@ -107,6 +112,9 @@ TrackWindow& Application::trackWindow() {
     track_window_->tellStatusIn(*chamber_window_);
     track_window_->tellStatusIn(*projector_window_);
     track_window_->awakeFromNib();
+    presentations_->add({.window = track_window_.get(),
+                         .area = track_window_->panel().track_area(),
+                         .readings = [this] { return track_window_->panel().shownReadings(); }});
   }
   return *track_window_;
 }
@@ -225,6 +233,31 @@ void Application::addWindowCommands() {
        {.item = items.event_record_item, .run = [this] { recordWindow().makeKeyAndOrderFront(); }},
        {.item = items.measurements_item,
         .run = [this] { measurementsWindow().makeKeyAndOrderFront(); }}});
+}
+
+void Application::addPresentation() {
+  commands_->add({.item = menus_->items().presentation_item,
+                  .run = [this] { presentations_->toggle(); },
+                  .is_checked = [this] { return presentations_->isOn(); }});
+  connect(presentations_.get(), &Presentations::changed, commands_.get(), &Commands::refresh);
+  presentations_->add({.window = chamber_window_.get(),
+                       .area = chamber_window_->area(),
+                       .readings = [] { return QString(); }});
+  // A line each, as the panel is narrow.
+  presentations_->add({.window = projector_window_.get(),
+                       .area = projector_window_->area(),
+                       .readings = [this] {
+                         QString readings = projector_window_->shownReadings();
+                         return readings.replace(QStringLiteral("   "), QStringLiteral("\n"));
+                       }});
+  const auto refresh = [presentations = QPointer(presentations_.get())] {
+    if (presentations != nullptr) {
+      presentations->refresh();
+    }
+  };
+  for (Listeners* const changes : {&model_.changed, &projector_.changed, &track_model_.changed}) {
+    changes->add(refresh);
+  }
 }
 
 void Application::addHelpCommands() {

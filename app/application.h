@@ -26,6 +26,7 @@ class GuideWindow;
 class MeasurementFiles;
 class MeasurementsWindow;
 class Menus;
+class Presentations;
 class ProjectorWindow;
 class RecordWindow;
 class ScreenRoom;
@@ -76,6 +77,7 @@ class Application : public QObject {
   void addTrackCommands();
   void addFileCommands();
   void addWindowCommands();
+  void addPresentation();
   void addHelpCommands();
   void showGuide();
   /// Ends the program, unless the user wants to keep measurements that are not saved.
@@ -99,6 +101,7 @@ class Application : public QObject {
   std::unique_ptr<EventNumbering> numbering_;
   std::unique_ptr<MeasurementFiles> measurement_files_;
   UserDialogs& dialogs_;
+  std::unique_ptr<Presentations> presentations_;
   std::unique_ptr<Commands> commands_;
 };
 
