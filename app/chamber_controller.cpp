@@ -16,6 +16,7 @@
 #include "printing/print_view.h"
 #include "projection/projection_view.h"
 #include "projection/projector_window.h"
+#include "widgets/model_text.h"
 #include "widgets/view_scroll_area.h"
 
 namespace velquon {
@@ -25,14 +26,17 @@ namespace {
 // A title with its closing zero byte has that much room.
 constexpr qsizetype title_size = 256;
 
-void set_title(GLPanel& window, const QString& prefix, const QString& name) {
-  const QString title = prefix + name;
-  if (title.toUtf8().size() + 1 > title_size) {
+/// Gives a window its title.
+/// \param title with %1 for the event's name, in the user's language
+/// \param prefix what stands before the name in English: the room is that of the English title,
+///               so that a name fits in every language or in none
+void set_title(GLPanel& window, const QString& title, QLatin1String prefix, const QString& name) {
+  if (prefix.size() + name.toUtf8().size() + 1 > title_size) {
     std::fprintf(stderr, "velquon: the name '%s' does not fit into a window's title\n",
                  qPrintable(as_one_line(name)));
     std::abort();
   }
-  window.setTitle(title);
+  window.setTitle(title.arg(event_name_text(name.toStdString())));
 }
 
 }  // namespace
@@ -122,8 +126,8 @@ QString ChamberController::shownName() const {
 }
 
 void ChamberController::renameWindows(const QString& name) {
-  set_title(chamber_window_, QStringLiteral("Particle Chamber: "), name);
-  set_title(projector_window_, QStringLiteral("Projector: "), name);
+  set_title(chamber_window_, tr("Particle Chamber: %1"), QLatin1String("Particle Chamber: "), name);
+  set_title(projector_window_, tr("Projector: %1"), QLatin1String("Projector: "), name);
   model_.showName(name.toStdString());
 }
 
@@ -154,7 +158,8 @@ void ChamberController::print() {
   chamber_view_.stopRotating();
   PrintView page(*view, window->title(),
                  QString::fromStdString(chamber_view_.valuesOnPageOf(*view)));
-  PrintPanel(page, QFileInfo(shownName()).completeBaseName(), *print_choices_, dialogs_, window)
+  PrintPanel(page, QFileInfo(event_name_text(model_.shown()->name)).completeBaseName(),
+             *print_choices_, dialogs_, window)
       .exec();
 }
 

@@ -9,6 +9,7 @@
 #include <array>
 #include <string_view>
 
+#include "app/languages.h"
 #include "files/one_line.h"
 
 namespace velquon {
@@ -97,7 +98,12 @@ ParsedCommandLine parse_command_line(const QStringList& arguments) {
       QStringLiteral("pictures"),
       QStringLiteral("Leave a picture of an event of each kind in a folder, and end."),
       QStringLiteral("DIR"));
-  parser.addOptions({help, version, seed, pictures});
+  const QCommandLineOption language(
+      QStringLiteral("language"),
+      QStringLiteral("Language of the windows and worksheets: %1 (default: the desktop's).")
+          .arg(language_codes().join(QStringLiteral(", "))),
+      QStringLiteral("CODE"));
+  parser.addOptions({help, version, seed, language, pictures});
   parser.addOptions(worksheet_options());
   parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Event file to open."),
                                QStringLiteral("[FILE]"));
@@ -126,6 +132,13 @@ ParsedCommandLine parse_command_line(const QStringList& arguments) {
     if (!is_number) {
       return refusal(QStringLiteral("--seed: '%1' is not a whole number from 0 to 4294967295")
                          .arg(parser.value(seed)));
+    }
+  }
+  if (parser.isSet(language)) {
+    options.language = parser.value(language);
+    if (!language_codes().contains(options.language)) {
+      return refusal(QStringLiteral("--language: '%1' is not one of %2")
+                         .arg(options.language, language_codes().join(QStringLiteral(", "))));
     }
   }
   if (parser.isSet(pictures)) {

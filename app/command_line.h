@@ -16,6 +16,7 @@ namespace velquon {
 struct CommandLine {
   std::optional<std::uint32_t> seed;
   QString file;      ///< absolute path of the event file to open, or empty
+  QString language;  ///< one of language_codes(), or empty for the desktop's
   QString pictures;  ///< absolute path of the folder to leave pictures in, or empty
   std::optional<WorksheetRequest> worksheets;
   QString display;           ///< the X display to show windows on, or empty for the usual one

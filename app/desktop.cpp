@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QLocale>
 #include <clocale>
 
 #include "widgets/accessible_value_slider.h"
@@ -19,8 +20,9 @@ void prepare_desktop() {
 }
 
 void finish_desktop() {
-  // A desktop's locale would put a comma into the values and end the reading of "2.5" at the point.
+  // A desktop's locale would put a comma into the values, in every language, and end the reading of "2.5" at the point.
   std::setlocale(LC_NUMERIC, "C");
+  QLocale::setDefault(QLocale::c());
   install_accessible_value_sliders();
   QIcon icon;
   for (const int size : {16, 32, 48}) {

@@ -14,6 +14,7 @@
 #include "app/chamber_controller.h"
 #include "chamber/chamber_settings.h"
 #include "printing/whole_file.h"
+#include "widgets/model_text.h"
 #include "widgets/user_dialogs.h"
 
 namespace velquon {
@@ -64,7 +65,7 @@ EventDocuments::EventDocuments(ChamberController& controller, UserDialogs& dialo
 void EventDocuments::save_event_file() {
   const ShownEvent& shown = *controller_.model().shown();
   const auto bytes = encode_event(shown.points(), shown.values);
-  const QString path = dialogs_.fileToSave(tr("Save Event"), controller_.shownName(),
+  const QString path = dialogs_.fileToSave(tr("Save Event"), event_name_text(shown.name),
                                            tr("Event files (*.cwd)"), QStringLiteral("cwd"));
   if (path.isEmpty()) {
     return;
@@ -110,19 +111,18 @@ QString EventDocuments::problemOfLoading(const QString& path) {
 }
 
 void EventDocuments::tellRefusal(Refusal refusal, const QString& path) {
-  dialogs_.alertAboutFile(
-      refusal == Refusal::bad_data ? QStringLiteral("Bad data") : QStringLiteral("Wrong format"),
-      QStringLiteral("Sorry, Velquon can't read this file."), path);
+  dialogs_.alertAboutFile(refusal == Refusal::bad_data ? tr("Bad data") : tr("Wrong format"),
+                          tr("Sorry, Velquon can't read this file."), path);
 }
 
 void EventDocuments::show(const StoredEvent& event, const QString& name) {
   controller_.model().beginEvent();
   controller_.setChamberData(event.points);
   if (event.field_was_negative) {
-    dialogs_.alert(QStringLiteral("You should know..."),
-                   QStringLiteral("The event was created with the chamber's magnetic field set to "
-                                  "a negative value.  The controls and display will show the "
-                                  "absolute value of the field."));
+    dialogs_.alert(tr("You should know..."),
+                   tr("The event was created with the chamber's magnetic field set to "
+                      "a negative value.  The controls and display will show the "
+                      "absolute value of the field."));
   }
   ChamberModel& model = controller_.model();
   model.setNext(as_controls_hold(event.values));

@@ -10,6 +10,7 @@
 #include "files/hepmc3_writer.h"
 #include "files/particle_table.h"
 #include "printing/whole_file.h"
+#include "widgets/model_text.h"
 #include "widgets/user_dialogs.h"
 
 namespace velquon {
@@ -83,7 +84,7 @@ void EventExports::exportRecord() {
 }
 
 QString EventExports::fileFor(const QString& title, const QString& filter) {
-  const QString name = QString::fromStdString(model_.shown()->name);
+  const QString name = event_name_text(model_.shown()->name);
   return dialogs_.fileToSave(title, QFileInfo(name).completeBaseName(), filter,
                              QStringLiteral("csv"));
 }

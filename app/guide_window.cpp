@@ -3,6 +3,7 @@
 
 #include "app/guide_window.h"
 
+#include <QFile>
 #include <QMessageBox>
 #include <QShortcut>
 #include <QTextBrowser>
@@ -11,6 +12,20 @@
 
 namespace velquon {
 
+namespace {
+
+/// The guide in the language of the windows; in English where it is not translated.
+QUrl guide_page() {
+  const QString folder =
+      GuideWindow::tr("en", "code of this language; names the folder of its guide");
+  const QString page = QStringLiteral("/docs/%1/guide.md").arg(folder);
+  return QUrl(QStringLiteral("qrc") + (QFile::exists(QLatin1Char(':') + page)
+                                           ? QLatin1Char(':') + page
+                                           : QStringLiteral(":/docs/guide.md")));
+}
+
+}  // namespace
+
 GuideWindow::GuideWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
   setWindowTitle(tr("Velquon Guide"));
   auto* const browser = new QTextBrowser(this);
@@ -18,7 +33,7 @@ GuideWindow::GuideWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
   browser->setFrameShape(QFrame::NoFrame);
   constexpr int text_margin = 18;
   browser->document()->setDocumentMargin(text_margin);
-  browser->setSource(QUrl(QStringLiteral("qrc:/docs/guide.md")));
+  browser->setSource(guide_page());
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(browser);

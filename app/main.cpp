@@ -14,6 +14,7 @@
 #include "app/desktop.h"
 #include "app/desktop_dialogs.h"
 #include "app/event_documents.h"
+#include "app/languages.h"
 #include "app/pictures.h"
 #include "app/start_file.h"
 #include "app/worksheet_request.h"
@@ -71,7 +72,7 @@ int main(int argc, char** argv) {
     return end_with(parsed.message, parsed.status);
   }
   if (parsed.options->worksheets) {
-    return velquon::leave_worksheets(*parsed.options->worksheets);
+    return velquon::leave_worksheets(*parsed.options->worksheets, parsed.options->language);
   }
   if (!parsed.options->display.isEmpty()) {
     // For what of the program has its display not from Qt.
@@ -90,6 +91,7 @@ int main(int argc, char** argv) {
         1);
   }
   velquon::finish_desktop();
+  const velquon::ShownLanguage language(parsed.options->language);
   velquon::DesktopDialogs dialogs;
   velquon::Application application(parsed.options->seed, dialogs);
   application.showWindows();

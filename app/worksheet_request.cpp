@@ -10,6 +10,7 @@
 #include <cstdio>
 
 #include "app/command_line.h"
+#include "app/languages.h"
 #include "model/clock.h"
 #include "printing/whole_file.h"
 #include "printing/worksheets.h"
@@ -98,7 +99,7 @@ ReadWorksheetOptions read_worksheet_options(const QCommandLineParser& parser,
   return {request, {}};
 }
 
-int leave_worksheets(const WorksheetRequest& request) {
+int leave_worksheets(const WorksheetRequest& request, const QString& language) {
   // Pages are drawn by Qt alone; its platform without a screen has fonts as well.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qunsetenv("QT_QPA_PLATFORMTHEME");
@@ -109,6 +110,7 @@ int leave_worksheets(const WorksheetRequest& request) {
   const QGuiApplication application(count, arguments.data());
   // A locale would put a comma into the values.
   std::setlocale(LC_NUMERIC, "C");
+  const ShownLanguage shown_language(language);
   const auto documents = make_worksheets(request.order, [](int) { return true; });
   const bool saved = save(request.sheets, documents->sheets) &&
                      (request.answers.isEmpty() || save(request.answers, documents->answers));

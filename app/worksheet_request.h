@@ -36,7 +36,8 @@ struct ReadWorksheetOptions {
                                                           std::optional<std::uint32_t> seed);
 
 /// Makes the worksheets without a display and writes their files.
+/// \param language one of language_codes(), or empty for the desktop's
 /// \return status to end the program with; a file that cannot be written is named on standard error
-int leave_worksheets(const WorksheetRequest& request);
+int leave_worksheets(const WorksheetRequest& request, const QString& language);
 
 }  // namespace velquon

@@ -5,6 +5,7 @@
 
 #include <cmath>
 
+#include "engine/model_text.h"
 #include "events/lambda_decay.h"
 #include "events/lepton_decays.h"
 #include "events/neutral_pion_decay.h"
@@ -15,12 +16,12 @@ namespace velquon {
 namespace {
 
 constexpr std::array<EventType, 6> types{{
-    {"pi-", "Negative Pion", true, pion_chain},
-    {"pi+", "Positive Pion", false, pion_chain},
-    {"pi0", "Neutral Pion", false, pizero_chain},
-    {"mu-", "Negative Muon", true, muon_chain},
-    {"mu+", "Positive Muon", false, muon_chain},
-    {"lambda", "Lambda", false, lambda_chain},
+    {"pi-", MODEL_TEXT("velquon::Model", "Negative Pion"), true, pion_chain},
+    {"pi+", MODEL_TEXT("velquon::Model", "Positive Pion"), false, pion_chain},
+    {"pi0", MODEL_TEXT("velquon::Model", "Neutral Pion"), false, pizero_chain},
+    {"mu-", MODEL_TEXT("velquon::Model", "Negative Muon"), true, muon_chain},
+    {"mu+", MODEL_TEXT("velquon::Model", "Positive Muon"), false, muon_chain},
+    {"lambda", MODEL_TEXT("velquon::Model", "Lambda"), false, lambda_chain},
 }};
 
 }  // namespace

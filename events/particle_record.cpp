@@ -3,11 +3,15 @@
 
 #include "events/particle_record.h"
 
+#include "engine/model_text.h"
+
 namespace velquon {
 
 std::string_view name_of(Fate fate) {
-  constexpr std::array<std::string_view, 6> names{"decayed", "converted", "left",
-                                                  "full",    "escaped",   "undetected"};
+  constexpr std::array<std::string_view, 6> names{
+      MODEL_TEXT("velquon::Model", "decayed"), MODEL_TEXT("velquon::Model", "converted"),
+      MODEL_TEXT("velquon::Model", "left"),    MODEL_TEXT("velquon::Model", "full"),
+      MODEL_TEXT("velquon::Model", "escaped"), MODEL_TEXT("velquon::Model", "undetected")};
   return names[static_cast<std::size_t>(fate)];
 }
 

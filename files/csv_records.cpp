@@ -7,6 +7,8 @@
 #include <optional>
 #include <utility>
 
+#include "engine/model_text.h"
+
 namespace velquon {
 
 namespace {
@@ -66,13 +68,13 @@ class CsvParser {
       CsvRecord record{.line = line_, .fields = {}};
       const std::size_t before = rest_.size();
       if (const char* const reason = readRecord(record)) {
-        return TextError{line_, reason};
+        return TextError{line_, reason, {}};
       }
       if (before - rest_.size() > limits_.record_bytes) {
-        return TextError{record.line, "the line is too long"};
+        return TextError{record.line, MODEL_TEXT("velquon::Model", "the line is too long"), {}};
       }
       if (records_.size() == limits_.records) {
-        return TextError{record.line, "there are too many lines"};
+        return TextError{record.line, MODEL_TEXT("velquon::Model", "there are too many lines"), {}};
       }
       records_.push_back(std::move(record));
     }
@@ -92,14 +94,15 @@ class CsvParser {
       }
       record.fields.push_back(std::move(field));
       if (record.fields.size() > limits_.fields) {
-        return "there are too many fields";
+        return MODEL_TEXT("velquon::Model", "there are too many fields");
       }
       if (rest_.empty() || takeLineEnd()) {
         return nullptr;
       }
       if (!take(',')) {
-        return rest_[0] == '\r' ? "a carriage return stands alone"
-                                : "something follows a closing quotation mark";
+        return rest_[0] == '\r'
+                   ? MODEL_TEXT("velquon::Model", "a carriage return stands alone")
+                   : MODEL_TEXT("velquon::Model", "something follows a closing quotation mark");
       }
     }
   }
@@ -112,7 +115,9 @@ class CsvParser {
     const std::size_t end = rest_.find_first_of("\",\r\n");
     field = rest_.substr(0, end);
     rest_.remove_prefix(field.size());
-    return !rest_.empty() && rest_[0] == '"' ? "a quotation mark stands inside a field" : nullptr;
+    return !rest_.empty() && rest_[0] == '"'
+               ? MODEL_TEXT("velquon::Model", "a quotation mark stands inside a field")
+               : nullptr;
   }
 
   const char* readQuoted(std::string& field) {
@@ -121,11 +126,11 @@ class CsvParser {
       const std::size_t end = rest_.find_first_of("\"\n");
       if (end == std::string_view::npos) {
         line_ = opened;
-        return "a quotation mark is not closed";
+        return MODEL_TEXT("velquon::Model", "a quotation mark is not closed");
       }
       field += rest_.substr(0, end);
       if (field.size() > limits_.record_bytes) {
-        return "the line is too long";
+        return MODEL_TEXT("velquon::Model", "the line is too long");
       }
       const char found = rest_[end];
       rest_.remove_prefix(end + 1);
@@ -171,10 +176,10 @@ std::optional<TextError> find_bad_bytes(std::string_view bytes) {
   for (std::size_t i = 0; i < bytes.size();) {
     const std::size_t length = character_length(bytes.substr(i));
     if (length == 0) {
-      return TextError{line, "it is not text in UTF-8"};
+      return TextError{line, MODEL_TEXT("velquon::Model", "it is not text in UTF-8"), {}};
     }
     if (bytes[i] == '\0') {
-      return TextError{line, "it holds a zero byte"};
+      return TextError{line, MODEL_TEXT("velquon::Model", "it holds a zero byte"), {}};
     }
     line += bytes[i] == '\n' ? 1U : 0U;
     i += length;
@@ -184,9 +189,19 @@ std::optional<TextError> find_bad_bytes(std::string_view bytes) {
 
 }  // namespace
 
+std::string reason_with_values(const TextError& error) {
+  std::string text = error.reason;
+  for (std::size_t i = 0; i < error.values.size(); ++i) {
+    std::string mark("%");
+    mark += std::to_string(i + 1);
+    text.replace(text.find(mark), mark.size(), error.values[i]);
+  }
+  return text;
+}
+
 CsvResult read_csv(std::string_view bytes, const CsvLimits& limits) {
   if (bytes.size() > limits.bytes) {
-    return TextError{0, "the file is too large"};
+    return TextError{0, MODEL_TEXT("velquon::Model", "the file is too large"), {}};
   }
   if (auto error = find_bad_bytes(bytes)) {
     return *std::move(error);

@@ -14,10 +14,14 @@ namespace velquon {
 /// What is wrong with a text file, and in which line, from 1; 0 for the file as a whole.
 struct TextError {
   std::size_t line = 0;
-  std::string reason;
+  std::string reason;               ///< %1 and %2 in it stand for the values
+  std::vector<std::string> values;  ///< of the file, or expected in it
 
   friend bool operator==(const TextError&, const TextError&) = default;
 };
+
+/// What is wrong, with the values in their places.
+[[nodiscard]] std::string reason_with_values(const TextError& error);
 
 /// The fields between two line ends of a table, quotes taken off.
 struct CsvRecord {

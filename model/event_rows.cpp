@@ -10,6 +10,7 @@
 
 #include "engine/charged_track.h"
 #include "engine/kinematics.h"
+#include "engine/model_text.h"
 #include "events/particle_kinds.h"
 #include "events/tracking.h"
 
@@ -19,9 +20,12 @@ namespace {
 
 std::string_view words_of(Fate fate) {
   constexpr std::array<std::string_view, 6> words{
-      "decayed",          "converted to a pair",
-      "left the chamber", "cut: the event holds no more points",
-      "left unseen",      "not detected"};
+      MODEL_TEXT("velquon::Model", "decayed"),
+      MODEL_TEXT("velquon::Model", "converted to a pair"),
+      MODEL_TEXT("velquon::Model", "left the chamber"),
+      MODEL_TEXT("velquon::Model", "cut: the event holds no more points"),
+      MODEL_TEXT("velquon::Model", "left unseen"),
+      MODEL_TEXT("velquon::Model", "not detected")};
   return words[static_cast<std::size_t>(fate)];
 }
 
@@ -34,7 +38,8 @@ EventRow row_of(const RecordedParticle& particle, const ChamberValues& values) {
   const auto field = static_cast<double>(values.B_field);
   const auto& [px, py, pz] = particle.momentum;
   EventRow row;
-  row.name = std::string(kind.name) + " " + std::string(kind.symbol);
+  row.name = kind.name;
+  row.symbol = kind.symbol;
   row.fate = words_of(particle.fate);
   row.parent = particle.parent;
   row.momentum = magnitude(particle.momentum);
@@ -50,15 +55,15 @@ EventRow row_of(const RecordedParticle& particle, const ChamberValues& values) {
   return row;
 }
 
-std::string_view color_name(std::int16_t code) {
-  constexpr std::array<std::string_view, 5> names{"Red", "Yellow", "Green", "Blue", "Light blue"};
-  const int index = code - 3;
-  return index >= 0 && index < static_cast<int>(names.size())
-             ? names[static_cast<std::size_t>(index)]
-             : names.back();
-}
-
 }  // namespace
+
+std::string_view color_name(std::int16_t code) {
+  constexpr std::array<std::string_view, 5> names{
+      MODEL_TEXT("velquon::Model", "Red"), MODEL_TEXT("velquon::Model", "Yellow"),
+      MODEL_TEXT("velquon::Model", "Green"), MODEL_TEXT("velquon::Model", "Blue"),
+      MODEL_TEXT("velquon::Model", "Light blue")};
+  return names[track_color_row(code)];
+}
 
 std::optional<bool> is_charged(int pdg) {
   const ParticleKind* const kind = find_particle_kind(pdg);

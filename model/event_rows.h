@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <optional>
 #include <span>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -19,7 +18,8 @@ namespace velquon {
 
 /// What there is to tell of one particle of an event.
 struct EventRow {
-  std::string name;                  ///< with its symbol, UTF-8
+  std::string_view name;             ///< of its kind
+  std::string_view symbol;           ///< UTF-8
   std::string_view fate;             ///< in words
   int parent = -1;                   ///< row of the particle that it comes from, -1 for the primary
   double momentum = 0.0;             ///< MeV/c, at creation as all that follows
@@ -37,6 +37,9 @@ struct EventRow {
 /// \param values under which the event was made
 [[nodiscard]] std::vector<EventRow> event_rows(const ParticleRecord& record,
                                                const ChamberValues& values);
+
+/// The colour in which a track code is drawn, in words: "Red", "Yellow" and so on.
+[[nodiscard]] std::string_view color_name(std::int16_t code);
 
 /// What is seen of an event: the points of one track code.
 struct VisibleTrack {

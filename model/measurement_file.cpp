@@ -10,6 +10,8 @@
 #include <optional>
 #include <utility>
 
+#include "engine/model_text.h"
+
 namespace velquon {
 
 namespace {
@@ -64,33 +66,42 @@ class RowReader {
 
   MeasurementFileResult read() {
     if (record_.fields.size() != column_count) {
-      return TextError{record_.line, "it has " + std::to_string(record_.fields.size()) +
-                                         " fields instead of " + std::to_string(column_count)};
+      return TextError{record_.line,
+                       MODEL_TEXT("velquon::Model", "it has %1 fields instead of %2"),
+                       {std::to_string(record_.fields.size()), std::to_string(column_count)}};
     }
     Measurement row;
     std::uint64_t row_number = 0;
     if (!parse(Column::number, row_number) || row_number == 0) {
-      refuse("the row's number is none: ", Column::number);
+      refuse(MODEL_TEXT("velquon::Model", "the row's number is none: \"%1\""), Column::number);
     }
     row.event = text(Column::event);
-    row.quantity = nameIn<Quantity>(quantity_names, &QuantityName::name, Column::quantity,
-                                    "no quantity has the name ");
+    row.quantity =
+        nameIn<Quantity>(quantity_names, &QuantityName::name, Column::quantity,
+                         MODEL_TEXT("velquon::Model", "no quantity has the name \"%1\""));
     row.plane = text(Column::plane);
     if (std::ranges::find(planes, row.plane) == planes.end()) {
-      refuse("no plane has the name ", Column::plane);
+      refuse(MODEL_TEXT("velquon::Model", "no plane has the name \"%1\""), Column::plane);
     }
-    row.value = finite(Column::value, "the value is no finite number: ");
-    row.error = unlessEmpty(Column::error, "the error is no finite number above or at 0: ",
-                            [](double read) { return read >= 0.0; });
+    row.value = finite(Column::value,
+                       MODEL_TEXT("velquon::Model", "the value is no finite number: \"%1\""));
+    row.error = unlessEmpty(
+        Column::error,
+        MODEL_TEXT("velquon::Model", "the error is no finite number above or at 0: \"%1\""),
+        [](double read) { return read >= 0.0; });
     if (text(Column::unit) != name_of(row.quantity).unit) {
-      refuse("the quantity has another unit than ", Column::unit);
+      refuse(MODEL_TEXT("velquon::Model", "the quantity has another unit than \"%1\""),
+             Column::unit);
     }
-    row.field_kG = finite(Column::field_kG, "the field is no finite number: ");
-    row.ending = nameIn<Ending>(ending_names, std::identity(), Column::ending,
-                                "no ending of a track has the name ");
+    row.field_kG = finite(Column::field_kG,
+                          MODEL_TEXT("velquon::Model", "the field is no finite number: \"%1\""));
+    row.ending =
+        nameIn<Ending>(ending_names, std::identity(), Column::ending,
+                       MODEL_TEXT("velquon::Model", "no ending of a track has the name \"%1\""));
     row.longest_cm = unlessEmpty(
         Column::longest_cm,
-        "the longest length is no finite number above 0: ", [](double read) { return read > 0.0; });
+        MODEL_TEXT("velquon::Model", "the longest length is no finite number above 0: \"%1\""),
+        [](double read) { return read > 0.0; });
     row.note = text(Column::note);
     row.file = text(Column::file);
     if (error_) {
@@ -114,8 +125,7 @@ class RowReader {
       --shown;
     }
     const char* const dots = shown < field.size() ? "…" : "";
-    error_ =
-        TextError{record_.line, std::string(reason) + "\"" + field.substr(0, shown) + dots + "\""};
+    error_ = TextError{record_.line, std::string(reason), {field.substr(0, shown) + dots}};
   }
 
   template <typename Number>
@@ -194,7 +204,8 @@ MeasurementFileResult decode_measurements(std::string_view bytes) {
   const auto& records = std::get<std::vector<CsvRecord>>(parsed);
   if (records.empty() || records[0].fields.size() != column_count ||
       joined(records[0].fields) != measurement_header) {
-    return TextError{1, "these are not the names of a table of measurements"};
+    return TextError{
+        1, MODEL_TEXT("velquon::Model", "these are not the names of a table of measurements"), {}};
   }
   MeasurementTable rows;
   rows.reserve(records.size() - 1);

@@ -9,6 +9,8 @@
 #include <limits>
 #include <string_view>
 
+#include "engine/model_text.h"
+
 namespace velquon {
 
 /// What a measurement is of.
@@ -32,15 +34,15 @@ struct QuantityName {
 
 /// In the order of Quantity.
 inline constexpr std::array<QuantityName, 9> quantity_names{{
-    {"length", "cm"},
-    {"radius", "cm"},
-    {"transverse momentum", "MeV/c"},
-    {"sagitta", "cm"},
-    {"chord", "cm"},
-    {"angle", "degrees"},
-    {"decay length", "cm"},
-    {"momentum", "MeV/c"},
-    {"tracks", ""},
+    {MODEL_TEXT("velquon::Model", "length"), "cm"},
+    {MODEL_TEXT("velquon::Model", "radius"), "cm"},
+    {MODEL_TEXT("velquon::Model", "transverse momentum"), "MeV/c"},
+    {MODEL_TEXT("velquon::Model", "sagitta"), "cm"},
+    {MODEL_TEXT("velquon::Model", "chord"), "cm"},
+    {MODEL_TEXT("velquon::Model", "angle"), MODEL_TEXT("velquon::Model", "degrees")},
+    {MODEL_TEXT("velquon::Model", "decay length"), "cm"},
+    {MODEL_TEXT("velquon::Model", "momentum"), "MeV/c"},
+    {MODEL_TEXT("velquon::Model", "tracks"), ""},
 }};
 
 constexpr const QuantityName& name_of(Quantity quantity) {

@@ -15,6 +15,7 @@
 #include "printing/page.h"
 #include "printing/print_view.h"
 #include "printing/worksheet_text.h"
+#include "widgets/model_text.h"
 
 namespace velquon {
 
@@ -26,9 +27,9 @@ constexpr double first_line_depth = 106.0;
 constexpr double line_height = 15.0;
 constexpr double notes_height = 52.0;
 
-QString tr(const char* text) {
-  return QCoreApplication::translate("velquon::AnswerKey", text);
-}
+struct AnswerKey {
+  Q_DECLARE_TR_FUNCTIONS(velquon::AnswerKey)
+};
 
 /// A column of the key: where it stands on a page 523 points wide, and what stands above it.
 struct Column {
@@ -79,18 +80,17 @@ QString angle_text(const std::optional<double>& degrees) {
 }
 
 AnswerLine line_of(int number, const TrackAnswer& answer) {
-  const std::string_view fate = name_of(answer.fate);
   return {QString::number(number),
           symbol_of(answer.pdg),
           answer.parent_pdg ? symbol_of(*answer.parent_pdg) : QStringLiteral("–"),
           sheet_number(answer.momentum),
           sheet_number(answer.transverse_momentum),
-          answer.radius_cm ? number_or_dash(answer.radius_cm) : tr("straight"),
+          answer.radius_cm ? number_or_dash(answer.radius_cm) : AnswerKey::tr("straight"),
           sheet_number(answer.length_cm),
           sheet_number(answer.paper_length_cm),
           angle_text(answer.angle_deg),
           angle_text(answer.paper_angle_deg),
-          QString::fromUtf8(fate.data(), static_cast<qsizetype>(fate.size()))};
+          model_text(name_of(answer.fate))};
 }
 
 void print_in(QPainter& page, const Column& column, QPointF line_start, const QString& text) {
@@ -102,7 +102,7 @@ void paint_column_heads(QPainter& page, QPointF line_start, double width) {
   constexpr double unit_gap = 12.0;
   constexpr double rule_gap = 16.0;
   for (const Column& column : columns) {
-    print_in(page, column, line_start, tr(column.head));
+    print_in(page, column, line_start, AnswerKey::tr(column.head));
     print_in(page, column, line_start - QPointF(0.0, unit_gap), QString::fromUtf8(column.unit));
   }
   const QPointF rule = line_start - QPointF(0.0, rule_gap);
@@ -114,14 +114,14 @@ void paint_head(QPainter& page, QSizeF paper, const WorksheetOrder& order, int i
   const double right = paper.width() - page_margin;
   const double top = paper.height() - page_margin;
   set_text_size(page, title_size, TextWeight::bold);
-  print_text(page, {left, top - title_depth}, tr("Answers to the worksheets"));
+  print_text(page, {left, top - title_depth}, AnswerKey::tr("Answers to the worksheets"));
   set_text_size(page, text_size);
-  print_text_right(page, {right, top - title_depth}, tr("Page %1 of %2").arg(index + 1).arg(pages));
-  const QString kind =
-      QString::fromUtf8(order.type->name.data(), static_cast<qsizetype>(order.type->name.size()));
-  print_text(page, {left, top - kind_depth}, tr("Incoming particle: %1").arg(kind));
+  print_text_right(page, {right, top - title_depth},
+                   AnswerKey::tr("Page %1 of %2").arg(index + 1).arg(pages));
+  const QString kind = model_text(order.type->name);
+  print_text(page, {left, top - kind_depth}, AnswerKey::tr("Incoming particle: %1").arg(kind));
   print_text_right(page, {right, top - kind_depth},
-                   tr("Seed %1, events 1 to %2").arg(order.seed).arg(order.events));
+                   AnswerKey::tr("Seed %1, events 1 to %2").arg(order.seed).arg(order.events));
   print_text(page, {left, top - values_depth}, QString::fromStdString(values_text(order.values)));
 }
 
@@ -129,7 +129,7 @@ void paint_head(QPainter& page, QSizeF paper, const WorksheetOrder& order, int i
 
 std::vector<AnswerLine> answer_lines(int number, const std::vector<TrackAnswer>& answers) {
   if (answers.empty()) {
-    return {{QString::number(number), tr("no track is visible")}};
+    return {{QString::number(number), AnswerKey::tr("no track is visible")}};
   }
   std::vector<AnswerLine> lines;
   lines.reserve(answers.size());
@@ -166,7 +166,7 @@ void paint_key_page(QPainter& page, QSizeF paper, const WorksheetOrder& order,
   }
   place.setY(page_margin + static_cast<double>(notes.size() - 1) * note_height);
   for (const char* const note : notes) {
-    print_text(page, place, tr(note));
+    print_text(page, place, AnswerKey::tr(note));
     place.ry() -= note_height;
   }
 }

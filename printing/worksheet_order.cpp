@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 
+#include "engine/model_text.h"
 #include "files/number_in.h"
 #include "model/chamber_model.h"
 
@@ -71,11 +72,12 @@ bool take_paper(WorksheetOrder& order, std::string_view text) {
 constexpr std::array<OrderEntry, 6> entries{{
     {"type", "TYPE", "kind of event: pi-, pi+, pi0, mu-, mu+ or lambda",
      "one of pi-, pi+, pi0, mu-, mu+, lambda", take_type},
-    {"field", "KG", "magnetic field, kG (default 0.6)", "a finite field in kG", take_field},
-    {"side", "CM", "side of the chamber, cm (default 500)", "a finite side in cm above 0",
-     take_side},
+    {"field", "KG", "magnetic field, kG (default 0.6)",
+     MODEL_TEXT("velquon::Model", "a finite field in kG"), take_field},
+    {"side", "CM", "side of the chamber, cm (default 500)",
+     MODEL_TEXT("velquon::Model", "a finite side in cm above 0"), take_side},
     {"energy", "MEV", "kinetic energy of the incoming particle, MeV (default 0.4)",
-     "a finite energy in MeV above 0", take_energy},
+     MODEL_TEXT("velquon::Model", "a finite energy in MeV above 0"), take_energy},
     {"events", "COUNT", "number of worksheets (default 1)", "a whole number from 1 to 1000",
      take_count},
     {"paper", "NAME", "paper of the worksheets: A4 or Letter (default A4)", "one of A4, Letter",

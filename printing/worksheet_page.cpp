@@ -17,6 +17,7 @@
 #include "printing/projection_page.h"
 #include "printing/worksheet_ruler.h"
 #include "printing/worksheet_text.h"
+#include "widgets/model_text.h"
 
 namespace velquon {
 
@@ -33,9 +34,9 @@ constexpr double row_height = 24.0;
 // A Lambda with a neutral pion whose photons both convert has four tracks; no event has more.
 constexpr int answer_rows = 4;
 
-QString tr(const char* text) {
-  return QCoreApplication::translate("velquon::Worksheet", text);
-}
+struct Worksheet {
+  Q_DECLARE_TR_FUNCTIONS(velquon::Worksheet)
+};
 
 /// Whether +z points out of the paper of a projection onto the xy plane, to the reader.
 bool z_points_to_reader() {
@@ -75,19 +76,19 @@ void paint_head(QPainter& page, const TextArea& area, const WorksheetOrder& orde
   constexpr double blank_gap = 10.0;
   set_text_size(page, title_size, TextWeight::bold);
   const double title_height = area.top - title_depth;
-  print_text(page, {area.left, title_height}, tr("Worksheet %1").arg(number));
+  print_text(page, {area.left, title_height}, Worksheet::tr("Worksheet %1").arg(number));
   set_text_size(page, text_size);
-  const double name_end =
-      paint_blank(page, {area.left + blanks_indent, title_height}, tr("Name"), name_length);
-  const QString date = tr("Date");
+  const double name_end = paint_blank(page, {area.left + blanks_indent, title_height},
+                                      Worksheet::tr("Name"), name_length);
+  const QString date = Worksheet::tr("Date");
   const double date_width = QFontMetricsF(page.font()).horizontalAdvance(date) + 4.0;
   paint_blank(page, {name_end + blank_gap, title_height}, date,
               area.right - name_end - blank_gap - date_width);
-  const QString kind =
-      QString::fromUtf8(order.type->name.data(), static_cast<qsizetype>(order.type->name.size()));
-  print_text(page, {area.left, area.top - kind_depth}, tr("Incoming particle: %1").arg(kind));
+  const QString kind = model_text(order.type->name);
+  print_text(page, {area.left, area.top - kind_depth},
+             Worksheet::tr("Incoming particle: %1").arg(kind));
   print_text_right(page, {area.right, area.top - kind_depth},
-                   tr("Seed %1, event %2").arg(order.seed).arg(number));
+                   Worksheet::tr("Seed %1, event %2").arg(order.seed).arg(number));
   print_text(page, {area.left, area.top - values_depth},
              QString::fromStdString(values_text(order.values)));
 }
@@ -116,14 +117,14 @@ void paint_field(QPainter& page, const TextArea& area, double field_kG) {
   constexpr double sign_room = 16.0;
   const double height = area.top - field_depth;
   if (field_kG == 0.0) {
-    print_text(page, {area.left, height}, tr("No magnetic field"));
+    print_text(page, {area.left, height}, Worksheet::tr("No magnetic field"));
     return;
   }
   const bool to_reader = (field_kG > 0.0) == z_points_to_reader();
   paint_direction_sign(page, {area.left + 6.0, height + 6.0}, to_reader);
   print_text(page, {area.left + sign_room, height},
-             (to_reader ? tr("Magnetic field of %1 kG, out of the paper")
-                        : tr("Magnetic field of %1 kG, into the paper"))
+             (to_reader ? Worksheet::tr("Magnetic field of %1 kG, out of the paper")
+                        : Worksheet::tr("Magnetic field of %1 kG, into the paper"))
                  .arg(sheet_number(std::fabs(field_kG))));
 }
 
@@ -140,7 +141,7 @@ QRectF paint_picture(QPainter& page, const TextArea& area, double middle,
   page.restore();
   const QRectF shifted = frame.translated(shift);
   if (points.empty()) {
-    print_text_centred(page, shifted.center(), tr("No track is visible in this event."));
+    print_text_centred(page, shifted.center(), Worksheet::tr("No track is visible in this event."));
   }
   return shifted;
 }
@@ -150,11 +151,12 @@ QRectF paint_picture(QPainter& page, const TextArea& area, double middle,
 double paint_table(QPainter& page, const TextArea& area, double top) {
   constexpr double track_width = 50.0;
   constexpr double padding = 5.0;
-  const std::array<std::array<QString, 2>, 5> heads{{{tr("Track"), {}},
-                                                     {tr("Radius"), tr("cm")},
-                                                     {tr("Momentum"), tr("MeV/c")},
-                                                     {tr("Angle at its vertex"), tr("degrees")},
-                                                     {tr("Length"), tr("cm")}}};
+  const std::array<std::array<QString, 2>, 5> heads{
+      {{Worksheet::tr("Track"), {}},
+       {Worksheet::tr("Radius"), Worksheet::tr("cm")},
+       {Worksheet::tr("Momentum"), Worksheet::tr("MeV/c")},
+       {Worksheet::tr("Angle at its vertex"), Worksheet::tr("degrees")},
+       {Worksheet::tr("Length"), Worksheet::tr("cm")}}};
   const double column_width = (area.width() - track_width) / 4.0;
   const double bottom = top - head_height - answer_rows * row_height;
   const auto column = [&](std::size_t i) {
@@ -181,7 +183,7 @@ double paint_table(QPainter& page, const TextArea& area, double top) {
 void paint_notes(QPainter& page, const TextArea& area, double top) {
   constexpr double label_gap = 18.0;
   constexpr double line_gap = 22.0;
-  print_text(page, {area.left, top - label_gap}, tr("Notes"));
+  print_text(page, {area.left, top - label_gap}, Worksheet::tr("Notes"));
   for (double height = top - label_gap - line_gap; height >= area.bottom; height -= line_gap) {
     page.drawLine(QLineF(area.left, height, area.right, height));
   }
@@ -192,7 +194,7 @@ void paint_ruler_with_caption(QPainter& page, const QRectF& frame, double side_c
   paint_ruler(page, frame.topLeft() - QPointF(0.0, ruler_gap), frame.width(), side_cm);
   print_text_centred(
       page, {frame.center().x(), frame.top() - caption_gap},
-      tr("Ruler in cm of the chamber. Printed at full size, 1 mm on the paper is %1 cm.")
+      Worksheet::tr("Ruler in cm of the chamber. Printed at full size, 1 mm on the paper is %1 cm.")
           .arg(sheet_number(side_cm / frame.width() * points_per_mm)));
 }
 

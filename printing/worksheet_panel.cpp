@@ -18,6 +18,7 @@
 #include <utility>
 
 #include "files/number_in.h"
+#include "widgets/model_text.h"
 
 namespace velquon {
 
@@ -66,8 +67,7 @@ bool WorksheetPanel::withAnswers() const {
 void WorksheetPanel::addChoices(QFormLayout& form) {
   type_popup_ = named(new QComboBox, "worksheet_type_popup");
   for (const EventType& type : event_types()) {
-    type_popup_->addItem(
-        QString::fromUtf8(type.name.data(), static_cast<qsizetype>(type.name.size())));
+    type_popup_->addItem(model_text(type.name));
   }
   type_popup_->setCurrentIndex(static_cast<int>(order_.type - event_types().data()));
   form.addRow(tr("&Event:"), type_popup_);
@@ -129,9 +129,7 @@ std::optional<QString> WorksheetPanel::problemOf(WorksheetOrder& order) const {
     const OrderEntry& entry = order_entry(key);
     if (!entry.take(order, box->text().trimmed().toStdString())) {
       const auto wanted = entry.wanted;
-      return tr("'%1' is not %2.")
-          .arg(box->text(),
-               QString::fromUtf8(wanted.data(), static_cast<qsizetype>(wanted.size())));
+      return tr("'%1' is not %2.").arg(box->text(), model_text(wanted));
     }
   }
   const auto seed = number_in<std::uint32_t>(seed_box_->text().trimmed().toStdString());

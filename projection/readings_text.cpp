@@ -10,6 +10,7 @@
 #include <cstddef>
 
 #include "model/reading_text.h"
+#include "widgets/model_text.h"
 
 namespace velquon {
 
@@ -28,11 +29,8 @@ QString text_of(const char* source) {
 }
 
 QString value_of(const Reading& reading) {
-  const bool is_angle = reading.quantity == Quantity::angle;
-  const auto unit = name_of(reading.quantity).unit;
   return QString::fromStdString(measured_text(reading.value, reading.error)) + QChar(u' ') +
-         (is_angle ? text_of("degrees")
-                   : QString::fromUtf8(unit.data(), static_cast<qsizetype>(unit.size())));
+         model_text(name_of(reading.quantity).unit);
 }
 
 /// What to do next with a tool, by the number of points that are set; the last holds for more.
@@ -104,9 +102,7 @@ QString spoken_readings(const Projector& projector) {
   QStringList parts(straight_note(projector, readings));
   parts.removeAll(QString());
   for (const Reading& reading : readings) {
-    const auto name = name_of(reading.quantity).name;
-    parts << QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())) + QChar(u' ') +
-                 value_of(reading);
+    parts << model_text(name_of(reading.quantity).name) + QChar(u' ') + value_of(reading);
   }
   return parts.join(QStringLiteral(", "));
 }

@@ -18,6 +18,7 @@
 #include "model/statistics.h"
 #include "record/histogram_plot.h"
 #include "record/measurement_columns.h"
+#include "widgets/model_text.h"
 
 namespace velquon {
 
@@ -26,10 +27,6 @@ namespace {
 // In the order of the pop-up of fits.
 constexpr int exponential = 1;
 constexpr int gaussian = 2;
-
-QString utf8(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 /// A value and its error, both with the decimals that two digits of the error have.
 QString with_error(double value, double error) {
@@ -47,7 +44,7 @@ QString with_error(double value, double error) {
 
 QString with_unit(const QString& number, Quantity quantity) {
   const std::string_view unit = name_of(quantity).unit;
-  return unit.empty() ? number : number + QLatin1Char(' ') + utf8(unit);
+  return unit.empty() ? number : number + QLatin1Char(' ') + model_text(unit);
 }
 
 /// What stands in the place of a plot that can't be drawn.
@@ -155,7 +152,7 @@ void HistogramPanel::listQuantities() {
   quantities_ = std::move(present);
   quantity_popup_->clear();
   for (const Quantity quantity : quantities_) {
-    quantity_popup_->addItem(utf8(name_of(quantity).name));
+    quantity_popup_->addItem(model_text(name_of(quantity).name));
   }
   const int again = quantity_popup_->findText(chosen);
   quantity_popup_->setCurrentIndex(again >= 0 || quantities_.empty() ? again : 0);
@@ -167,7 +164,8 @@ QString HistogramPanel::axisTitle() const {
   }
   const auto& [name, unit] =
       name_of(quantities_[static_cast<std::size_t>(quantity_popup_->currentIndex())]);
-  return unit.empty() ? utf8(name) : QStringLiteral("%1 (%2)").arg(utf8(name), utf8(unit));
+  return unit.empty() ? model_text(name)
+                      : QStringLiteral("%1 (%2)").arg(model_text(name), model_text(unit));
 }
 
 void HistogramPanel::fit() {

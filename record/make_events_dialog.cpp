@@ -15,6 +15,7 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+#include "widgets/model_text.h"
 #include "widgets/user_dialogs.h"
 
 namespace velquon {
@@ -97,8 +98,7 @@ MakeEventsDialog::MakeEventsDialog(std::size_t type, const ChamberValues& values
 
 void MakeEventsDialog::layOut(std::size_t type) {
   for (const EventType& known : event_types()) {
-    type_popup_->addItem(
-        QString::fromUtf8(known.name.data(), static_cast<qsizetype>(known.name.size())));
+    type_popup_->addItem(model_text(known.name));
   }
   type_popup_->setCurrentIndex(static_cast<int>(type));
   events_box_->setRange(1, most_events);

@@ -7,6 +7,8 @@
 #include <array>
 #include <cmath>
 
+#include "widgets/model_text.h"
+
 namespace velquon {
 
 namespace {
@@ -174,9 +176,9 @@ QString MeasurementColumns::text(const Measurement& row, MeasurementColumn colum
   const QuantityName& names = name_of(row.quantity);
   switch (column) {
     case MeasurementColumn::event:
-      return utf8(row.event);
+      return event_name_text(row.event);
     case MeasurementColumn::quantity:
-      return utf8(names.name);
+      return model_text(names.name);
     case MeasurementColumn::plane:
       return utf8(row.plane);
     case MeasurementColumn::value:
@@ -184,7 +186,7 @@ QString MeasurementColumns::text(const Measurement& row, MeasurementColumn colum
     case MeasurementColumn::error:
       return number_text(row.error);
     case MeasurementColumn::unit:
-      return utf8(names.unit);
+      return model_text(names.unit);
     case MeasurementColumn::field:
       return number_text(row.field_kG);
     case MeasurementColumn::ending:

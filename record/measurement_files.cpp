@@ -10,6 +10,7 @@
 
 #include "files/atomic_file.h"
 #include "model/measurement_file.h"
+#include "widgets/model_text.h"
 #include "widgets/user_dialogs.h"
 
 namespace velquon {
@@ -33,6 +34,15 @@ LoadedText read_text(const QString& path) {
   // One byte more than is taken, which refuses the file.
   QByteArray bytes = file.read(static_cast<qint64>(CsvLimits{}.bytes) + 1);
   return {std::move(bytes), file.error() == QFileDevice::NoError ? QString() : file.errorString()};
+}
+
+/// Why a table is refused, in the user's language.
+QString reason_text(const TextError& error) {
+  QString text = model_text(error.reason);
+  for (const std::string& value : error.values) {
+    text = text.arg(QString::fromStdString(value));
+  }
+  return text;
 }
 
 }  // namespace
@@ -128,7 +138,7 @@ std::optional<MeasurementTable> MeasurementFiles::load(const QString& path) {
   auto result =
       decode_measurements(std::string_view(bytes.data(), static_cast<std::size_t>(bytes.size())));
   if (const auto* const error = std::get_if<TextError>(&result)) {
-    const QString reason = QString::fromStdString(error->reason);
+    const QString reason = reason_text(*error);
     dialogs_.alert(tr("Not opened"),
                    error->line == 0 ? tr("Velquon can't read the file %1: %2.").arg(path, reason)
                                     : tr("Velquon can't read the file %1, line %2: %3.")

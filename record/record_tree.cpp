@@ -10,6 +10,7 @@
 #include <cmath>
 #include <optional>
 
+#include "widgets/model_text.h"
 #include "widgets/number_text.h"
 
 namespace velquon {
@@ -44,8 +45,8 @@ QString utf8(std::string_view text) {
 }
 
 QStringList texts_of(const EventRow& row) {
-  return {utf8(row.name),
-          utf8(row.fate),
+  return {model_text(row.name) + QLatin1Char(' ') + utf8(row.symbol),
+          model_text(row.fate),
           four_digits(row.momentum),
           four_digits(row.transverse_momentum),
           four_digits(row.radius_cm),
@@ -91,7 +92,7 @@ void RecordTree::showTracks(const std::vector<VisibleTrack>& tracks, TrackDetail
   begin(with_numbers ? QStringList{tr("Track"), tr("Code"), tr("Points")}
                      : QStringList{tr("Track")});
   for (const VisibleTrack& track : tracks) {
-    QStringList texts{utf8(track.color)};
+    QStringList texts{model_text(track.color)};
     if (with_numbers) {
       texts << QString::number(track.code) << QString::number(track.points.size());
     }

@@ -61,7 +61,7 @@ double distance(const Vector3& from, const Vector3& to) {
 std::vector<std::string> names_of(const std::vector<EventRow>& rows) {
   std::vector<std::string> names;
   for (const EventRow& row : rows) {
-    names.emplace_back(row.name);
+    names.push_back(std::string(row.name) + " " + std::string(row.symbol));
   }
   return names;
 }
@@ -151,9 +151,9 @@ TEST(EventRowsTest, TheRadiusIsThatOfTheCircleThroughThePoints) {
 
 TEST(EventRowsTest, ThereIsNoRadiusWithoutAChargeOrAField) {
   for (const EventRow& row : event_rows(made(lambda_type, usual, 1).record, usual)) {
-    const bool is_charged = row.name == "Proton p" || row.name == "Negative pion π⁻" ||
-                            row.name == "Negative muon μ⁻" || row.name == "Electron e⁻" ||
-                            row.name == "Positron e⁺";
+    const bool is_charged = row.name == "Proton" || row.name == "Negative pion" ||
+                            row.name == "Negative muon" || row.name == "Electron" ||
+                            row.name == "Positron";
     EXPECT_EQ(row.radius_cm.has_value(), is_charged) << row.name;
   }
   const ChamberValues no_field{.B_field = 0.0F, .sides_cm = 500.0F, .kinetic_Mev = 60.0F};

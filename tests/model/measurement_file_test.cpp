@@ -34,7 +34,7 @@ Measurement full_row() {
 MeasurementTable read_back(const MeasurementTable& rows) {
   auto result = decode_measurements(encode_measurements(rows));
   const auto* const error = std::get_if<TextError>(&result);
-  EXPECT_EQ(error, nullptr) << (error != nullptr ? error->reason : "");
+  EXPECT_EQ(error, nullptr) << (error != nullptr ? reason_with_values(*error) : "");
   return error != nullptr ? MeasurementTable() : std::get<MeasurementTable>(std::move(result));
 }
 
@@ -48,7 +48,7 @@ void expect_alike(const MeasurementTable& left, const MeasurementTable& right) {
 TextError error_of(const std::string& bytes) {
   const auto result = decode_measurements(bytes);
   const auto* const error = std::get_if<TextError>(&result);
-  return error != nullptr ? *error : TextError{0, "it was read"};
+  return error != nullptr ? *error : TextError{0, "it was read", {}};
 }
 
 }  // namespace
@@ -142,7 +142,7 @@ class DamagedMeasurementFileTest : public ::testing::TestWithParam<Damage> {};
 
 TEST_P(DamagedMeasurementFileTest, IsRefusedWithLineAndReason) {
   const auto& [name, text, line, reason] = GetParam();
-  EXPECT_EQ(error_of(text).reason, reason);
+  EXPECT_EQ(reason_with_values(error_of(text)), reason);
   EXPECT_EQ(error_of(text).line, line);
 }
 
@@ -229,7 +229,7 @@ TEST(CsvRecordsTest, LimitsHoldForFilesAndLines) {
   const auto refusal = [&](const std::string& text) {
     const auto result = read_csv(text, limits);
     const auto* const error = std::get_if<TextError>(&result);
-    return error != nullptr ? error->reason : std::string();
+    return error != nullptr ? reason_with_values(*error) : std::string();
   };
   EXPECT_EQ(refusal("a\nb\nc\n"), "");
   EXPECT_EQ(refusal("a\nb\nc\nd\n"), "there are too many lines");

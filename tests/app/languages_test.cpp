@@ -1,0 +1,286 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Every text of the windows in another language, and room for it.
+
+#include "app/languages.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QFile>
+#include <QLibraryInfo>
+#include <QMenuBar>
+#include <QSet>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+
+#include "app/desktop_dialogs.h"
+#include "app/event_documents.h"
+#include "printing/worksheets.h"
+#include "record/measurements_window.h"
+#include "record/record_window.h"
+#include "tests/support/documents/event_bytes.h"
+#include "tests/support/documents/modal.h"
+#include "tests/support/documents/pdf_page.h"
+#include "tests/support/windows/application_fixture.h"
+#include "tests/support/windows/pseudo_language.h"
+#include "tests/support/windows/shown_texts.h"
+#include "tests/support/windows/waiting.h"
+#include "track/track_window.h"
+
+namespace velquon::test {
+
+namespace {
+
+const QString pseudo = QStringLiteral("pseudo");
+
+/// Hears which texts of Qt itself are looked up and have no translation.
+class MissingOfQt : public QTranslator {
+ public:
+  explicit MissingOfQt(const QString& code)
+      : known_(of_qt_.load(QStringLiteral("qtbase_") + code,
+                           QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {}
+
+  [[nodiscard]] QString translate(const char* context, const char* source, const char* comment,
+                                  int count) const override {
+    const bool is_of_qt = context[0] == 'Q';
+    if (is_of_qt && of_qt_.translate(context, source, comment, count).isEmpty()) {
+      missing_ << QString::fromUtf8(source);
+    }
+    return {};
+  }
+  [[nodiscard]] bool isEmpty() const override { return false; }
+  [[nodiscard]] bool isKnown() const { return known_; }
+  [[nodiscard]] bool contains(const QString& text) const { return missing_.contains(text); }
+
+ private:
+  QTranslator of_qt_;
+  bool known_;
+  mutable QSet<QString> missing_;
+};
+
+/// The whole program in a language, with the dialogs of a desktop.
+class LanguagesTest : public ApplicationFixture, public ::testing::WithParamInterface<const char*> {
+ protected:
+  void SetUp() override {
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    const QString code = QLatin1String(GetParam());
+    if (code == pseudo) {
+      pseudo_language_ =
+          std::make_unique<PseudoLanguage>(QStringLiteral(TRANSLATIONS "/velquon_de.ts"));
+      QCoreApplication::installTranslator(pseudo_language_.get());
+    } else {
+      language_ = std::make_unique<ShownLanguage>(code);
+      missing_ = std::make_unique<MissingOfQt>(code);
+      QCoreApplication::installTranslator(missing_.get());
+      EXPECT_TRUE(missing_->isKnown());
+    }
+    ApplicationFixture::SetUp();
+  }
+  [[nodiscard]] UserDialogs& dialogs() override { return desktop_dialogs_; }
+  [[nodiscard]] bool isPseudo() const { return pseudo_language_ != nullptr; }
+
+  /// Expects the texts of a window to be translated and to have room.
+  void look(const QWidget& window, const std::string& state = {}) {
+    handle_waiting_events();
+    ++looks_;
+    for (const auto& [place, text] : texts_in(window)) {
+      EXPECT_TRUE(!isPseudo() || untranslated_part(text).isEmpty())
+          << state << ", " << place << ": " << text.toStdString();
+      EXPECT_FALSE(missing_ != nullptr && missing_->contains(text))
+          << state << ", " << place << ": " << text.toStdString();
+    }
+    for (const auto& [place, text] : cut_off_in(window)) {
+      ADD_FAILURE() << state << ", " << place << ": " << text.toStdString();
+    }
+  }
+
+  /// Runs what opens a dialog, looks at that and closes it.
+  void lookAtDialog(const char* dialog_class, const std::string& state,
+                    const std::function<void()>& open) {
+    EXPECT_TRUE(with_dialogs(open, {{dialog_class,
+                                     [&](QWidget& dialog) {
+                                       look(dialog, state);
+                                       dialog.close();
+                                     }}}))
+        << state;
+  }
+
+  void lookAtViews(const std::string& state) {
+    look(chamberWindow(), state);
+    look(projectorWindow(), state);
+  }
+
+  /// A row of every quantity, as the table holds it.
+  void measureEverything() {
+    MeasurementTable rows;
+    for (std::size_t quantity = 0; quantity < quantity_names.size(); ++quantity) {
+      for (const double value : {1.0, 2.5}) {
+        Measurement row;
+        row.event = "Untitled Type 1 Decay 3";
+        row.quantity = static_cast<Quantity>(quantity);
+        row.value = value;
+        row.ending = value > 2.0 ? Ending::left : Ending::decayed;
+        rows.push_back(row);
+      }
+    }
+    application().measurements().add(std::move(rows));
+  }
+
+  int looks_ = 0;
+
+ private:
+  DesktopDialogs desktop_dialogs_;
+  std::unique_ptr<PseudoLanguage> pseudo_language_;
+  std::unique_ptr<ShownLanguage> language_;
+  std::unique_ptr<MissingOfQt> missing_;
+};
+
+/// What is typed with Alt for a title; null without one.
+QChar mnemonic(const QString& title) {
+  const QKeySequence key = QKeySequence::mnemonic(title);
+  return key.isEmpty() ? QChar() : QChar(key[0].key());
+}
+
+void expect_own_mnemonics(const QList<QAction*>& titles_of_menu) {
+  QString taken;
+  for (const QAction* const action : titles_of_menu) {
+    if (!action->isSeparator()) {
+      const QChar key = mnemonic(action->text());
+      EXPECT_FALSE(key.isNull() || taken.contains(key)) << action->text().toStdString();
+      taken += key;
+    }
+    if (action->menu() != nullptr) {
+      expect_own_mnemonics(action->menu()->actions());
+    }
+  }
+}
+
+TEST_P(LanguagesTest, WindowsHaveEveryTextTranslatedAndRoomForIt) {
+  lookAtViews("at the start");
+  choose("lambda_item");
+  choose("new_event_item");
+  lookAtViews("with an event");
+  for (const char* const tool : {"grab_tool", "curve_tool", "angle_tool"}) {
+    clickButton(tool);
+    look(projectorWindow(), tool);
+  }
+  choose("event_record_item");
+  look(application().recordWindow(), "record");
+  application().recordWindow().findChild<QCheckBox*>(QStringLiteral("hide_answers_box"))->click();
+  look(application().recordWindow(), "answers hidden");
+  choose("activate_item");
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&application().trackWindow()));
+  look(application().trackWindow(), "track");
+  lookAtViews("while the track window is active");
+  choose("activate_item");
+  if (!isPseudo()) {
+    expect_own_mnemonics(chamberWindow().menuBar()->actions());
+  }
+  EXPECT_EQ(looks_, 11);
+}
+
+TEST_P(LanguagesTest, TheWindowOfMeasurementsHasEveryTextTranslatedAndRoomForIt) {
+  choose("measurements_item");
+  MeasurementsWindow& window = application().measurementsWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+  look(window, "empty");
+  application().recordReadings();
+  look(window, "nothing to record");
+  measureEverything();
+  for (int fit = 0; fit < 3; ++fit) {
+    window.findChild<QComboBox*>(QStringLiteral("fit_popup"))->setCurrentIndex(fit);
+    look(window, "fit " + std::to_string(fit));
+  }
+  const QAbstractItemModel& table = *window.table().model();
+  for (int row = 0; isPseudo() && row < table.rowCount(); ++row) {
+    for (int column = 0; column < table.columnCount(); ++column) {
+      const QString text = table.index(row, column).data().toString();
+      EXPECT_EQ(untranslated_part(text), QString()) << text.toStdString();
+    }
+  }
+  lookAtDialog("velquon::MakeEventsDialog", "make events",
+               [&] { window.findChild<QAction*>(QStringLiteral("make_events_item"))->trigger(); });
+  if (!isPseudo()) {
+    expect_own_mnemonics(window.menuBar()->actions());
+  }
+  application().measurements().setSaved();
+  EXPECT_EQ(looks_, 6);
+}
+
+TEST_P(LanguagesTest, DialogsHaveEveryTextTranslatedAndRoomForIt) {
+  choose("new_event_item");
+  for (const auto& [item_name, dialog_class] : {std::pair{"print_item", "velquon::PrintPanel"},
+                                                {"worksheets_item", "velquon::WorksheetPanel"},
+                                                {"open_item", "QFileDialog"},
+                                                {"import_item", "QFileDialog"},
+                                                {"save_item", "QFileDialog"},
+                                                {"export_points_item", "QFileDialog"},
+                                                {"export_record_item", "QFileDialog"},
+                                                {"about_item", "QMessageBox"}}) {
+    lookAtDialog(dialog_class, item_name, [&, name = item_name] { choose(name); });
+  }
+  const QTemporaryDir folder;
+  QFile file(folder.filePath(QStringLiteral("x.cwd")));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("x") == 1);
+  file.close();
+  lookAtDialog("QMessageBox", "wrong format",
+               [&] { application().documents().application_openFile(file.fileName()); });
+  lookAtDialog("QMessageBox", "unsaved", [&] {
+    measureEverything();
+    choose("quit_item");
+  });
+  application().measurements().setSaved();
+  EXPECT_EQ(looks_, 10);
+}
+
+TEST_P(LanguagesTest, PagesOfWorksheetsAreTranslated) {
+  if (!isPseudo()) {
+    return;
+  }
+  const WorksheetOrder order{.type = &event_types()[5], .values = {}, .seed = 3, .events = 4};
+  const auto documents = make_worksheets(order, [](int) { return true; });
+  const QTemporaryDir folder;
+  for (const QByteArray& document : {documents->sheets, documents->answers}) {
+    QFile file(folder.filePath(QStringLiteral("pages.pdf")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(document) == document.size());
+    file.close();
+    QString text;
+    for (const PaperWord& word : words_of_pdf(file.fileName())) {
+      text += word.text + QLatin1Char(' ');
+    }
+    EXPECT_GT(text.count(QChar(u'«')), 15);
+    EXPECT_EQ(untranslated_part(text), QString());
+    EXPECT_FALSE(untranslated_part(title_of_pdf(file.fileName())).contains(QLatin1Char('W')));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, LanguagesTest, ::testing::Values("pseudo", "de", "es", "fr", "it"));
+
+TEST(LanguageChoice, IsTheFirstOneThatThereIs) {
+  struct Case {
+    const char* preferred;
+    const char* chosen;
+  };
+  for (const auto& [preferred, chosen] : {Case{"de-AT de", "de"},
+                                          {"pl-PL pl fr-FR", "fr"},
+                                          {"en-GB de", "en"},
+                                          {"it", "it"},
+                                          {"es_419", "es"},
+                                          {"pl", "en"},
+                                          {"C", "en"},
+                                          {"", "en"},
+                                          {"deu", "en"}}) {
+    EXPECT_EQ(language_for(QString::fromLatin1(preferred).split(QLatin1Char(' '))).toStdString(),
+              chosen)
+        << preferred;
+  }
+}
+
+}  // namespace
+
+}  // namespace velquon::test
