@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QOpenGLContext>
+#include <QPointer>
 #include <algorithm>
 
 #include "app/chamber_commands.h"
@@ -17,6 +18,7 @@
 #include "app/menus.h"
 #include "app/picture_commands.h"
 #include "app/picture_files.h"
+#include "app/presentations.h"
 #include "app/readable_style.h"
 #include "app/track_commands.h"
 #include "app/worksheet_commands.h"
@@ -51,6 +53,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
                                                *projector_window_->view(), dialogs)),
       measurement_files_(std::make_unique<MeasurementFiles>(measurements_, dialogs)),
       dialogs_(dialogs),
+      presentations_(std::make_unique<Presentations>()),
       commands_(std::make_unique<Commands>()) {
   make_style_readable();
   const Ui::Menus& items = menus_->items();
@@ -67,6 +70,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   add_chamber_commands(*commands_, items, *controller_, *chamber_window_->view());
   addTrackCommands();
   addWindowCommands();
+  addPresentation();
   addHelpCommands();
   controller_->awakeFromNib();
   numbering_ = std::make_unique<EventNumbering>(model_);
@@ -76,6 +80,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
 Application::~Application() {
   // Before what it tells of: windows that go change the state of what they showed.
   commands_.reset();
+  presentations_.reset();
   record_window_.reset();
   measurements_window_.reset();
 }
@@ -112,6 +117,9 @@ TrackWindow& Application::trackWindow() {
     track_window_->tellStatusIn(*chamber_window_);
     track_window_->tellStatusIn(*projector_window_);
     track_window_->awakeFromNib();
+    presentations_->add({.window = track_window_.get(),
+                         .area = track_window_->panel().track_area(),
+                         .readings = [this] { return track_window_->panel().shownReadings(); }});
   }
   return *track_window_;
 }
@@ -230,6 +238,31 @@ void Application::addWindowCommands() {
        {.item = items.event_record_item, .run = [this] { recordWindow().makeKeyAndOrderFront(); }},
        {.item = items.measurements_item,
         .run = [this] { measurementsWindow().makeKeyAndOrderFront(); }}});
+}
+
+void Application::addPresentation() {
+  commands_->add({.item = menus_->items().presentation_item,
+                  .run = [this] { presentations_->toggle(); },
+                  .is_checked = [this] { return presentations_->isOn(); }});
+  connect(presentations_.get(), &Presentations::changed, commands_.get(), &Commands::refresh);
+  presentations_->add({.window = chamber_window_.get(),
+                       .area = chamber_window_->area(),
+                       .readings = [] { return QString(); }});
+  // A line each, as the panel is narrow.
+  presentations_->add({.window = projector_window_.get(),
+                       .area = projector_window_->area(),
+                       .readings = [this] {
+                         QString readings = projector_window_->shownReadings();
+                         return readings.replace(QStringLiteral("   "), QStringLiteral("\n"));
+                       }});
+  const auto refresh = [presentations = QPointer(presentations_.get())] {
+    if (presentations != nullptr) {
+      presentations->refresh();
+    }
+  };
+  for (Listeners* const changes : {&model_.changed, &projector_.changed, &track_model_.changed}) {
+    changes->add(refresh);
+  }
 }
 
 void Application::addHelpCommands() {

@@ -27,6 +27,7 @@ class MeasurementFiles;
 class MeasurementsWindow;
 class Menus;
 class PictureFiles;
+class Presentations;
 class ProjectorWindow;
 class RecordWindow;
 class ScreenRoom;
@@ -77,6 +78,7 @@ class Application : public QObject {
   void addTrackCommands();
   void addFileCommands();
   void addWindowCommands();
+  void addPresentation();
   void addHelpCommands();
   void showGuide();
   /// Ends the program, unless the user wants to keep measurements that are not saved.
@@ -101,6 +103,7 @@ class Application : public QObject {
   std::unique_ptr<EventNumbering> numbering_;
   std::unique_ptr<MeasurementFiles> measurement_files_;
   UserDialogs& dialogs_;
+  std::unique_ptr<Presentations> presentations_;
   std::unique_ptr<Commands> commands_;
 };
 

@@ -71,7 +71,7 @@ std::optional<QImage> ChamberView::picture(double scale, bool values) const {
 
 void ChamberView::drawRect() {
   const QPointF origin = visibleRect().topLeft();
-  scene_.draw(camera_.scrolled(origin.x(), origin.y()), devicePixelRatioF(),
+  scene_.draw(camera_.scrolled(origin.x(), origin.y()), pixelRatio(),
               static_cast<std::size_t>(point_number_), sceneOptions());
 }
 

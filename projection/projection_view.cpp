@@ -73,7 +73,7 @@ void ProjectionView::paint(QPainter& page) {
 }
 
 double ProjectionView::pictureHeight() const {
-  return std::max<double>(projection_height, height());
+  return std::max<double>(projection_height, visibleRect().height());
 }
 
 void ProjectionView::makeDisplayPoints() {
@@ -81,8 +81,7 @@ void ProjectionView::makeDisplayPoints() {
 }
 
 void ProjectionView::drawRect() {
-  scene_.draw(visibleRect(), devicePixelRatioF(), projector_,
-              {.marked = marked_, .cross = &cross_});
+  scene_.draw(visibleRect(), pixelRatio(), projector_, {.marked = marked_, .cross = &cross_});
 }
 
 void ProjectionView::reshape() {
