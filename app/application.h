@@ -26,6 +26,8 @@ class HelpCommands;
 class MeasurementFiles;
 class MeasurementsWindow;
 class Menus;
+class PictureFiles;
+class Presentations;
 class ProjectorWindow;
 class RecordWindow;
 class ScreenRoom;
@@ -76,6 +78,7 @@ class Application : public QObject {
   void addTrackCommands();
   void addFileCommands();
   void addWindowCommands();
+  void addPresentation();
   /// Ends the program, unless the user wants to keep measurements that are not saved.
   void quit();
 
@@ -93,10 +96,12 @@ class Application : public QObject {
   std::unique_ptr<ChamberController> controller_;
   std::unique_ptr<EventDocuments> documents_;
   std::unique_ptr<EventExports> exports_;
+  std::unique_ptr<PictureFiles> pictures_;
   std::unique_ptr<EventNumbering> numbering_;
   std::unique_ptr<MeasurementFiles> measurement_files_;
   std::unique_ptr<HelpCommands> help_;
   UserDialogs& dialogs_;
+  std::unique_ptr<Presentations> presentations_;
   std::unique_ptr<Commands> commands_;
 };
 

@@ -7,6 +7,7 @@
 
 #include <utility>
 
+#include "chamber/chamber_picture.h"
 #include "chamber/input_watch.h"
 #include "printing/chamber_page.h"
 
@@ -59,6 +60,13 @@ void ChamberView::set_slomo(bool slow) {
 
 void ChamberView::paint(QPainter& page) {
   paint_chamber(page, data_ptr(), camera_, show_axes());
+}
+
+std::optional<QImage> ChamberView::picture(double scale, bool values) const {
+  SceneOptions options = sceneOptions();
+  options.values = values && has_event() ? values_text() : std::string();
+  const auto shown = data_ptr().first(static_cast<std::size_t>(point_number_));
+  return chamber_picture(shown, camera_, scale, options);
 }
 
 void ChamberView::drawRect() {

@@ -4,9 +4,12 @@
 #pragma once
 
 #include <QCursor>
+#include <QImage>
 #include <QPointF>
+#include <QSize>
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -53,11 +56,19 @@ class ProjectionView : public GLView, public Printable {
   [[nodiscard]] double scaler() const { return projector_.scaler(); }
   /// Distance between the tape's ends, cm of the chamber.
   [[nodiscard]] double tapeLength() const { return projector_.tapeLength(); }
+  [[nodiscard]] const Projector& projector() const { return projector_; }
   [[nodiscard]] ProjectionMapping mapping() const { return projector_.mapping(); }
   [[nodiscard]] ProjectionPlane projection_plane() const { return projector_.plane(); }
   [[nodiscard]] bool tape_visible() const { return projector_.tape().visible; }
   /// The cross that keys move.
   [[nodiscard]] const KeyCross& cross() const { return cross_; }
+
+  /// Size of the whole picture, of which a small window shows a part, view units.
+  [[nodiscard]] QSize pictureSize() const;
+  /// The whole picture as it is on the screen, without the cross, drawn for a size of its own.
+  /// \param scale pixels per view unit
+  /// \return nothing when the graphics driver makes no picture of that size
+  [[nodiscard]] std::optional<QImage> picture(double scale) const;
 
   void paint(QPainter& page) override;
 
