@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QOpenGLContext>
+#include <QPointer>
 #include <algorithm>
 
 #include "app/chamber_commands.h"
@@ -13,8 +14,11 @@
 #include "app/commands.h"
 #include "app/event_documents.h"
 #include "app/event_exports.h"
-#include "app/guide_window.h"
+#include "app/help_commands.h"
 #include "app/menus.h"
+#include "app/picture_commands.h"
+#include "app/picture_files.h"
+#include "app/presentations.h"
 #include "app/readable_style.h"
 #include "app/track_commands.h"
 #include "app/worksheet_commands.h"
@@ -45,8 +49,12 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
                                                       dialogs)),
       documents_(std::make_unique<EventDocuments>(*controller_, dialogs)),
       exports_(std::make_unique<EventExports>(model_, dialogs)),
+      pictures_(std::make_unique<PictureFiles>(*controller_, *chamber_window_->view(),
+                                               *projector_window_->view(), dialogs)),
       measurement_files_(std::make_unique<MeasurementFiles>(measurements_, dialogs)),
+      help_(std::make_unique<HelpCommands>(*menus_)),
       dialogs_(dialogs),
+      presentations_(std::make_unique<Presentations>()),
       commands_(std::make_unique<Commands>()) {
   make_style_readable();
   const Ui::Menus& items = menus_->items();
@@ -58,11 +66,13 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   connect(projector_window_.get(), &ProjectorWindow::recordAsked, this,
           &Application::recordReadings);
   addFileCommands();
+  add_picture_commands(*commands_, items, *pictures_, [this] { return numbering_->nameOfShown(); });
   add_worksheet_command(*commands_, items, model_, dialogs);
   add_chamber_commands(*commands_, items, *controller_, *chamber_window_->view());
   addTrackCommands();
   addWindowCommands();
-  addHelpCommands();
+  addPresentation();
+  help_->addTo(*commands_);
   controller_->awakeFromNib();
   numbering_ = std::make_unique<EventNumbering>(model_);
   commands_->refresh();
@@ -71,6 +81,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
 Application::~Application() {
   // Before what it tells of: windows that go change the state of what they showed.
   commands_.reset();
+  presentations_.reset();
   record_window_.reset();
   measurements_window_.reset();
 }
@@ -107,6 +118,9 @@ TrackWindow& Application::trackWindow() {
     track_window_->tellStatusIn(*chamber_window_);
     track_window_->tellStatusIn(*projector_window_);
     track_window_->awakeFromNib();
+    presentations_->add({.window = track_window_.get(),
+                         .area = track_window_->panel().track_area(),
+                         .readings = [this] { return track_window_->panel().shownReadings(); }});
   }
   return *track_window_;
 }
@@ -227,20 +241,29 @@ void Application::addWindowCommands() {
         .run = [this] { measurementsWindow().makeKeyAndOrderFront(); }}});
 }
 
-void Application::addHelpCommands() {
-  const Ui::Menus& items = menus_->items();
-  commands_->add(
-      {{.item = items.guide_item, .run = [this] { showGuide(); }},
-       {.item = items.about_item, .run = [] { show_about(QApplication::activeWindow()); }}});
-}
-
-void Application::showGuide() {
-  if (!guide_window_) {
-    guide_window_ = std::make_unique<GuideWindow>();
+void Application::addPresentation() {
+  commands_->add({.item = menus_->items().presentation_item,
+                  .run = [this] { presentations_->toggle(); },
+                  .is_checked = [this] { return presentations_->isOn(); }});
+  connect(presentations_.get(), &Presentations::changed, commands_.get(), &Commands::refresh);
+  presentations_->add({.window = chamber_window_.get(),
+                       .area = chamber_window_->area(),
+                       .readings = [] { return QString(); }});
+  // A line each, as the panel is narrow.
+  presentations_->add({.window = projector_window_.get(),
+                       .area = projector_window_->area(),
+                       .readings = [this] {
+                         QString readings = projector_window_->shownReadings();
+                         return readings.replace(QStringLiteral("   "), QStringLiteral("\n"));
+                       }});
+  const auto refresh = [presentations = QPointer(presentations_.get())] {
+    if (presentations != nullptr) {
+      presentations->refresh();
+    }
+  };
+  for (Listeners* const changes : {&model_.changed, &projector_.changed, &track_model_.changed}) {
+    changes->add(refresh);
   }
-  guide_window_->show();
-  guide_window_->raise();
-  guide_window_->activateWindow();
 }
 
 }  // namespace velquon

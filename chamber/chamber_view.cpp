@@ -7,6 +7,7 @@
 
 #include <utility>
 
+#include "chamber/chamber_picture.h"
 #include "chamber/input_watch.h"
 #include "printing/chamber_page.h"
 
@@ -61,9 +62,16 @@ void ChamberView::paint(QPainter& page) {
   paint_chamber(page, data_ptr(), camera_, show_axes());
 }
 
+std::optional<QImage> ChamberView::picture(double scale, bool values) const {
+  SceneOptions options = sceneOptions();
+  options.values = values && has_event() ? values_text() : std::string();
+  const auto shown = data_ptr().first(static_cast<std::size_t>(point_number_));
+  return chamber_picture(shown, camera_, scale, options);
+}
+
 void ChamberView::drawRect() {
   const QPointF origin = visibleRect().topLeft();
-  scene_.draw(camera_.scrolled(origin.x(), origin.y()), devicePixelRatioF(),
+  scene_.draw(camera_.scrolled(origin.x(), origin.y()), pixelRatio(),
               static_cast<std::size_t>(point_number_), sceneOptions());
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -22,6 +23,14 @@ struct PlotPoint {
 
   friend bool operator==(const PlotPoint&, const PlotPoint&) = default;
 };
+
+/// Row of the colour table in which a track code is drawn: the rows are those of the codes 3 to 7, and
+/// all other codes share the last one.
+[[nodiscard]] constexpr std::size_t track_color_row(std::int16_t code) {
+  constexpr std::int16_t first = 3;
+  constexpr std::int16_t last = 7;
+  return static_cast<std::size_t>((code >= first && code <= last ? code : last) - first);
+}
 
 /// A list of points of fixed capacity that tracks are laid into one behind the other.
 class TrackBuffer {

@@ -55,18 +55,15 @@ EventRow row_of(const RecordedParticle& particle, const ChamberValues& values) {
   return row;
 }
 
+}  // namespace
+
 std::string_view color_name(std::int16_t code) {
   constexpr std::array<std::string_view, 5> names{
       MODEL_TEXT("velquon::Model", "Red"), MODEL_TEXT("velquon::Model", "Yellow"),
       MODEL_TEXT("velquon::Model", "Green"), MODEL_TEXT("velquon::Model", "Blue"),
       MODEL_TEXT("velquon::Model", "Light blue")};
-  const int index = code - 3;
-  return index >= 0 && index < static_cast<int>(names.size())
-             ? names[static_cast<std::size_t>(index)]
-             : names.back();
+  return names[track_color_row(code)];
 }
-
-}  // namespace
 
 std::optional<bool> is_charged(int pdg) {
   const ParticleKind* const kind = find_particle_kind(pdg);

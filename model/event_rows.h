@@ -38,6 +38,9 @@ struct EventRow {
 [[nodiscard]] std::vector<EventRow> event_rows(const ParticleRecord& record,
                                                const ChamberValues& values);
 
+/// The colour in which a track code is drawn, in words: "Red", "Yellow" and so on.
+[[nodiscard]] std::string_view color_name(std::int16_t code);
+
 /// What is seen of an event: the points of one track code.
 struct VisibleTrack {
   std::int16_t code = 0;

@@ -4,9 +4,12 @@
 #pragma once
 
 #include <QCursor>
+#include <QImage>
 #include <QPointF>
+#include <QSize>
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -14,6 +17,7 @@
 #include "model/projector.h"
 #include "model/shown_event.h"
 #include "printing/page.h"
+#include "projection/projection_scene.h"
 #include "widgets/gl_view.h"
 
 namespace velquon {
@@ -52,11 +56,19 @@ class ProjectionView : public GLView, public Printable {
   [[nodiscard]] double scaler() const { return projector_.scaler(); }
   /// Distance between the tape's ends, cm of the chamber.
   [[nodiscard]] double tapeLength() const { return projector_.tapeLength(); }
+  [[nodiscard]] const Projector& projector() const { return projector_; }
   [[nodiscard]] ProjectionMapping mapping() const { return projector_.mapping(); }
   [[nodiscard]] ProjectionPlane projection_plane() const { return projector_.plane(); }
   [[nodiscard]] bool tape_visible() const { return projector_.tape().visible; }
   /// The cross that keys move.
   [[nodiscard]] const KeyCross& cross() const { return cross_; }
+
+  /// Size of the whole picture, of which a small window shows a part, view units.
+  [[nodiscard]] QSize pictureSize() const;
+  /// The whole picture as it is on the screen, without the cross, drawn for a size of its own.
+  /// \param scale pixels per view unit
+  /// \return nothing when the graphics driver makes no picture of that size
+  [[nodiscard]] std::optional<QImage> picture(double scale) const;
 
   void paint(QPainter& page) override;
 
@@ -74,8 +86,6 @@ class ProjectionView : public GLView, public Printable {
   /// Height of the picture, which hangs from its top.
   [[nodiscard]] double pictureHeight() const;
   void makeDisplayPoints();
-  void drawTracks();
-  void drawSquare(std::size_t point, double half_side) const;
   /// What keys can reach: the part of the view that is seen.
   [[nodiscard]] KeyField keyField() const;
   /// \return whether the key is one that moves the cross
@@ -90,7 +100,7 @@ class ProjectionView : public GLView, public Printable {
   KeyCross cross_;
   QPointF mouse_;  ///< where on the screen it was seen last
   std::shared_ptr<const ShownEvent> event_ = std::make_shared<const ShownEvent>();
-  std::vector<Place> display_points_;
+  ProjectionScene scene_;
   std::vector<std::size_t> marked_;
   QCursor cross_hair_cursor_;
   QCursor grabber_cursor_;

@@ -90,6 +90,11 @@ ViewScrollArea* ProjectorWindow::area() const {
   return ui_->projector_area;
 }
 
+QString ProjectorWindow::shownReadings() const {
+  return ui_->readings_text->text().isEmpty() ? ui_->tape_text->text()
+                                              : ui_->readings_text->text();
+}
+
 void ProjectorWindow::connectButtons() {
   connect_choices(view_, &ProjectionView::setProjection,
                   {{ui_->xy_button, ProjectionPlane::xy},

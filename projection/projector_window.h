@@ -31,6 +31,8 @@ class ProjectorWindow : public GLPanel {
 
   [[nodiscard]] ProjectionView* view() const { return view_; }
   [[nodiscard]] ViewScrollArea* area() const;
+  /// What the window says that the chosen tool reads.
+  [[nodiscard]] QString shownReadings() const;
 
  Q_SIGNALS:
   /// What the chosen tool reads is to be put into the list of measurements.

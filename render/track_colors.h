@@ -7,6 +7,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "engine/event_record.h"
+
 namespace velquon {
 
 /// Red, green and blue, 0 to 1.
@@ -23,9 +25,7 @@ inline constexpr std::array<Color, 5> track_colors{{
 
 /// Colour of a track code; codes outside 3 to 7 share the last one.
 [[nodiscard]] constexpr const Color& track_color(std::int16_t code) {
-  const int row = code - 3;
-  const bool in_table = row >= 0 && row < static_cast<int>(track_colors.size());
-  return in_table ? track_colors[static_cast<std::size_t>(row)] : track_colors.back();
+  return track_colors[track_color_row(code)];
 }
 
 }  // namespace velquon

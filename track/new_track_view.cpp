@@ -195,7 +195,7 @@ void NewTrackView::reshape() {
 
 void NewTrackView::drawRect() {
   const QRectF seen = visibleRect();
-  const double ratio = devicePixelRatioF();
+  const double ratio = pixelRatio();
   glMatrixMode(GL_PROJECTION);
   glLoadIdentity();
   glClearColor(0.0F, 0.0F, 0.0F, 0.0F);

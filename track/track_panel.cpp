@@ -9,6 +9,7 @@
 #include "track/new_track_view.h"
 #include "ui_track_panel.h"
 #include "widgets/number_text.h"
+#include "widgets/view_scroll_area.h"
 
 namespace velquon {
 
@@ -46,19 +47,23 @@ void make_stand_for(QAbstractButton* button, QAction* item, QWidget* keys_meanwh
 TrackPanel::TrackPanel(TrackModel& model, QWidget* parent)
     : QWidget(parent), model_(model), ui_(std::make_unique<Ui::track_panel>()) {
   ui_->setupUi(this);
-  NewTrackView* view = ui_->track_view;
-  view->setModel(model);
-  view->awakeFromNib();
-  connect(ui_->vSlider, &ValueSlider::moved, view,
-          [this] { track_view()->setMagField(vSlider()); });
+  view_ = new NewTrackView(ui_->track_area->viewport());
+  view_->setObjectName(QStringLiteral("track_view"));
+  view_->setAccessibleName(tr("Track"));
+  view_->setAccessibleDescription(tr("The particle's track. Drag with the mouse to measure it."));
+  view_->setModel(model);
+  view_->awakeFromNib();
+  ui_->track_area->setAccessibleName(tr("Part of the track that is seen"));
+  ui_->track_area->setView(view_, {track_area_width, track_area_height});
+  connect(ui_->vSlider, &ValueSlider::moved, view_, [this] { view_->setMagField(vSlider()); });
   model_.changed.add([this] { showModel(); });
 }
 
 TrackPanel::~TrackPanel() = default;
 
 void TrackPanel::setItems(QAction* inject_item, QAction* clear_item) {
-  make_stand_for(ui_->inject_button, inject_item, ui_->track_view);
-  make_stand_for(ui_->clear_button, clear_item, ui_->track_view);
+  make_stand_for(ui_->inject_button, inject_item, view_);
+  make_stand_for(ui_->clear_button, clear_item, view_);
 }
 
 void TrackPanel::showModel() {
@@ -69,8 +74,12 @@ void TrackPanel::showModel() {
                                  : QString());
 }
 
-NewTrackView* TrackPanel::track_view() const {
-  return ui_->track_view;
+ViewScrollArea* TrackPanel::track_area() const {
+  return ui_->track_area;
+}
+
+QString TrackPanel::shownReadings() const {
+  return QStringList{ui_->field_text->text(), ui_->tape_box->text()}.join(u'\n');
 }
 
 ValueSlider* TrackPanel::vSlider() const {

@@ -19,6 +19,7 @@ namespace velquon {
 class NewTrackView;
 class TrackModel;
 class ValueSlider;
+class ViewScrollArea;
 
 /// What the track window holds: the view, the field slider with its value, the tape's reading and
 /// two buttons.
@@ -33,7 +34,10 @@ class TrackPanel : public QWidget {
   /// Makes each of the two buttons stand for a menu item: do what it does while it is enabled.
   void setItems(QAction* inject_item, QAction* clear_item);
 
-  [[nodiscard]] NewTrackView* track_view() const;
+  [[nodiscard]] NewTrackView* track_view() const { return view_; }
+  [[nodiscard]] ViewScrollArea* track_area() const;
+  /// Field and tape as the window shows them, a line each.
+  [[nodiscard]] QString shownReadings() const;
   [[nodiscard]] ValueSlider* vSlider() const;
   [[nodiscard]] QLabel* field_text() const;
   [[nodiscard]] QLabel* tape_box() const;
@@ -45,6 +49,7 @@ class TrackPanel : public QWidget {
 
   TrackModel& model_;
   std::unique_ptr<Ui::track_panel> ui_;
+  NewTrackView* view_ = nullptr;
 };
 
 }  // namespace velquon

@@ -4,6 +4,7 @@
 #include "track/track_status.h"
 
 #include <QAccessible>
+#include <QEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QMainWindow>
@@ -25,6 +26,7 @@ TrackStatus::TrackStatus(QMainWindow& window)
   addWidget(text_, 1);
   hide();
   window.setStatusBar(this);
+  window.installEventFilter(this);
 }
 
 void TrackStatus::setActive(bool active) {
@@ -35,15 +37,32 @@ void TrackStatus::setActive(bool active) {
   // larger again.
   QLayout& layout = *window_.layout();
   layout.setEnabled(false);
-  if (!window_.isMaximized() && !window_.isFullScreen()) {
-    const int room = sizeHint().height();
-    window_.resize(window_.width(), window_.height() + (active ? room : -room));
-  }
   setVisible(active);
+  settleHeight();
   layout.setEnabled(true);
   layout.activate();
   if (active) {
     tellScreenReaders();
+  }
+}
+
+bool TrackStatus::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Resize && needsOtherHeight()) {
+    // When the window has the size that it comes back to from the whole screen.
+    QMetaObject::invokeMethod(this, &TrackStatus::settleHeight, Qt::QueuedConnection);
+  }
+  return QStatusBar::eventFilter(watched, event);
+}
+
+bool TrackStatus::needsOtherHeight() const {
+  return has_room_ == isHidden() && !window_.isMaximized() && !window_.isFullScreen();
+}
+
+void TrackStatus::settleHeight() {
+  if (needsOtherHeight()) {
+    has_room_ = !isHidden();
+    const int room = sizeHint().height();
+    window_.resize(window_.width(), window_.height() + (has_room_ ? room : -room));
   }
 }
 

@@ -19,14 +19,19 @@ class TrackStatus : public QStatusBar {
   explicit TrackStatus(QMainWindow& window);
 
   /// Shows or hides the line. The window is taller by it meanwhile, so that its view keeps its size
-  /// and place; one that fills the screen makes room for it.
+  /// and place; one that fills the screen makes room for it, and is taller when it no longer does.
   void setActive(bool active);
 
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
+  [[nodiscard]] bool needsOtherHeight() const;
+  void settleHeight();
   void tellScreenReaders();
 
   QMainWindow& window_;
   QLabel* text_;
+  bool has_room_ = false;  ///< the window has been made taller by the line
 };
 
 }  // namespace velquon

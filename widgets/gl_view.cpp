@@ -64,8 +64,19 @@ void GLView::drawAndPresentSoon() {
   }
 }
 
+void GLView::place(const QRect& rect, double magnification) {
+  const bool same_pixels = rect.size() == size();
+  const bool other_units = magnification != magnification_;
+  magnification_ = magnification;
+  setGeometry(rect);
+  if (other_units && same_pixels && makeContextCurrent()) {
+    resizeGL(width(), height());
+    update();
+  }
+}
+
 QRectF GLView::visibleRect() const {
-  return {visible_origin_, QSizeF(size())};
+  return {visible_origin_, QSizeF(size()) / magnification_};
 }
 
 bool GLView::makeContextCurrent() {
@@ -78,7 +89,7 @@ bool GLView::makeContextCurrent() {
 
 QPointF GLView::locationOf(const QMouseEvent& event) const {
   const QPointF place = event.position();
-  return visible_origin_ + QPointF(place.x(), height() - place.y());
+  return visible_origin_ + QPointF(place.x(), height() - place.y()) / magnification_;
 }
 
 void GLView::initializeGL() {

@@ -14,8 +14,8 @@ class QMouseEvent;
 namespace velquon {
 
 /// An OpenGL view whose picture stays on the screen until it is drawn again, and which can be drawn
-/// at once even while the program does not return to its event loop. View coordinates are widget
-/// pixels with the origin at the lower left.
+/// at once even while the program does not return to its event loop. View coordinates have their
+/// origin at the lower left; their unit is a widget pixel unless the picture is magnified.
 class GLView : public QOpenGLWidget {
   Q_OBJECT
 
@@ -34,7 +34,15 @@ class GLView : public QOpenGLWidget {
   /// just now, as soon as the screen can show another picture.
   void drawAndPresentSoon();
 
-  /// The part of the view's document that can be seen; the origin is 0, 0 unless it is scrolled.
+  /// Gives the view its place in its parent, and the size that it draws its picture at: everything in
+  /// proportion, with its lines, points and texts.
+  /// \param magnification widget pixels to a view unit, above 0
+  void place(const QRect& rect, double magnification);
+  /// Widget pixels to a view unit; 1 at first.
+  [[nodiscard]] double magnification() const { return magnification_; }
+
+  /// The part of the view's document that can be seen, in view units; the origin is 0, 0 unless it
+  /// is scrolled.
   [[nodiscard]] QRectF visibleRect() const;
   /// Set by the scrolling area.
   void setVisibleOrigin(QPointF origin) { visible_origin_ = origin; }
@@ -45,12 +53,16 @@ class GLView : public QOpenGLWidget {
  protected:
   /// One drawing pass; the context is current.
   virtual void drawRect() = 0;
-  /// The view has another size; the context is current. A drawing pass follows.
+  /// The view has another size, in pixels or in view units; the context is current. A drawing pass
+  /// follows.
   virtual void reshape() {}
 
   /// Makes the context current for a change of its state outside a drawing pass.
   /// \return false while the view has no context yet
   bool makeContextCurrent();
+
+  /// Device pixels to a view unit.
+  [[nodiscard]] double pixelRatio() const { return devicePixelRatioF() * magnification_; }
 
   /// The place of a mouse event in view coordinates.
   [[nodiscard]] QPointF locationOf(const QMouseEvent& event) const;
@@ -66,6 +78,7 @@ class GLView : public QOpenGLWidget {
   [[nodiscard]] double secondsToNextFrame() const;
 
   QPointF visible_origin_;
+  double magnification_ = 1.0;
   QElapsedTimer since_presented_;
   int passes_ = 0;
   bool stale_ = true;

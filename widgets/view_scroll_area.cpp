@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "widgets/gl_view.h"
+#include "widgets/presented_places.h"
 
 namespace velquon {
 
@@ -21,6 +22,10 @@ constexpr int rounding = 2;
 ViewScrollArea::ViewScrollArea(QWidget* parent) : QAbstractScrollArea(parent) {
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::NoFocus);
+  QPalette around_picture = viewport()->palette();
+  around_picture.setColor(viewport()->backgroundRole(), Qt::black);
+  viewport()->setPalette(around_picture);
+  viewport()->setAutoFillBackground(false);
 }
 
 void ViewScrollArea::setView(GLView* view, QSize document) {
@@ -34,6 +39,23 @@ void ViewScrollArea::scrollPoint(QPointF point) {
   lower_left_ = point;
   placeView();
   view_->display();
+}
+
+void ViewScrollArea::present(QWidget* panel) {
+  if (panel != nullptr && panel_ == nullptr && !lower_left_) {
+    // A screen that shows all has no place in its bars for what was scrolled to.
+    lower_left_ = view_->visibleRect().topLeft();
+  }
+  if (panel_ != nullptr) {
+    panel_->hide();
+  }
+  panel_ = panel;
+  viewport()->setAutoFillBackground(panel != nullptr);
+  if (panel != nullptr) {
+    panel->setParent(viewport());
+    panel->show();
+  }
+  placeView();
 }
 
 QSize ViewScrollArea::sizeHint() const {
@@ -54,8 +76,22 @@ void ViewScrollArea::scrollContentsBy(int /*dx*/, int /*dy*/) {
   view_->display();
 }
 
+void ViewScrollArea::placePresented() {
+  showBars(false);
+  horizontalScrollBar()->setRange(0, 0);
+  verticalScrollBar()->setRange(0, 0);
+  const auto places = presented_places(maximumViewportSize(), document_);
+  view_->setVisibleOrigin({0.0, 0.0});
+  view_->place(places.picture, places.magnification);
+  panel_->setGeometry(places.panel);
+}
+
 void ViewScrollArea::placeView() {
   const QScopedValueRollback placing(placing_, true);
+  if (panel_ != nullptr) {
+    placePresented();
+    return;
+  }
   // A scroll bar that is there takes room that the whole document may not need once it is gone.
   const QSize without_bars = maximumViewportSize();
   const QSize short_of = document_ - without_bars;
@@ -71,7 +107,7 @@ void ViewScrollArea::placeView() {
   view_->setVisibleOrigin(
       {static_cast<qreal>(horizontalScrollBar()->value()),
        static_cast<qreal>(std::max(hidden.height() - verticalScrollBar()->value(), 0))});
-  view_->setGeometry(viewport()->rect());
+  view_->place(viewport()->rect(), 1.0);
 }
 
 void ViewScrollArea::goToPoint() {

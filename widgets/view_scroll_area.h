@@ -27,6 +27,13 @@ class ViewScrollArea : public QAbstractScrollArea {
   /// document reaches. It stays there whatever size the area gets, until somebody scrolls.
   void scrollPoint(QPointF point);
 
+  /// Shows the whole document as large as there is room for, on black, with a panel beside it. What
+  /// was scrolled to is there again afterwards.
+  /// \param panel becomes a child of this area's viewport; null to end the presentation, which
+  ///              hides the panel
+  void present(QWidget* panel);
+  [[nodiscard]] GLView* view() const { return view_; }
+
   [[nodiscard]] QSize sizeHint() const override;
 
  protected:
@@ -35,11 +42,13 @@ class ViewScrollArea : public QAbstractScrollArea {
 
  private:
   void placeView();
+  void placePresented();
   void showBars(bool needed);
   void goToPoint();
 
   GLView* view_ = nullptr;
   QSize document_;
+  QWidget* panel_ = nullptr;  ///< there while the view is presented
   std::optional<QPointF> lower_left_;  ///< where it was scrolled to, until somebody scrolls
   bool placing_ = false;               ///< while the bars move by no one's hand
 };

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QMouseEvent>
 #include <QTest>
 
 #include "tests/support/windows/pictures.h"
@@ -27,8 +28,18 @@ class OneColorView : public GLView {
   QRgb color = blue;
   int drawing_milliseconds = 0;
   int ratio = 1;
+  int reshapes = 0;
+
+  using GLView::pixelRatio;
+
+  /// Where a mouse at a place in the widget is.
+  [[nodiscard]] QPointF locationOfMouseAt(QPointF place) const {
+    return locationOf(QMouseEvent(QEvent::MouseMove, place, mapToGlobal(place), Qt::NoButton,
+                                  Qt::NoButton, Qt::NoModifier));
+  }
 
  protected:
+  void reshape() override { ++reshapes; }
   void drawRect() override {
     QTest::qSleep(drawing_milliseconds);
     glClearColor(static_cast<float>(qRed(color)) / 255.0F,
@@ -107,6 +118,28 @@ TEST_F(GLViewTest, ANewFramebufferIsDrawnAnew) {
   const QImage picture = view_.grabFramebuffer();
   ASSERT_EQ(picture.size(), QSize(400, 200));
   EXPECT_EQ(picture.pixel(200, 100) & RGB_MASK, blue & RGB_MASK);
+}
+
+TEST_F(GLViewTest, PlacesOfAMagnifiedViewAreInViewUnits) {
+  view_.setVisibleOrigin({10.0, 30.0});
+  view_.ratio = 3;
+  EXPECT_EQ(view_.visibleRect(), QRectF(10.0, 30.0, 200.0, 100.0));
+  EXPECT_EQ(view_.locationOfMouseAt({50.0, 25.0}), QPointF(60.0, 105.0));
+  EXPECT_EQ(view_.pixelRatio(), 3.0);
+  view_.place({100, 100, 400, 200}, 2.5);
+  EXPECT_EQ(view_.visibleRect(), QRectF(10.0, 30.0, 160.0, 80.0));
+  EXPECT_EQ(view_.locationOfMouseAt({50.0, 25.0}), QPointF(30.0, 100.0));
+  EXPECT_EQ(view_.pixelRatio(), 7.5);
+}
+
+TEST_F(GLViewTest, AnotherMagnificationIsDrawnAlsoAtTheSameSize) {
+  const int passes = view_.passes();
+  const int reshapes = view_.reshapes;
+  view_.place(view_.geometry(), 2.0);
+  EXPECT_EQ(view_.reshapes, reshapes + 1);
+  EXPECT_TRUE(wait_until([&] { return view_.passes() > passes; }, 3000));
+  view_.place(view_.geometry(), 2.0);
+  EXPECT_EQ(view_.reshapes, reshapes + 1);
 }
 
 }  // namespace velquon::test

@@ -17,7 +17,7 @@ from pathlib import Path
 
 # What each folder may include beside itself.
 MODEL = {"engine", "events", "files", "model"}
-DRAWN = MODEL | {"render", "widgets", "printing"}
+DRAWN = MODEL | {"render", "widgets", "wording", "printing"}
 ALLOWED = {
     "engine": set(),
     "events": {"engine"},
@@ -26,12 +26,14 @@ ALLOWED = {
     "model": {"engine", "events", "files"},
     "render": {"engine"},
     "widgets": set(),
-    "printing": MODEL | {"render", "widgets"},
+    "wording": MODEL | {"render", "widgets"},
+    "printing": MODEL | {"render", "widgets", "wording"},
     "chamber": DRAWN,
     "projection": DRAWN,
     "track": MODEL | {"widgets"},
     "record": MODEL | {"widgets"},
-    "app": DRAWN | {"chamber", "projection", "track", "record"},
+    "guide": {"widgets"},
+    "app": DRAWN | {"chamber", "projection", "track", "record", "guide"},
 }
 
 

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/presentations.h"
+
+#include "widgets/gl_panel.h"
+#include "widgets/presentation.h"
+#include "widgets/presentation_panel.h"
+
+namespace velquon {
+
+Presentations::Presentations() = default;
+Presentations::~Presentations() = default;
+
+void Presentations::add(const Presentable& presentable) {
+  const std::size_t index = presentables_.size();
+  presentables_.push_back(presentable);
+  connect(presentable.window, &GLPanel::becameKey, this, [this, index] { cameToFront(index); });
+}
+
+void Presentations::toggle() {
+  if (isOn()) {
+    end();
+    return;
+  }
+  present(in_front_);
+  Q_EMIT changed();
+}
+
+void Presentations::end() {
+  presentation_.reset();
+  panel_ = nullptr;
+  Q_EMIT changed();
+}
+
+void Presentations::cameToFront(std::size_t index) {
+  in_front_ = index;
+  if (isOn() && &presentation_->window() != presentables_[index].window) {
+    present(index);
+  }
+}
+
+void Presentations::present(std::size_t index) {
+  const Presentable& presentable = presentables_[index];
+  if (!presentable.window->isActiveWindow()) {
+    presentable.window->makeKeyAndOrderFront();
+  }
+  auto panel = std::make_unique<PresentationPanel>();
+  panel_ = panel.get();
+  // The one before ends behind the one that is there already.
+  presentation_ =
+      std::make_unique<Presentation>(*presentable.window, *presentable.area, std::move(panel));
+  connect(presentation_.get(), &Presentation::endAsked, this, &Presentations::end,
+          Qt::QueuedConnection);
+  refresh();
+}
+
+void Presentations::refresh() const {
+  if (isOn()) {
+    const Presentable& presentable = presentables_[in_front_];
+    panel_->tell(presentable.window->title(), presentable.readings());
+  }
+}
+
+}  // namespace velquon

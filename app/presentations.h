@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace velquon {
+
+class GLPanel;
+class Presentation;
+class PresentationPanel;
+class ViewScrollArea;
+
+/// A window whose view can be presented.
+struct Presentable {
+  GLPanel* window = nullptr;
+  ViewScrollArea* area = nullptr;
+  /// What is measured in the view now, as its window tells it.
+  std::function<QString()> readings{};
+};
+
+/// Presents the view that is in front over the whole screen. When another of the windows comes to the
+/// front meanwhile, that one is presented.
+class Presentations : public QObject {
+  Q_OBJECT
+
+ public:
+  Presentations();
+  ~Presentations() override;
+  Presentations(const Presentations&) = delete;
+  Presentations& operator=(const Presentations&) = delete;
+  Presentations(Presentations&&) = delete;
+  Presentations& operator=(Presentations&&) = delete;
+
+  /// Adds a window, which must outlive this object. The first is presented when none has been in
+  /// front.
+  void add(const Presentable& presentable);
+
+  [[nodiscard]] bool isOn() const { return presentation_ != nullptr; }
+  /// Starts the presentation or ends it.
+  void toggle();
+  void end();
+  /// Shows the present titles and readings.
+  void refresh() const;
+
+ Q_SIGNALS:
+  /// The presentation has started or ended.
+  void changed();
+
+ private:
+  void cameToFront(std::size_t index);
+  void present(std::size_t index);
+
+  std::vector<Presentable> presentables_;
+  std::size_t in_front_ = 0;  ///< which had the keys last
+  std::unique_ptr<Presentation> presentation_;
+  PresentationPanel* panel_ = nullptr;  ///< of the presentation
+};
+
+}  // namespace velquon

@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "projection/projection_scene.h"
+
+#include <GL/gl.h>
+#include <GL/glu.h>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+#include "projection/tool_drawing.h"
+#include "render/line_arrays.h"
+
+namespace velquon {
+
+namespace {
+
+constexpr double half_square = 0.5;
+constexpr double half_marked_square = 1.5;
+
+/// \param dot length of a dot and of a gap, device pixels
+void draw_dotted_frame(const ProjectedFrame& frame, int dot) {
+  const auto& [low, high] = frame;
+  glEnable(GL_LINE_STIPPLE);
+  glLineStipple(dot, 0xAAAA);
+  const auto corner = [](double x, double y) {
+    return Corner{static_cast<float>(x), static_cast<float>(y), 0.0F};
+  };
+  draw_line_loop(std::array{corner(low.x, low.y), corner(high.x, low.y), corner(high.x, high.y),
+                            corner(low.x, high.y)});
+  glDisable(GL_LINE_STIPPLE);
+}
+
+}  // namespace
+
+void ProjectionScene::setPoints(std::span<const PlotPoint> points, ProjectionPlane plane) {
+  display_points_.clear();
+  std::ranges::transform(points, std::back_inserter(display_points_),
+                         [plane](const PlotPoint& point) { return project(point, plane); });
+}
+
+void ProjectionScene::draw(const QRectF& seen, double ratio, const Projector& projector,
+                           const ProjectionOptions& options) const {
+  glMatrixMode(GL_PROJECTION);
+  glLoadIdentity();
+  glClearColor(0.0F, 0.0F, 0.0F, 0.0F);
+  glClear(GL_COLOR_BUFFER_BIT);
+  glViewport(0, 0, qRound(seen.width() * ratio), qRound(seen.height() * ratio));
+  gluOrtho2D(0.0, seen.width(), 0.0, seen.height());
+  glTranslated(-seen.x(), -seen.y(), 0.0);
+  // OpenGL counts the width of lines and the length of dots in device pixels.
+  glLineWidth(static_cast<GLfloat>(ratio));
+  drawTracks(ratio, projector.mapping(), options.marked);
+  draw_tool(projector);
+  if (options.cross != nullptr) {
+    draw_cross(*options.cross);
+  }
+  glFlush();
+}
+
+void ProjectionScene::drawTracks(double ratio, const ProjectionMapping& mapping,
+                                 std::span<const std::size_t> marked) const {
+  glColor3f(1.0F, 1.0F, 1.0F);
+  draw_dotted_frame(mapping.frame(), std::max(qRound(ratio), 1));
+  for (std::size_t point = 0; point < display_points_.size(); ++point) {
+    drawSquare(point, half_square, mapping);
+  }
+  for (const std::size_t point : marked) {
+    if (point < display_points_.size()) {
+      drawSquare(point, half_marked_square, mapping);
+    }
+  }
+}
+
+void ProjectionScene::drawSquare(std::size_t point, double half_side,
+                                 const ProjectionMapping& mapping) const {
+  const auto [x, y] = mapping.map(display_points_[point]);
+  glRectd(x - half_side, y - half_side, x + half_side, y + half_side);
+}
+
+}  // namespace velquon
