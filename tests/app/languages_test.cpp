@@ -208,9 +208,10 @@ TEST_P(LanguagesTest, TheWindowOfMeasurementsHasEveryTextTranslatedAndRoomForIt)
     }
   }
   window.findChild<QAction*>(QStringLiteral("make_events_item"))->trigger();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(window.makeEventsDialog()));
-  look(*window.makeEventsDialog(), "make events");
-  window.makeEventsDialog()->reject();
+  MakeEventsDialog* const dialog = window.makeEventsDialog();
+  ASSERT_TRUE(dialog != nullptr && QTest::qWaitForWindowExposed(dialog));
+  look(*dialog, "make events");
+  dialog->reject();
   if (!isPseudo()) {
     expect_own_mnemonics(window.menuBar()->actions());
   }
