@@ -36,6 +36,7 @@
 #include "track/track_window.h"
 #include "ui_menus.h"
 #include "widgets/screen_room.h"
+#include "wording/legend_text.h"
 
 namespace velquon {
 
@@ -120,7 +121,11 @@ TrackWindow& Application::trackWindow() {
     track_window_->awakeFromNib();
     presentations_->add({.window = track_window_.get(),
                          .area = track_window_->panel().track_area(),
-                         .readings = [this] { return track_window_->panel().shownReadings(); }});
+                         .texts = [this] {
+                           return PresentedTexts{
+                               .title = track_window_->title(),
+                               .readings = track_window_->panel().shownReadings()};
+                         }});
   }
   return *track_window_;
 }
@@ -246,15 +251,20 @@ void Application::addPresentation() {
                   .run = [this] { presentations_->toggle(); },
                   .is_checked = [this] { return presentations_->isOn(); }});
   connect(presentations_.get(), &Presentations::changed, commands_.get(), &Commands::refresh);
-  presentations_->add({.window = chamber_window_.get(),
-                       .area = chamber_window_->area(),
-                       .readings = [] { return QString(); }});
-  // A line each, as the panel is narrow.
+  const auto legend = [this](TrackColoring coloring) {
+    return legend_lines(legend_of(*model_.shown()->tracks, model_.answersShown()), coloring);
+  };
+  presentations_->add(
+      {.window = chamber_window_.get(), .area = chamber_window_->area(), .texts = [this, legend] {
+         return PresentedTexts{.title = chamber_window_->title(),
+                               .legend = legend(TrackColoring::by_code)};
+       }});
   presentations_->add({.window = projector_window_.get(),
                        .area = projector_window_->area(),
-                       .readings = [this] {
-                         QString readings = projector_window_->shownReadings();
-                         return readings.replace(QStringLiteral("   "), QStringLiteral("\n"));
+                       .texts = [this, legend] {
+                         return PresentedTexts{.title = projector_window_->title(),
+                                               .legend = legend(TrackColoring::white),
+                                               .readings = projector_window_->shownReadings()};
                        }});
   const auto refresh = [presentations = QPointer(presentations_.get())] {
     if (presentations != nullptr) {

@@ -4,6 +4,8 @@
 #include "projection/projector_window.h"
 
 #include <QShortcut>
+#include <algorithm>
+#include <array>
 #include <initializer_list>
 #include <memory>
 #include <utility>
@@ -91,8 +93,9 @@ ViewScrollArea* ProjectorWindow::area() const {
 }
 
 QString ProjectorWindow::shownReadings() const {
-  return ui_->readings_text->text().isEmpty() ? ui_->tape_text->text()
-                                              : ui_->readings_text->text();
+  QString readings = ui_->readings_text->text();
+  return readings.isEmpty() ? ui_->tape_text->text()
+                            : readings.replace(QStringLiteral("   "), QStringLiteral("\n"));
 }
 
 void ProjectorWindow::connectButtons() {
@@ -109,7 +112,19 @@ void ProjectorWindow::connectButtons() {
                    {ui_->angle_tool, ProjectorTool::angle}});
   connect(ui_->snap_button, &QAbstractButton::toggled, this,
           [this](bool on) { projector_.setSnaps(on); });
+  connect(view_, &ProjectionView::zoomTurned, this, &ProjectorWindow::zoomBy);
   connect(ui_->record_button, &QAbstractButton::clicked, this, &ProjectorWindow::recordAsked);
+}
+
+void ProjectorWindow::zoomBy(ZoomTurn turn) {
+  const std::array zooms{ui_->zoom_1, ui_->zoom_2, ui_->zoom_3};
+  const auto present =
+      std::distance(zooms.begin(), std::ranges::find_if(zooms, &QAbstractButton::isChecked));
+  const auto next = static_cast<std::size_t>(turn == ZoomTurn::in ? present + 1 : present - 1);
+  // Beyond either end nothing is chosen again, which would take the tape away.
+  if (next < zooms.size()) {
+    zooms.at(next)->click();
+  }
 }
 
 void ProjectorWindow::connectKeys() {

@@ -17,6 +17,7 @@ class ProjectorWindow;
 namespace velquon {
 
 class ProjectionView;
+enum class ZoomTurn : bool;
 class ViewScrollArea;
 
 /// The window of the projection view with the buttons of its planes, zooms and tools and what the
@@ -31,7 +32,7 @@ class ProjectorWindow : public GLPanel {
 
   [[nodiscard]] ProjectionView* view() const { return view_; }
   [[nodiscard]] ViewScrollArea* area() const;
-  /// What the window says that the chosen tool reads.
+  /// What the window says that the chosen tool reads, a line each.
   [[nodiscard]] QString shownReadings() const;
 
  Q_SIGNALS:
@@ -41,6 +42,7 @@ class ProjectorWindow : public GLPanel {
  private:
   void connectButtons();
   void connectKeys();
+  void zoomBy(ZoomTurn turn);
   void showReading();
 
   std::unique_ptr<Ui::ProjectorWindow> ui_;
