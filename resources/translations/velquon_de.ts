@@ -477,6 +477,14 @@
         <source>Record</source>
         <translation>Notieren</translation>
     </message>
+    <message>
+        <source>Projection</source>
+        <translation>Projektion</translation>
+    </message>
+    <message>
+        <source>Part of the projection that is seen</source>
+        <translation>Sichtbarer Teil der Projektion</translation>
+    </message>
 </context>
 <context>
     <name>QFileDialog</name>
@@ -533,10 +541,6 @@ Soll die Datei ersetzt werden?</translation>
         <translation>Das Feld, in dem sich das Teilchen bewegt</translation>
     </message>
     <message>
-        <source>Length measured by dragging in the picture; ten points of the picture are 1</source>
-        <translation>Durch Ziehen im Bild gemessene Länge; zehn Bildpunkte sind 1</translation>
-    </message>
-    <message>
         <source>Tape</source>
         <translation>Maßband</translation>
     </message>
@@ -555,6 +559,82 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>Clear</source>
         <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>In the field B₀ a particle of speed v runs on a circle with a radius of 2 units of the tape</source>
+        <translation>Im Feld B₀ läuft ein Teilchen der Geschwindigkeit v auf einem Kreis mit einem Radius von 2 Einheiten des Maßbands</translation>
+    </message>
+    <message>
+        <source>Length measured by dragging in the picture</source>
+        <translation>Durch Ziehen im Bild gemessene Länge</translation>
+    </message>
+    <message>
+        <source>A unit is ten points of the picture</source>
+        <translation>Eine Einheit sind zehn Bildpunkte</translation>
+    </message>
+    <message>
+        <source>Particle:</source>
+        <translation>Teilchen:</translation>
+    </message>
+    <message>
+        <source>Particle</source>
+        <translation>Teilchen</translation>
+    </message>
+    <message>
+        <source>The particle that is sent into the field</source>
+        <translation>Das Teilchen, das in das Feld geschossen wird</translation>
+    </message>
+    <message>
+        <source>Electron</source>
+        <translation>Elektron</translation>
+    </message>
+    <message>
+        <source>Positron</source>
+        <translation>Positron</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <translation>Richtung:</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>The way that the particle comes</source>
+        <translation>Der Weg, auf dem das Teilchen kommt</translation>
+    </message>
+    <message>
+        <source>Left to Right</source>
+        <translation>Nach rechts</translation>
+    </message>
+    <message>
+        <source>Right to Left</source>
+        <translation>Nach links</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation>Geschwindigkeit:</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>With v a particle goes one unit of the tape in ten steps</source>
+        <translation>Mit v legt ein Teilchen in zehn Schritten eine Einheit des Maßbands zurück</translation>
+    </message>
+    <message>
+        <source>v</source>
+        <translation>v</translation>
+    </message>
+    <message>
+        <source>2v</source>
+        <translation>2v</translation>
+    </message>
+    <message>
+        <source>3v</source>
+        <translation>3v</translation>
     </message>
 </context>
 <context>
@@ -1939,17 +2019,6 @@ Soll die Datei ersetzt werden?</translation>
     </message>
 </context>
 <context>
-    <name>velquon::ProjectorWindow</name>
-    <message>
-        <source>Projection</source>
-        <translation>Projektion</translation>
-    </message>
-    <message>
-        <source>Part of the projection that is seen</source>
-        <translation>Sichtbarer Teil der Projektion</translation>
-    </message>
-</context>
-<context>
     <name>velquon::Readings</name>
     <message>
         <source>Set three points or more along a track.</source>
@@ -2298,6 +2367,10 @@ Soll die Datei ersetzt werden?</translation>
         <source>Part of the track that is seen</source>
         <translation>Sichtbarer Teil der Spur</translation>
     </message>
+    <message>
+        <source>units</source>
+        <translation>Einheiten</translation>
+    </message>
 </context>
 <context>
     <name>velquon::TrackStatus</name>
@@ -2309,8 +2382,8 @@ Soll die Datei ersetzt werden?</translation>
 <context>
     <name>velquon::TrackWindow</name>
     <message>
-        <source>Track</source>
-        <translation>Spur</translation>
+        <source>Live Track</source>
+        <translation>Live-Spur</translation>
     </message>
 </context>
 <context>

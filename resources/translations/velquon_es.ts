@@ -477,6 +477,14 @@
         <source>Record</source>
         <translation>Anotar</translation>
     </message>
+    <message>
+        <source>Projection</source>
+        <translation>Proyección</translation>
+    </message>
+    <message>
+        <source>Part of the projection that is seen</source>
+        <translation>Parte visible de la proyección</translation>
+    </message>
 </context>
 <context>
     <name>QFileDialog</name>
@@ -533,10 +541,6 @@ Do you want to replace it?</source>
         <translation>El campo en el que se mueve la partícula</translation>
     </message>
     <message>
-        <source>Length measured by dragging in the picture; ten points of the picture are 1</source>
-        <translation>Longitud medida arrastrando en la imagen; diez puntos de la imagen son 1</translation>
-    </message>
-    <message>
         <source>Tape</source>
         <translation>Cinta</translation>
     </message>
@@ -555,6 +559,82 @@ Do you want to replace it?</source>
     <message>
         <source>Clear</source>
         <translation>Borrar</translation>
+    </message>
+    <message>
+        <source>In the field B₀ a particle of speed v runs on a circle with a radius of 2 units of the tape</source>
+        <translation>En el campo B₀ una partícula de velocidad v recorre un círculo con un radio de 2 unidades de la cinta</translation>
+    </message>
+    <message>
+        <source>Length measured by dragging in the picture</source>
+        <translation>Longitud medida arrastrando en la imagen</translation>
+    </message>
+    <message>
+        <source>A unit is ten points of the picture</source>
+        <translation>Una unidad son diez puntos de la imagen</translation>
+    </message>
+    <message>
+        <source>Particle:</source>
+        <translation>Partícula:</translation>
+    </message>
+    <message>
+        <source>Particle</source>
+        <translation>Partícula</translation>
+    </message>
+    <message>
+        <source>The particle that is sent into the field</source>
+        <translation>La partícula que se envía al campo</translation>
+    </message>
+    <message>
+        <source>Electron</source>
+        <translation>Electrón</translation>
+    </message>
+    <message>
+        <source>Positron</source>
+        <translation>Positrón</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <translation>Sentido:</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Sentido</translation>
+    </message>
+    <message>
+        <source>The way that the particle comes</source>
+        <translation>El sentido en que viene la partícula</translation>
+    </message>
+    <message>
+        <source>Left to Right</source>
+        <translation>Hacia la derecha</translation>
+    </message>
+    <message>
+        <source>Right to Left</source>
+        <translation>Hacia la izquierda</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation>Velocidad:</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>With v a particle goes one unit of the tape in ten steps</source>
+        <translation>Con v una partícula recorre una unidad de la cinta en diez pasos</translation>
+    </message>
+    <message>
+        <source>v</source>
+        <translation>v</translation>
+    </message>
+    <message>
+        <source>2v</source>
+        <translation>2v</translation>
+    </message>
+    <message>
+        <source>3v</source>
+        <translation>3v</translation>
     </message>
 </context>
 <context>
@@ -1939,17 +2019,6 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
-    <name>velquon::ProjectorWindow</name>
-    <message>
-        <source>Projection</source>
-        <translation>Proyección</translation>
-    </message>
-    <message>
-        <source>Part of the projection that is seen</source>
-        <translation>Parte visible de la proyección</translation>
-    </message>
-</context>
-<context>
     <name>velquon::Readings</name>
     <message>
         <source>Set three points or more along a track.</source>
@@ -2298,6 +2367,10 @@ Do you want to replace it?</source>
         <source>Part of the track that is seen</source>
         <translation>Parte visible de la traza</translation>
     </message>
+    <message>
+        <source>units</source>
+        <translation>unidades</translation>
+    </message>
 </context>
 <context>
     <name>velquon::TrackStatus</name>
@@ -2309,8 +2382,8 @@ Do you want to replace it?</source>
 <context>
     <name>velquon::TrackWindow</name>
     <message>
-        <source>Track</source>
-        <translation>Traza</translation>
+        <source>Live Track</source>
+        <translation>Traza en vivo</translation>
     </message>
 </context>
 <context>

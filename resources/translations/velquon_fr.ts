@@ -477,6 +477,14 @@
         <source>Record</source>
         <translation>Noter</translation>
     </message>
+    <message>
+        <source>Projection</source>
+        <translation>Projection</translation>
+    </message>
+    <message>
+        <source>Part of the projection that is seen</source>
+        <translation>Partie visible de la projection</translation>
+    </message>
 </context>
 <context>
     <name>QFileDialog</name>
@@ -533,10 +541,6 @@ Voulez-vous le remplacer&#xa0;?</translation>
         <translation>Le champ dans lequel se déplace la particule</translation>
     </message>
     <message>
-        <source>Length measured by dragging in the picture; ten points of the picture are 1</source>
-        <translation>Longueur mesurée en faisant glisser dans l’image&#xa0;; dix points de l’image valent 1</translation>
-    </message>
-    <message>
         <source>Tape</source>
         <translation>Ruban</translation>
     </message>
@@ -555,6 +559,82 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <message>
         <source>Clear</source>
         <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>In the field B₀ a particle of speed v runs on a circle with a radius of 2 units of the tape</source>
+        <translation>Dans le champ B₀, une particule de vitesse v parcourt un cercle d’un rayon de 2 unités du ruban</translation>
+    </message>
+    <message>
+        <source>Length measured by dragging in the picture</source>
+        <translation>Longueur mesurée en faisant glisser dans l’image</translation>
+    </message>
+    <message>
+        <source>A unit is ten points of the picture</source>
+        <translation>Une unité vaut dix points de l’image</translation>
+    </message>
+    <message>
+        <source>Particle:</source>
+        <translation>Particule&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Particle</source>
+        <translation>Particule</translation>
+    </message>
+    <message>
+        <source>The particle that is sent into the field</source>
+        <translation>La particule envoyée dans le champ</translation>
+    </message>
+    <message>
+        <source>Electron</source>
+        <translation>Électron</translation>
+    </message>
+    <message>
+        <source>Positron</source>
+        <translation>Positron</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <translation>Sens&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Sens</translation>
+    </message>
+    <message>
+        <source>The way that the particle comes</source>
+        <translation>Le sens dans lequel vient la particule</translation>
+    </message>
+    <message>
+        <source>Left to Right</source>
+        <translation>Vers la droite</translation>
+    </message>
+    <message>
+        <source>Right to Left</source>
+        <translation>Vers la gauche</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation>Vitesse&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>With v a particle goes one unit of the tape in ten steps</source>
+        <translation>Avec v, une particule parcourt une unité du ruban en dix pas</translation>
+    </message>
+    <message>
+        <source>v</source>
+        <translation>v</translation>
+    </message>
+    <message>
+        <source>2v</source>
+        <translation>2v</translation>
+    </message>
+    <message>
+        <source>3v</source>
+        <translation>3v</translation>
     </message>
 </context>
 <context>
@@ -1939,17 +2019,6 @@ Voulez-vous le remplacer&#xa0;?</translation>
     </message>
 </context>
 <context>
-    <name>velquon::ProjectorWindow</name>
-    <message>
-        <source>Projection</source>
-        <translation>Projection</translation>
-    </message>
-    <message>
-        <source>Part of the projection that is seen</source>
-        <translation>Partie visible de la projection</translation>
-    </message>
-</context>
-<context>
     <name>velquon::Readings</name>
     <message>
         <source>Set three points or more along a track.</source>
@@ -2298,6 +2367,10 @@ Voulez-vous le remplacer&#xa0;?</translation>
         <source>Part of the track that is seen</source>
         <translation>Partie visible de la trace</translation>
     </message>
+    <message>
+        <source>units</source>
+        <translation>unités</translation>
+    </message>
 </context>
 <context>
     <name>velquon::TrackStatus</name>
@@ -2309,8 +2382,8 @@ Voulez-vous le remplacer&#xa0;?</translation>
 <context>
     <name>velquon::TrackWindow</name>
     <message>
-        <source>Track</source>
-        <translation>Trace</translation>
+        <source>Live Track</source>
+        <translation>Trace en direct</translation>
     </message>
 </context>
 <context>

@@ -477,6 +477,14 @@
         <source>Record</source>
         <translation>Annota</translation>
     </message>
+    <message>
+        <source>Projection</source>
+        <translation>Proiezione</translation>
+    </message>
+    <message>
+        <source>Part of the projection that is seen</source>
+        <translation>Parte visibile della proiezione</translation>
+    </message>
 </context>
 <context>
     <name>QFileDialog</name>
@@ -533,10 +541,6 @@ Vuoi sostituirlo?</translation>
         <translation>Il campo in cui si muove la particella</translation>
     </message>
     <message>
-        <source>Length measured by dragging in the picture; ten points of the picture are 1</source>
-        <translation>Lunghezza misurata trascinando nell’immagine; dieci punti dell’immagine valgono 1</translation>
-    </message>
-    <message>
         <source>Tape</source>
         <translation>Metro</translation>
     </message>
@@ -555,6 +559,82 @@ Vuoi sostituirlo?</translation>
     <message>
         <source>Clear</source>
         <translation>Cancella</translation>
+    </message>
+    <message>
+        <source>In the field B₀ a particle of speed v runs on a circle with a radius of 2 units of the tape</source>
+        <translation>Nel campo B₀ una particella di velocità v percorre un cerchio con un raggio di 2 unità del metro</translation>
+    </message>
+    <message>
+        <source>Length measured by dragging in the picture</source>
+        <translation>Lunghezza misurata trascinando nell’immagine</translation>
+    </message>
+    <message>
+        <source>A unit is ten points of the picture</source>
+        <translation>Un’unità è dieci punti dell’immagine</translation>
+    </message>
+    <message>
+        <source>Particle:</source>
+        <translation>Particella:</translation>
+    </message>
+    <message>
+        <source>Particle</source>
+        <translation>Particella</translation>
+    </message>
+    <message>
+        <source>The particle that is sent into the field</source>
+        <translation>La particella inviata nel campo</translation>
+    </message>
+    <message>
+        <source>Electron</source>
+        <translation>Elettrone</translation>
+    </message>
+    <message>
+        <source>Positron</source>
+        <translation>Positrone</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <translation>Verso:</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Verso</translation>
+    </message>
+    <message>
+        <source>The way that the particle comes</source>
+        <translation>Il verso in cui arriva la particella</translation>
+    </message>
+    <message>
+        <source>Left to Right</source>
+        <translation>Verso destra</translation>
+    </message>
+    <message>
+        <source>Right to Left</source>
+        <translation>Verso sinistra</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation>Velocità:</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>With v a particle goes one unit of the tape in ten steps</source>
+        <translation>Con v una particella percorre un’unità del metro in dieci passi</translation>
+    </message>
+    <message>
+        <source>v</source>
+        <translation>v</translation>
+    </message>
+    <message>
+        <source>2v</source>
+        <translation>2v</translation>
+    </message>
+    <message>
+        <source>3v</source>
+        <translation>3v</translation>
     </message>
 </context>
 <context>
@@ -1939,17 +2019,6 @@ Vuoi sostituirlo?</translation>
     </message>
 </context>
 <context>
-    <name>velquon::ProjectorWindow</name>
-    <message>
-        <source>Projection</source>
-        <translation>Proiezione</translation>
-    </message>
-    <message>
-        <source>Part of the projection that is seen</source>
-        <translation>Parte visibile della proiezione</translation>
-    </message>
-</context>
-<context>
     <name>velquon::Readings</name>
     <message>
         <source>Set three points or more along a track.</source>
@@ -2298,6 +2367,10 @@ Vuoi sostituirlo?</translation>
         <source>Part of the track that is seen</source>
         <translation>Parte visibile della traccia</translation>
     </message>
+    <message>
+        <source>units</source>
+        <translation>unità</translation>
+    </message>
 </context>
 <context>
     <name>velquon::TrackStatus</name>
@@ -2309,8 +2382,8 @@ Vuoi sostituirlo?</translation>
 <context>
     <name>velquon::TrackWindow</name>
     <message>
-        <source>Track</source>
-        <translation>Traccia</translation>
+        <source>Live Track</source>
+        <translation>Traccia dal vivo</translation>
     </message>
 </context>
 <context>
