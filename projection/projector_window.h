@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "model/projector.h"
+#include "projection/projection_view.h"
 #include "widgets/gl_panel.h"
 
 class QAbstractButton;
@@ -16,8 +17,6 @@ class ProjectorWindow;
 
 namespace velquon {
 
-class ProjectionView;
-enum class ZoomTurn : bool;
 class ViewScrollArea;
 
 /// The window of the projection view with the buttons of its planes, zooms and tools and what the

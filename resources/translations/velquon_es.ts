@@ -477,14 +477,6 @@
         <source>Record</source>
         <translation>Anotar</translation>
     </message>
-    <message>
-        <source>Projection</source>
-        <translation>Proyección</translation>
-    </message>
-    <message>
-        <source>Part of the projection that is seen</source>
-        <translation>Parte visible de la proyección</translation>
-    </message>
 </context>
 <context>
     <name>QFileDialog</name>
@@ -2016,6 +2008,17 @@ Do you want to replace it?</source>
     <message>
         <source>%1 cm</source>
         <translation>%1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::ProjectorWindow</name>
+    <message>
+        <source>Projection</source>
+        <translation>Proyección</translation>
+    </message>
+    <message>
+        <source>Part of the projection that is seen</source>
+        <translation>Parte visible de la proyección</translation>
     </message>
 </context>
 <context>

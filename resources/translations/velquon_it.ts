@@ -477,14 +477,6 @@
         <source>Record</source>
         <translation>Annota</translation>
     </message>
-    <message>
-        <source>Projection</source>
-        <translation>Proiezione</translation>
-    </message>
-    <message>
-        <source>Part of the projection that is seen</source>
-        <translation>Parte visibile della proiezione</translation>
-    </message>
 </context>
 <context>
     <name>QFileDialog</name>
@@ -2016,6 +2008,17 @@ Vuoi sostituirlo?</translation>
     <message>
         <source>%1 cm</source>
         <translation>%1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::ProjectorWindow</name>
+    <message>
+        <source>Projection</source>
+        <translation>Proiezione</translation>
+    </message>
+    <message>
+        <source>Part of the projection that is seen</source>
+        <translation>Parte visibile della proiezione</translation>
     </message>
 </context>
 <context>
