@@ -5,11 +5,11 @@
     <name>ChamberWindow</name>
     <message>
         <source>Particle Chamber: Empty</source>
-        <translation>Chambre à particules : Vide</translation>
+        <translation>Chambre à particules&#xa0;: Vide</translation>
     </message>
     <message>
         <source>Ran&amp;ge:</source>
-        <translation>P&amp;lage :</translation>
+        <translation>P&amp;lage&#xa0;:</translation>
     </message>
     <message>
         <source>Energy range</source>
@@ -204,7 +204,7 @@
     </message>
     <message>
         <source>Turn the chamber about its rotation axis; a click in the chamber stops it</source>
-        <translation>Faire tourner la chambre autour de son axe ; un clic dans la chambre l’arrête</translation>
+        <translation>Faire tourner la chambre autour de son axe&#xa0;; un clic dans la chambre l’arrête</translation>
     </message>
     <message>
         <source>Re&amp;verse Rotation</source>
@@ -364,14 +364,14 @@
     </message>
     <message>
         <source>Show the view in front over the whole screen; Escape ends it</source>
-        <translation>Montrer la vue au premier plan sur tout l’écran ; Échap y met fin</translation>
+        <translation>Montrer la vue au premier plan sur tout l’écran&#xa0;; Échap y met fin</translation>
     </message>
 </context>
 <context>
     <name>ProjectorWindow</name>
     <message>
         <source>Projector: Empty</source>
-        <translation>Projecteur : Vide</translation>
+        <translation>Projecteur&#xa0;: Vide</translation>
     </message>
     <message>
         <source>Plane</source>
@@ -431,7 +431,7 @@
     </message>
     <message>
         <source>Measure a distance: drag from one end to the other (T)</source>
-        <translation>Mesurer une distance : faire glisser d’un bout à l’autre (T)</translation>
+        <translation>Mesurer une distance&#xa0;: faire glisser d’un bout à l’autre (T)</translation>
     </message>
     <message>
         <source>Tape</source>
@@ -447,7 +447,7 @@
     </message>
     <message>
         <source>Measure a circle: set three points or more along a track (C)</source>
-        <translation>Mesurer un cercle : placer au moins trois points le long d’une trace (C)</translation>
+        <translation>Mesurer un cercle&#xa0;: placer au moins trois points le long d’une trace (C)</translation>
     </message>
     <message>
         <source>Curve</source>
@@ -455,7 +455,7 @@
     </message>
     <message>
         <source>Measure an angle: set its vertex, then a point of each arm (A)</source>
-        <translation>Mesurer un angle : placer le sommet, puis un point de chaque côté (A)</translation>
+        <translation>Mesurer un angle&#xa0;: placer le sommet, puis un point de chaque côté (A)</translation>
     </message>
     <message>
         <source>Angle</source>
@@ -488,7 +488,7 @@
         <source>%1 already exists.
 Do you want to replace it?</source>
         <translation>%1 existe déjà.
-Voulez-vous le remplacer ?</translation>
+Voulez-vous le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>File</source>
@@ -518,7 +518,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Strength of the magnetic field; below zero it points the other way</source>
-        <translation>Intensité du champ magnétique ; au-dessous de zéro, il pointe dans l’autre sens</translation>
+        <translation>Intensité du champ magnétique&#xa0;; au-dessous de zéro, il pointe dans l’autre sens</translation>
     </message>
     <message>
         <source>Magnetic field</source>
@@ -546,7 +546,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Clear the track; a particle that moves goes on</source>
-        <translation>Effacer la trace ; une particule en vol continue</translation>
+        <translation>Effacer la trace&#xa0;; une particule en vol continue</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -566,7 +566,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Particle:</source>
-        <translation>Particule :</translation>
+        <translation>Particule&#xa0;:</translation>
     </message>
     <message>
         <source>Particle</source>
@@ -586,7 +586,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Direction:</source>
-        <translation>Sens :</translation>
+        <translation>Sens&#xa0;:</translation>
     </message>
     <message>
         <source>Direction</source>
@@ -606,7 +606,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Speed:</source>
-        <translation>Vitesse :</translation>
+        <translation>Vitesse&#xa0;:</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -673,15 +673,15 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>p trans. is the momentum across the field: 0.3 B R for B in kG and the radius R in cm.</source>
-        <translation>p trans. est la quantité de mouvement transverse au champ : 0.3 B R avec B en kG et le rayon R en cm.</translation>
+        <translation>p trans. est la quantité de mouvement transverse au champ&#xa0;: 0.3 B R avec B en kG et le rayon R en cm.</translation>
     </message>
     <message>
         <source>Lengths and angles are given in space and on the paper; the angle is that to the parent at the vertex.</source>
-        <translation>Longueurs et angles sont donnés dans l’espace et sur le papier ; l’angle est celui avec la particule mère au vertex.</translation>
+        <translation>Longueurs et angles dans l’espace et sur le papier&#xa0;; l’angle est celui avec la particule mère au vertex.</translation>
     </message>
     <message>
         <source>Fates: decayed, left the chamber, or full: the track is cut where the event holds no more points.</source>
-        <translation>Devenir : désintégrée, sortie de la chambre, ou plein : la trace s’arrête où l’événement n’a plus de place pour des points.</translation>
+        <translation>Devenir&#xa0;: désintégrée, sortie (de la chambre) ou plein&#xa0;: trace coupée, l’événement n’a plus de place.</translation>
     </message>
     <message>
         <source>straight</source>
@@ -697,7 +697,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Incoming particle: %1</source>
-        <translation>Particule incidente : %1</translation>
+        <translation>Particule incidente&#xa0;: %1</translation>
     </message>
     <message>
         <source>Seed %1, events 1 to %2</source>
@@ -712,18 +712,18 @@ Voulez-vous le remplacer ?</translation>
     <name>velquon::Application</name>
     <message>
         <source>Nothing is measured: lay out a tool of the projector first.</source>
-        <translation>Rien n’est mesuré : posez d’abord un outil du projecteur.</translation>
+        <translation>Rien n’est mesuré&#xa0;: posez d’abord un outil du projecteur.</translation>
     </message>
 </context>
 <context>
     <name>velquon::ChamberController</name>
     <message>
         <source>Particle Chamber: %1</source>
-        <translation>Chambre à particules : %1</translation>
+        <translation>Chambre à particules&#xa0;: %1</translation>
     </message>
     <message>
         <source>Projector: %1</source>
-        <translation>Projecteur : %1</translation>
+        <translation>Projecteur&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -772,7 +772,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Velquon can&apos;t write the file %1: %2.</source>
-        <translation>Velquon ne peut pas écrire le fichier %1 : %2.</translation>
+        <translation>Velquon ne peut pas écrire le fichier %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Import PC Event</source>
@@ -812,7 +812,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Velquon can&apos;t open the file it was started with: %1.</source>
-        <translation>Velquon ne peut pas ouvrir le fichier avec lequel il a été lancé : %1.</translation>
+        <translation>Velquon ne peut pas ouvrir le fichier avec lequel il a été lancé&#xa0;: %1.</translation>
     </message>
     <message>
         <source>It is no event file</source>
@@ -843,7 +843,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Velquon can&apos;t write the file %1: %2.</source>
-        <translation>Velquon ne peut pas écrire le fichier %1 : %2.</translation>
+        <translation>Velquon ne peut pas écrire le fichier %1&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -947,7 +947,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>No visible track: %1</source>
-        <translation>Aucune trace visible : %1</translation>
+        <translation>Aucune trace visible&#xa0;: %1</translation>
     </message>
     <message>
         <source>straight</source>
@@ -1010,11 +1010,11 @@ Voulez-vous le remplacer ?</translation>
     <message>
         <source>%1: %2, %3</source>
         <comment>track: length, which way it turns</comment>
-        <translation>%1 : %2, %3</translation>
+        <translation>%1&#xa0;: %2, %3</translation>
     </message>
     <message>
         <source>Not seen: %1</source>
-        <translation>Invisible : %1</translation>
+        <translation>Invisible&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1128,7 +1128,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Number of bins; at 0 it goes by the values</source>
-        <translation>Nombre de classes ; à 0, il dépend des valeurs</translation>
+        <translation>Nombre de classes&#xa0;; à 0, il dépend des valeurs</translation>
     </message>
     <message>
         <source>Automatic</source>
@@ -1164,7 +1164,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>&amp;Bins:</source>
-        <translation>&amp;Classes :</translation>
+        <translation>&amp;Classes&#xa0;:</translation>
     </message>
     <message>
         <source>H&amp;istogram</source>
@@ -1192,23 +1192,23 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Tracks that left the chamber, not in the bars: %1.</source>
-        <translation>Traces sorties de la chambre, hors des barres : %1.</translation>
+        <translation>Traces sorties de la chambre, hors des barres&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Exponential: decay length %1. Tracks that left count with their lengths so far.</source>
-        <translation>Exponentielle : longueur de désintégration %1. Les traces sorties comptent avec leur longueur jusque-là.</translation>
+        <translation>Exponentielle&#xa0;: longueur de désintégration %1. Les traces sorties comptent avec leur longueur jusque-là.</translation>
     </message>
     <message>
         <source>Exponential: decay length %1. The longest possible lengths are allowed for.</source>
-        <translation>Exponentielle : longueur de désintégration %1. Les plus grandes longueurs possibles sont prises en compte.</translation>
+        <translation>Exponentielle&#xa0;: longueur de désintégration %1. Les plus grandes longueurs possibles sont prises en compte.</translation>
     </message>
     <message>
         <source>Exponential: decay length %1. The chamber&apos;s walls are not allowed for.</source>
-        <translation>Exponentielle : longueur de désintégration %1. Les parois de la chambre ne sont pas prises en compte.</translation>
+        <translation>Exponentielle&#xa0;: longueur de désintégration %1. Les parois de la chambre ne sont pas prises en compte.</translation>
     </message>
     <message>
         <source>Gaussian: mean %1, standard deviation %2.</source>
-        <translation>Gaussienne : moyenne %1, écart-type %2.</translation>
+        <translation>Gaussienne&#xa0;: moyenne %1, écart-type %2.</translation>
     </message>
     <message>
         <source>No exponential fits these values.</source>
@@ -1224,7 +1224,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>%1, %2 bins from %3 to %4; most values, %5, from %6 to %7. %8</source>
-        <translation>%1, %2 classes de %3 à %4 ; le plus de valeurs, %5, de %6 à %7. %8</translation>
+        <translation>%1, %2 classes de %3 à %4&#xa0;; le plus de valeurs, %5, de %6 à %7. %8</translation>
     </message>
     <message>
         <source>From</source>
@@ -1251,7 +1251,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1286,7 +1286,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>velquon-events made no events: %1.</source>
-        <translation>velquon-events n’a créé aucun événement : %1.</translation>
+        <translation>velquon-events n’a créé aucun événement&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Decay length of the primary</source>
@@ -1314,7 +1314,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Other events each time; the seed is noted with them</source>
-        <translation>D’autres événements à chaque fois ; la graine est notée avec eux</translation>
+        <translation>D’autres événements à chaque fois&#xa0;; la graine est notée avec eux</translation>
     </message>
     <message>
         <source>Events made</source>
@@ -1322,31 +1322,31 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>&amp;Event:</source>
-        <translation>É&amp;vénement :</translation>
+        <translation>É&amp;vénement&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Number of events:</source>
-        <translation>&amp;Nombre d’événements :</translation>
+        <translation>&amp;Nombre d’événements&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Field:</source>
-        <translation>C&amp;hamp :</translation>
+        <translation>C&amp;hamp&#xa0;:</translation>
     </message>
     <message>
         <source>S&amp;ide of the chamber:</source>
-        <translation>&amp;Côté de la chambre :</translation>
+        <translation>&amp;Côté de la chambre&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Kinetic energy:</source>
-        <translation>Énergie c&amp;inétique :</translation>
+        <translation>Énergie c&amp;inétique&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Seed:</source>
-        <translation>&amp;Graine :</translation>
+        <translation>&amp;Graine&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Quantity to note:</source>
-        <translation>Gran&amp;deur à noter :</translation>
+        <translation>Gran&amp;deur à noter&#xa0;:</translation>
     </message>
     <message>
         <source>The program velquon-events, which makes them, is not installed.</source>
@@ -1436,7 +1436,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Velquon can&apos;t write the file %1: %2.</source>
-        <translation>Velquon ne peut pas écrire le fichier %1 : %2.</translation>
+        <translation>Velquon ne peut pas écrire le fichier %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Save Measurements</source>
@@ -1468,11 +1468,11 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Velquon can&apos;t read the file %1: %2.</source>
-        <translation>Velquon ne peut pas lire le fichier %1 : %2.</translation>
+        <translation>Velquon ne peut pas lire le fichier %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Velquon can&apos;t read the file %1, line %2: %3.</source>
-        <translation>Velquon ne peut pas lire le fichier %1, ligne %2 : %3.</translation>
+        <translation>Velquon ne peut pas lire le fichier %1, ligne %2&#xa0;: %3.</translation>
     </message>
 </context>
 <context>
@@ -1543,7 +1543,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Events made: %1. Rows noted: %2.</source>
-        <translation>Événements créés : %1. Lignes notées : %2.</translation>
+        <translation>Événements créés&#xa0;: %1. Lignes notées&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Save Plot</source>
@@ -1706,7 +1706,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>cut: the event holds no more points</source>
-        <translation>coupée : l’événement n’a plus de place pour des points</translation>
+        <translation>coupée&#xa0;: l’événement n’a plus de place pour des points</translation>
     </message>
     <message>
         <source>left unseen</source>
@@ -1742,39 +1742,39 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>the row&apos;s number is none: &quot;%1&quot;</source>
-        <translation>le numéro de la ligne n’en est pas un : « %1 »</translation>
+        <translation>le numéro de la ligne n’en est pas un&#xa0;: «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>no quantity has the name &quot;%1&quot;</source>
-        <translation>aucune grandeur ne s’appelle « %1 »</translation>
+        <translation>aucune grandeur ne s’appelle «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>no plane has the name &quot;%1&quot;</source>
-        <translation>aucun plan ne s’appelle « %1 »</translation>
+        <translation>aucun plan ne s’appelle «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>the value is no finite number: &quot;%1&quot;</source>
-        <translation>la valeur n’est pas un nombre fini : « %1 »</translation>
+        <translation>la valeur n’est pas un nombre fini&#xa0;: «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>the error is no finite number above or at 0: &quot;%1&quot;</source>
-        <translation>l’erreur n’est pas un nombre fini positif ou nul : « %1 »</translation>
+        <translation>l’erreur n’est pas un nombre fini positif ou nul&#xa0;: «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>the quantity has another unit than &quot;%1&quot;</source>
-        <translation>la grandeur a une autre unité que « %1 »</translation>
+        <translation>la grandeur a une autre unité que «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>the field is no finite number: &quot;%1&quot;</source>
-        <translation>le champ n’est pas un nombre fini : « %1 »</translation>
+        <translation>le champ n’est pas un nombre fini&#xa0;: «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>no ending of a track has the name &quot;%1&quot;</source>
-        <translation>aucune fin de trace ne s’appelle « %1 »</translation>
+        <translation>aucune fin de trace ne s’appelle «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>the longest length is no finite number above 0: &quot;%1&quot;</source>
-        <translation>la plus grande longueur n’est pas un nombre fini supérieur à 0 : « %1 »</translation>
+        <translation>la plus grande longueur n’est pas un nombre fini supérieur à 0&#xa0;: «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>these are not the names of a table of measurements</source>
@@ -1849,7 +1849,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Velquon can&apos;t write the file %1: %2.</source>
-        <translation>Velquon ne peut pas écrire le fichier %1 : %2.</translation>
+        <translation>Velquon ne peut pas écrire le fichier %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1 Chamber</source>
@@ -1876,15 +1876,15 @@ Voulez-vous le remplacer ?</translation>
     <name>velquon::PicturePanel</name>
     <message>
         <source>PNG: pixels, as on the screen</source>
-        <translation>PNG : pixels, comme à l’écran</translation>
+        <translation>PNG&#xa0;: pixels, comme à l’écran</translation>
     </message>
     <message>
         <source>SVG: lines, black on white</source>
-        <translation>SVG : lignes, noir sur blanc</translation>
+        <translation>SVG&#xa0;: lignes, noir sur blanc</translation>
     </message>
     <message>
         <source>PDF: lines, black on white</source>
-        <translation>PDF : lignes, noir sur blanc</translation>
+        <translation>PDF&#xa0;: lignes, noir sur blanc</translation>
     </message>
     <message>
         <source>Save Picture</source>
@@ -1900,7 +1900,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>&amp;Format:</source>
-        <translation>&amp;Format :</translation>
+        <translation>&amp;Format&#xa0;:</translation>
     </message>
     <message>
         <source> ×</source>
@@ -1909,7 +1909,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>&amp;Size:</source>
-        <translation>&amp;Taille :</translation>
+        <translation>&amp;Taille&#xa0;:</translation>
     </message>
     <message>
         <source>Sa&amp;ve…</source>
@@ -1940,7 +1940,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Pa&amp;per:</source>
-        <translation>Pa&amp;pier :</translation>
+        <translation>Pa&amp;pier&#xa0;:</translation>
     </message>
     <message>
         <source>Save as P&amp;DF…</source>
@@ -1992,7 +1992,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Velquon can&apos;t write the file %1: %2.</source>
-        <translation>Velquon ne peut pas écrire le fichier %1 : %2.</translation>
+        <translation>Velquon ne peut pas écrire le fichier %1&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -2258,7 +2258,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Snap on and off</source>
-        <translation>Aimanter : oui ou non</translation>
+        <translation>Aimanter&#xa0;: oui ou non</translation>
     </message>
     <message>
         <source>Projector&apos;s picture</source>
@@ -2379,7 +2379,7 @@ Voulez-vous le remplacer ?</translation>
     <name>velquon::TrackStatus</name>
     <message>
         <source>The Track window is active: Track &gt; Deactivate gives the menus back.</source>
-        <translation>La fenêtre Trace est active : Trace &gt; Désactiver rend les menus.</translation>
+        <translation>La fenêtre Trace est active&#xa0;: Trace &gt; Désactiver rend les menus.</translation>
     </message>
 </context>
 <context>
@@ -2451,7 +2451,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Velquon can&apos;t write the file %1: %2.</source>
-        <translation>Velquon ne peut pas écrire le fichier %1 : %2.</translation>
+        <translation>Velquon ne peut pas écrire le fichier %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Worksheet %1</source>
@@ -2467,7 +2467,7 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Incoming particle: %1</source>
-        <translation>Particule incidente : %1</translation>
+        <translation>Particule incidente&#xa0;: %1</translation>
     </message>
     <message>
         <source>Seed %1, event %2</source>
@@ -2542,31 +2542,31 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>&amp;Event:</source>
-        <translation>É&amp;vénement :</translation>
+        <translation>É&amp;vénement&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Paper:</source>
-        <translation>&amp;Papier :</translation>
+        <translation>&amp;Papier&#xa0;:</translation>
     </message>
     <message>
         <source>Magnetic &amp;field, kG:</source>
-        <translation>C&amp;hamp magnétique, kG :</translation>
+        <translation>C&amp;hamp magnétique, kG&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Side of the chamber, cm:</source>
-        <translation>&amp;Côté de la chambre, cm :</translation>
+        <translation>&amp;Côté de la chambre, cm&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Kinetic energy, MeV:</source>
-        <translation>Énergie c&amp;inétique, MeV :</translation>
+        <translation>Énergie c&amp;inétique, MeV&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Number of worksheets:</source>
-        <translation>&amp;Nombre de fiches :</translation>
+        <translation>&amp;Nombre de fiches&#xa0;:</translation>
     </message>
     <message>
         <source>See&amp;d:</source>
-        <translation>&amp;Graine :</translation>
+        <translation>&amp;Graine&#xa0;:</translation>
     </message>
     <message>
         <source>Sa&amp;ve as PDF…</source>
@@ -2574,11 +2574,11 @@ Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not %2.</source>
-        <translation>« %1 » n’est pas %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas %2.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a whole number from 0 to 4294967295.</source>
-        <translation>« %1 » n’est pas un nombre entier de 0 à 4294967295.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre entier de 0 à 4294967295.</translation>
     </message>
 </context>
 </TS>

@@ -677,11 +677,11 @@ Vuoi sostituirlo?</translation>
     </message>
     <message>
         <source>Lengths and angles are given in space and on the paper; the angle is that to the parent at the vertex.</source>
-        <translation>Lunghezze e angoli sono dati nello spazio e sulla carta; l’angolo è quello con la particella madre al vertice.</translation>
+        <translation>Lunghezze e angoli nello spazio e sulla carta; l’angolo è quello con la particella madre al vertice.</translation>
     </message>
     <message>
         <source>Fates: decayed, left the chamber, or full: the track is cut where the event holds no more points.</source>
-        <translation>Sorte: decaduta, uscita dalla camera, o pieno: la traccia è tagliata dove l’evento non contiene altri punti.</translation>
+        <translation>Sorte: decaduta, uscita (dalla camera) o pieno: traccia tagliata, l’evento non contiene altri punti.</translation>
     </message>
     <message>
         <source>straight</source>
