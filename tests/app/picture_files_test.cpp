@@ -11,12 +11,19 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QSpinBox>
+#include <QTableView>
 #include <QTest>
+#include <QTextBrowser>
+#include <QTreeWidgetItem>
 #include <QXmlStreamReader>
 #include <ctime>
 
 #include "printing/picture_file.h"
 #include "printing/picture_panel.h"
+#include "record/measurement_columns.h"
+#include "record/measurements_window.h"
+#include "record/record_tree.h"
+#include "record/record_window.h"
 #include "tests/support/documents/documents_fixture.h"
 #include "tests/support/documents/event_bytes.h"
 #include "tests/support/documents/modal.h"
@@ -87,7 +94,8 @@ class PictureFilesTest : public DocumentsFixture {
     const QString name = QStringLiteral("picture.png");
     const QString told = save(window, choices, name);
     EXPECT_TRUE(dialogs().alerts.empty());
-    QImage picture(path(name));
+    const QImage file(path(name));
+    QImage picture = file.convertToFormat(QImage::Format_RGB32);
     EXPECT_EQ(told, QStringLiteral("%1 × %2 pixels").arg(picture.width()).arg(picture.height()));
     return picture;
   }
@@ -96,6 +104,15 @@ class PictureFilesTest : public DocumentsFixture {
     QApplication::clipboard()->clear();
     QTest::keyClick(window.windowHandle(), Qt::Key_C, Qt::ControlModifier);
     return QApplication::clipboard()->image();
+  }
+  /// Chooses all in a window's focus and copies it.
+  /// \return the text on the clipboard
+  static QString textCopiedIn(QWidget& window) {
+    QApplication::clipboard()->clear();
+    QTest::keyClick(window.windowHandle(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(window.windowHandle(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_FALSE(QApplication::clipboard()->mimeData()->hasImage());
+    return QApplication::clipboard()->text();
   }
   /// Lays a curve through three places.
   void layCurve() {
@@ -168,6 +185,7 @@ QRect lit_area(const QImage& picture) {
 
 struct SvgFile {
   QString title;
+  int height = 0;   ///< view units
   int squares = 0;  ///< rectangles of one by one
   int images = 0;
   QStringList texts;
@@ -181,7 +199,9 @@ SvgFile read_svg(const QByteArray& bytes) {
       continue;
     }
     const QXmlStreamAttributes attributes = reader.attributes();
-    if (reader.name() == QLatin1String("title")) {
+    if (reader.name() == QLatin1String("svg")) {
+      file.height = attributes.value(QLatin1String("viewBox")).split(u' ').value(3).toInt();
+    } else if (reader.name() == QLatin1String("title")) {
       file.title = reader.readElementText();
     } else if (reader.name() == QLatin1String("text")) {
       file.texts << reader.readElementText().trimmed();
@@ -296,15 +316,16 @@ TEST_F(PictureFilesTest, ACopyIsThePictureOnTheScreenWithoutTheCrossOfTheKeys) {
 TEST_F(PictureFilesTest, TheSvgIsTheProjectionInLines) {
   clickButton("tape_tool");
   drag(projection(), {100, 150}, {250, 210});
-  EXPECT_EQ(save(projectorWindow(),
-                 {.scale = 2, .values = true, .legend = true, .format = PictureFormat::svg},
-                 QStringLiteral("picture.svg")),
-            QStringLiteral("940 × 1052 points"));
+  const QString told = save(
+      projectorWindow(), {.scale = 2, .values = true, .legend = true, .format = PictureFormat::svg},
+      QStringLiteral("picture.svg"));
   const SvgFile svg = read_svg(read(path(QStringLiteral("picture.svg"))));
+  EXPECT_EQ(told, QStringLiteral("%1 × %2 points").arg(2 * 470).arg(2 * svg.height));
+  EXPECT_GT(svg.height, 420 + 54 + 30) << "with the caption";
   EXPECT_EQ(svg.title, projectorWindow().windowTitle());
   EXPECT_EQ(svg.squares, 60);
   EXPECT_EQ(svg.images, 0);
-  EXPECT_TRUE(svg.texts.contains(QStringLiteral("xy plane, zoom 1, tape D = 201.95 cm")))
+  EXPECT_TRUE(svg.texts.contains(QStringLiteral("xy plane, zoom 1, tape D = 161.55 cm")))
       << svg.texts.join(u'|').toStdString();
   EXPECT_TRUE(svg.texts.contains(QString::fromStdString(chamber().values_text())));
 }
@@ -396,17 +417,39 @@ TEST_F(PictureFilesTest, CanBeChosenWhileAViewIsInFront) {
   EXPECT_FALSE(item("copy_picture_item").isEnabled());
 }
 
-TEST_F(PictureFilesTest, CtrlCInATextCopiesTheText) {
-  auto& label = control<QWidget>("magfield_text");
+TEST_F(PictureFilesTest, CtrlCInATextFieldCopiesItsText) {
   activate(chamberWindow());
-  QTest::mouseClick(&label, Qt::LeftButton);
-  QWidget* const editor = QApplication::focusWidget();
-  ASSERT_TRUE(editor != nullptr && editor->inherits("QLineEdit"));
-  QApplication::clipboard()->clear();
-  QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
-  QTest::keyClick(editor, Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(QApplication::clipboard()->text().toDouble(), 2.0);
-  EXPECT_FALSE(QApplication::clipboard()->mimeData()->hasImage());
+  QTest::mouseDClick(&control<QWidget>("magfield_text"), Qt::LeftButton);
+  ASSERT_TRUE(wait_until([] {
+    return QApplication::focusWidget() != nullptr &&
+           QApplication::focusWidget()->inherits("QAbstractSpinBox");
+  }));
+  EXPECT_EQ(textCopiedIn(chamberWindow()).left(2), QStringLiteral("2 "));
+}
+
+TEST_F(PictureFilesTest, CtrlCInATableOrInTheGuideCopiesItsText) {
+  makeEvent(lambda_type);
+  choose("event_record_item");
+  RecordWindow& record = application().recordWindow();
+  ASSERT_TRUE(wait_until([&] { return record.isActiveWindow(); }));
+  record.tree().setFocus();
+  record.tree().setCurrentItem(record.tree().topLevelItem(0));
+  EXPECT_EQ(textCopiedIn(record), record.tree().topLevelItem(0)->text(0));
+  Measurement row;
+  row.value = 12.5;
+  application().measurements().add({row});
+  choose("measurements_item");
+  MeasurementsWindow& measured = application().measurementsWindow();
+  ASSERT_TRUE(wait_until([&] { return measured.isActiveWindow(); }));
+  QTableView& table = measured.table();
+  table.setFocus();
+  table.selectAll();
+  table.setCurrentIndex(table.model()->index(0, static_cast<int>(MeasurementColumn::value)));
+  EXPECT_TRUE(textCopiedIn(measured).contains(QStringLiteral("12.5")));
+  choose("guide_item");
+  ASSERT_TRUE(wait_until(
+      [] { return qobject_cast<QTextBrowser*>(QApplication::focusWidget()) != nullptr; }));
+  EXPECT_TRUE(textCopiedIn(*QApplication::activeWindow()).contains(QStringLiteral("Velquon")));
 }
 
 #if !VELQUON_ADDRESS_SANITIZER
