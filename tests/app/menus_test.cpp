@@ -45,6 +45,8 @@ const std::vector<TitleCase> titles{
     {{"File", "Open Event…"}, "open_item", "Ctrl+O"},
     {{"File", "Import PC Event…"}, "import_item", "Ctrl+I"},
     {{"File", "Save Event…"}, "save_item", "Ctrl+S"},
+    {{"File", "Save Picture…"}, "save_picture_item", "Ctrl+Shift+S"},
+    {{"File", "Copy Picture"}, "copy_picture_item", "Ctrl+C"},
     {{"File", "Export Points…"}, "export_points_item", ""},
     {{"File", "Export Record…"}, "export_record_item", ""},
     {{"File", "Print…"}, "print_item", "Ctrl+P"},
