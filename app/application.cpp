@@ -14,6 +14,7 @@
 #include "app/commands.h"
 #include "app/event_documents.h"
 #include "app/event_exports.h"
+#include "app/event_telling.h"
 #include "app/guide_window.h"
 #include "app/menus.h"
 #include "app/picture_commands.h"
@@ -74,6 +75,11 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   addHelpCommands();
   controller_->awakeFromNib();
   numbering_ = std::make_unique<EventNumbering>(model_);
+  telling_ =
+      std::make_unique<EventTelling>(model_, *numbering_, *chamber_window_, *projector_window_);
+  telling_->setSeed(seed);
+  telling_->setBeginKey(items.new_event_item->shortcut());
+  telling_->refresh();
   commands_->refresh();
 }
 
@@ -249,12 +255,11 @@ void Application::addPresentation() {
                        .area = chamber_window_->area(),
                        .readings = [] { return QString(); }});
   // A line each, as the panel is narrow.
-  presentations_->add({.window = projector_window_.get(),
-                       .area = projector_window_->area(),
-                       .readings = [this] {
-                         QString readings = projector_window_->shownReadings();
-                         return readings.replace(QStringLiteral("   "), QStringLiteral("\n"));
-                       }});
+  presentations_->add(
+      {.window = projector_window_.get(), .area = projector_window_->area(), .readings = [this] {
+         QString readings = projector_window_->shownReadings();
+         return readings.replace(QStringLiteral("   "), QStringLiteral("\n"));
+       }});
   const auto refresh = [presentations = QPointer(presentations_.get())] {
     if (presentations != nullptr) {
       presentations->refresh();

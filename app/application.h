@@ -21,6 +21,7 @@ class ChamberWindow;
 class Commands;
 class EventDocuments;
 class EventExports;
+class EventTelling;
 class GLPanel;
 class GuideWindow;
 class MeasurementFiles;
@@ -101,6 +102,7 @@ class Application : public QObject {
   std::unique_ptr<EventExports> exports_;
   std::unique_ptr<PictureFiles> pictures_;
   std::unique_ptr<EventNumbering> numbering_;
+  std::unique_ptr<EventTelling> telling_;
   std::unique_ptr<MeasurementFiles> measurement_files_;
   UserDialogs& dialogs_;
   std::unique_ptr<Presentations> presentations_;
