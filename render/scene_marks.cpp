@@ -16,51 +16,49 @@ namespace velquon {
 
 namespace {
 
-/// A place in a letter: 0 to 1 across and from its foot up.
+/// A place in a letter: view units from the middle of its foot.
 using LetterPlace = std::array<float, 2>;
 using Stroke = std::vector<LetterPlace>;
 using Letter = std::vector<Stroke>;
 
 const Letter& letter_x() {
-  static const Letter letter{{{0.0F, 0.0F}, {1.0F, 1.0F}}, {{0.0F, 1.0F}, {1.0F, 0.0F}}};
+  static const Letter letter{{{-3.0F, 0.0F}, {3.0F, 7.0F}}, {{-3.0F, 7.0F}, {3.0F, 0.0F}}};
   return letter;
 }
 
 const Letter& letter_y() {
-  static const Letter letter{{{0.0F, 1.0F}, {0.5F, 0.4F}},
-                             {{1.0F, 1.0F}, {0.5F, 0.4F}, {0.2F, 0.0F}}};
+  static const Letter letter{{{-3.0F, 7.0F}, {0.0F, 0.5F}},
+                             {{3.0F, 7.0F}, {-0.7F, -1.5F}, {-2.5F, -3.0F}}};
   return letter;
 }
 
 const Letter& letter_z() {
-  static const Letter letter{{{0.0F, 1.0F}, {1.0F, 1.0F}, {0.0F, 0.0F}, {1.0F, 0.0F}}};
+  static const Letter letter{{{-3.0F, 7.0F}, {3.0F, 7.0F}, {-3.0F, 0.0F}, {3.0F, 0.0F}}};
   return letter;
 }
 
 const Letter& letter_B() {
-  static const Letter letter{{{0.0F, 0.0F},
-                              {0.0F, 1.0F},
-                              {0.7F, 1.0F},
-                              {0.95F, 0.88F},
-                              {0.95F, 0.65F},
-                              {0.7F, 0.53F},
-                              {1.0F, 0.38F},
-                              {1.0F, 0.14F},
-                              {0.75F, 0.0F},
-                              {0.0F, 0.0F}},
-                             {{0.0F, 0.53F}, {0.7F, 0.53F}}};
+  static const Letter letter{{{-3.5F, 0.0F},
+                              {-3.5F, 10.0F},
+                              {1.5F, 10.0F},
+                              {3.0F, 9.0F},
+                              {3.0F, 6.5F},
+                              {1.5F, 5.5F},
+                              {3.5F, 4.0F},
+                              {3.5F, 1.5F},
+                              {1.5F, 0.0F},
+                              {-3.5F, 0.0F}},
+                             {{-3.5F, 5.5F}, {1.5F, 5.5F}}};
   return letter;
 }
 
 /// Draws a letter with its middle at a place of the chamber.
 void draw_letter(const Letter& letter, const Vector& place, const Camera& camera) {
-  // View units.
-  constexpr float width = 7.0F;
-  constexpr float height = 10.0F;
+  constexpr float half_height = 4.0F;  // view units
   const auto middle = camera.pixel(place);
   const auto corner_at = [&](const LetterPlace& in_letter) {
-    return Corner{static_cast<float>(middle[0]) + (in_letter[0] - 0.5F) * width,
-                  static_cast<float>(middle[1]) + (in_letter[1] - 0.5F) * height, 0.0F};
+    return Corner{static_cast<float>(middle[0]) + in_letter[0],
+                  static_cast<float>(middle[1]) + in_letter[1] - half_height, 0.0F};
   };
   glMatrixMode(GL_PROJECTION);
   glLoadIdentity();
@@ -92,26 +90,26 @@ void draw_axis_letters(const Camera& camera) {
 
 void draw_field_arrow(const Camera& camera, double field_kG) {
   // Beside an edge of the chamber, half as long as that; drawing units.
-  constexpr float beside = -470.0F;
+  constexpr float x = 470.0F;
+  constexpr float y = -470.0F;
   constexpr float half_length = 200.0F;
   constexpr float head = 60.0F;
   constexpr float half_head_width = 22.0F;
   constexpr Color color{1.0F, 0.6F, 1.0F};
   const float along = field_kG > 0.0 ? 1.0F : -1.0F;
-  const Corner tip{beside, beside, along * half_length};
+  const Corner tip{x, y, along * half_length};
   const float head_z = along * (half_length - head);
   camera.load();
   glColor3fv(color.data());
-  draw_line_strip(std::array<Corner, 2>{{{beside, beside, -along * half_length}, tip}});
+  draw_line_strip(std::array<Corner, 2>{{{x, y, -along * half_length}, tip}});
   for (const auto& [dx, dy] : {std::array{1.0F, 0.0F}, std::array{0.0F, 1.0F}}) {
     const float across_x = half_head_width * dx;
     const float across_y = half_head_width * dy;
-    draw_line_strip(std::array<Corner, 3>{{{beside + across_x, beside + across_y, head_z},
-                                           tip,
-                                           {beside - across_x, beside - across_y, head_z}}});
+    draw_line_strip(std::array<Corner, 3>{
+        {{x + across_x, y + across_y, head_z}, tip, {x - across_x, y - across_y, head_z}}});
   }
   constexpr float beyond_tip = 50.0F;
-  draw_letter(letter_B(), {beside, beside, along * (half_length + beyond_tip)}, camera);
+  draw_letter(letter_B(), {x, y, along * (half_length + beyond_tip)}, camera);
 }
 
 }  // namespace velquon

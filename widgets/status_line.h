@@ -21,6 +21,8 @@ class StatusLine : public QLabel {
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+  /// The same for every text, so that the picture above keeps its size.
+  [[nodiscard]] int heightForWidth(int /*width*/) const override { return sizeHint().height(); }
 
  protected:
   void changeEvent(QEvent* event) override;
