@@ -15,7 +15,7 @@
 #include "app/event_documents.h"
 #include "app/event_exports.h"
 #include "app/event_telling.h"
-#include "app/guide_window.h"
+#include "app/help_commands.h"
 #include "app/menus.h"
 #include "app/picture_commands.h"
 #include "app/picture_files.h"
@@ -37,6 +37,7 @@
 #include "track/track_window.h"
 #include "ui_menus.h"
 #include "widgets/screen_room.h"
+#include "wording/legend_text.h"
 
 namespace velquon {
 
@@ -53,6 +54,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
       pictures_(std::make_unique<PictureFiles>(*controller_, *chamber_window_->view(),
                                                *projector_window_->view(), dialogs)),
       measurement_files_(std::make_unique<MeasurementFiles>(measurements_, dialogs)),
+      help_(std::make_unique<HelpCommands>(*menus_)),
       dialogs_(dialogs),
       presentations_(std::make_unique<Presentations>()),
       commands_(std::make_unique<Commands>()) {
@@ -72,7 +74,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   addTrackCommands();
   addWindowCommands();
   addPresentation();
-  addHelpCommands();
+  help_->addTo(*commands_);
   controller_->awakeFromNib();
   numbering_ = std::make_unique<EventNumbering>(model_);
   telling_ =
@@ -125,7 +127,11 @@ TrackWindow& Application::trackWindow() {
     track_window_->awakeFromNib();
     presentations_->add({.window = track_window_.get(),
                          .area = track_window_->panel().track_area(),
-                         .readings = [this] { return track_window_->panel().shownReadings(); }});
+                         .texts = [this] {
+                           return PresentedTexts{
+                               .title = track_window_->title(),
+                               .readings = track_window_->panel().shownReadings()};
+                         }});
   }
   return *track_window_;
 }
@@ -251,15 +257,21 @@ void Application::addPresentation() {
                   .run = [this] { presentations_->toggle(); },
                   .is_checked = [this] { return presentations_->isOn(); }});
   connect(presentations_.get(), &Presentations::changed, commands_.get(), &Commands::refresh);
-  presentations_->add({.window = chamber_window_.get(),
-                       .area = chamber_window_->area(),
-                       .readings = [] { return QString(); }});
-  // A line each, as the panel is narrow.
+  const auto legend = [this](TrackColoring coloring) {
+    return legend_lines(legend_of(*model_.shown()->tracks, model_.answersShown()), coloring);
+  };
   presentations_->add(
-      {.window = projector_window_.get(), .area = projector_window_->area(), .readings = [this] {
-         QString readings = projector_window_->shownReadings();
-         return readings.replace(QStringLiteral("   "), QStringLiteral("\n"));
+      {.window = chamber_window_.get(), .area = chamber_window_->area(), .texts = [this, legend] {
+         return PresentedTexts{.title = chamber_window_->title(),
+                               .legend = legend(TrackColoring::by_code)};
        }});
+  presentations_->add({.window = projector_window_.get(),
+                       .area = projector_window_->area(),
+                       .texts = [this, legend] {
+                         return PresentedTexts{.title = projector_window_->title(),
+                                               .legend = legend(TrackColoring::white),
+                                               .readings = projector_window_->shownReadings()};
+                       }});
   const auto refresh = [presentations = QPointer(presentations_.get())] {
     if (presentations != nullptr) {
       presentations->refresh();
@@ -268,22 +280,6 @@ void Application::addPresentation() {
   for (Listeners* const changes : {&model_.changed, &projector_.changed, &track_model_.changed}) {
     changes->add(refresh);
   }
-}
-
-void Application::addHelpCommands() {
-  const Ui::Menus& items = menus_->items();
-  commands_->add(
-      {{.item = items.guide_item, .run = [this] { showGuide(); }},
-       {.item = items.about_item, .run = [] { show_about(QApplication::activeWindow()); }}});
-}
-
-void Application::showGuide() {
-  if (!guide_window_) {
-    guide_window_ = std::make_unique<GuideWindow>();
-  }
-  guide_window_->show();
-  guide_window_->raise();
-  guide_window_->activateWindow();
 }
 
 }  // namespace velquon

@@ -5,7 +5,6 @@
 
 #include "widgets/gl_panel.h"
 #include "widgets/presentation.h"
-#include "widgets/presentation_panel.h"
 
 namespace velquon {
 
@@ -57,8 +56,7 @@ void Presentations::present(std::size_t index) {
 
 void Presentations::refresh() const {
   if (isOn()) {
-    const Presentable& presentable = presentables_[in_front_];
-    panel_->tell(presentable.window->title(), presentable.readings());
+    panel_->tell(presentables_[in_front_].texts());
   }
 }
 

@@ -8,19 +8,20 @@
 #include <memory>
 #include <vector>
 
+#include "widgets/presentation_panel.h"
+
 namespace velquon {
 
 class GLPanel;
 class Presentation;
-class PresentationPanel;
 class ViewScrollArea;
 
 /// A window whose view can be presented.
 struct Presentable {
   GLPanel* window = nullptr;
   ViewScrollArea* area = nullptr;
-  /// What is measured in the view now, as its window tells it.
-  std::function<QString()> readings{};
+  /// What is to be told beside the view now.
+  std::function<PresentedTexts()> texts{};
 };
 
 /// Presents the view that is in front over the whole screen. When another of the windows comes to the
@@ -44,7 +45,7 @@ class Presentations : public QObject {
   /// Starts the presentation or ends it.
   void toggle();
   void end();
-  /// Shows the present titles and readings.
+  /// Tells the present titles, legend and readings.
   void refresh() const;
 
  Q_SIGNALS:

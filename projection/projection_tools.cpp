@@ -4,6 +4,8 @@
 // The mouse and the cursors of the projection view.
 
 #include <QMouseEvent>
+#include <QWheelEvent>
+#include <cstdlib>
 #include <utility>
 
 #include "projection/projection_view.h"
@@ -44,6 +46,28 @@ void ProjectionView::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) {
     projector_.release(place_of(locationOf(*event)));
     display();
+  }
+}
+
+void ProjectionView::wheelEvent(QWheelEvent* event) {
+  const int way = event->angleDelta().y();
+  if (way == 0) {
+    // To the side: that is the scrolling area's.
+    GLView::wheelEvent(event);
+    return;
+  }
+  event->accept();
+  if (event->buttons() != Qt::NoButton) {
+    // Zoom would take away what the mouse is laying out.
+    return;
+  }
+  // Fine wheels and touchpads tell parts of a notch.
+  const bool turned_back = (way > 0) != (wheel_way_ > 0);
+  wheel_way_ = turned_back ? way : wheel_way_ + way;
+  while (std::abs(wheel_way_) >= QWheelEvent::DefaultDeltasPerStep) {
+    const bool in = wheel_way_ > 0;
+    wheel_way_ += in ? -QWheelEvent::DefaultDeltasPerStep : QWheelEvent::DefaultDeltasPerStep;
+    Q_EMIT zoomTurned(in ? ZoomTurn::in : ZoomTurn::out);
   }
 }
 

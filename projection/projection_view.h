@@ -22,6 +22,9 @@
 
 namespace velquon {
 
+/// Which way a wheel asks to zoom.
+enum class ZoomTurn : bool { out, in };
+
 /// The event that it is handed, projected onto one of the coordinate planes, with tools that measure
 /// it by mouse and by keys. What is chosen and measured is the projector's.
 class ProjectionView : public GLView, public Printable {
@@ -76,12 +79,17 @@ class ProjectionView : public GLView, public Printable {
 
   void paint(QPainter& page) override;
 
+ Q_SIGNALS:
+  /// The mouse wheel was turned by a notch over the picture.
+  void zoomTurned(ZoomTurn turn);
+
  protected:
   void drawRect() override;
   void reshape() override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
@@ -102,7 +110,8 @@ class ProjectionView : public GLView, public Printable {
 
   Projector& projector_;
   KeyCross cross_;
-  QPointF mouse_;  ///< where on the screen it was seen last
+  QPointF mouse_;      ///< where on the screen it was seen last
+  int wheel_way_ = 0;  ///< that the wheel was turned since the last notch, eighths of a degree
   std::shared_ptr<const ShownEvent> event_ = std::make_shared<const ShownEvent>();
   ProjectionScene scene_;
   std::vector<std::size_t> marked_;

@@ -4,6 +4,8 @@
 #include "projection/projector_window.h"
 
 #include <QShortcut>
+#include <algorithm>
+#include <array>
 #include <initializer_list>
 #include <memory>
 #include <utility>
@@ -95,7 +97,9 @@ ViewScrollArea* ProjectorWindow::area() const {
 }
 
 QString ProjectorWindow::shownReadings() const {
-  return ui_->readings_text->text().isEmpty() ? ui_->tape_text->text() : ui_->readings_text->text();
+  QString readings = ui_->readings_text->text();
+  return readings.isEmpty() ? ui_->tape_text->text()
+                            : readings.replace(QStringLiteral("   "), QStringLiteral("\n"));
 }
 
 void ProjectorWindow::connectButtons() {
@@ -112,7 +116,19 @@ void ProjectorWindow::connectButtons() {
                    {ui_->angle_tool, ProjectorTool::angle}});
   connect(ui_->snap_button, &QAbstractButton::toggled, this,
           [this](bool on) { projector_.setSnaps(on); });
+  connect(view_, &ProjectionView::zoomTurned, this, &ProjectorWindow::zoomBy);
   connect(ui_->record_button, &QAbstractButton::clicked, this, &ProjectorWindow::recordAsked);
+}
+
+void ProjectorWindow::zoomBy(ZoomTurn turn) {
+  const std::array zooms{ui_->zoom_1, ui_->zoom_2, ui_->zoom_3};
+  const auto present =
+      std::distance(zooms.begin(), std::ranges::find_if(zooms, &QAbstractButton::isChecked));
+  const auto next = static_cast<std::size_t>(turn == ZoomTurn::in ? present + 1 : present - 1);
+  // Beyond either end nothing is chosen again, which would take the tape away.
+  if (next < zooms.size()) {
+    zooms.at(next)->click();
+  }
 }
 
 void ProjectorWindow::connectKeys() {
@@ -140,6 +156,8 @@ void ProjectorWindow::connectKeys() {
 void ProjectorWindow::showReading() {
   ui_->tape_text->setText(QStringLiteral("D = %1 cm").arg(fixed_text(projector_.reading(), 5, 2)));
   const QString readings = shown_readings(projector_);
+  // What to do next may take both lines in some languages; readings have lines of their own.
+  ui_->readings_text->setWordWrap(projector_.readings().empty());
   ui_->readings_text->setText(readings);
   ui_->readings_text->setVisible(!readings.isEmpty());
   ui_->tape_text->setVisible(readings.isEmpty());

@@ -19,6 +19,7 @@ namespace velquon {
 
 class ProjectionView;
 struct ToldEvent;
+enum class ZoomTurn : bool;
 class ViewScrollArea;
 
 /// The window of the projection view with the buttons of its planes, zooms and tools and what the
@@ -38,7 +39,7 @@ class ProjectorWindow : public GLPanel {
   /// something measured to tell.
   void tell(const ToldEvent& event);
   void showLegend(bool show);
-  /// What the window says that the chosen tool reads.
+  /// What the window says that the chosen tool reads, a line each.
   [[nodiscard]] QString shownReadings() const;
 
  Q_SIGNALS:
@@ -48,6 +49,7 @@ class ProjectorWindow : public GLPanel {
  private:
   void connectButtons();
   void connectKeys();
+  void zoomBy(ZoomTurn turn);
   void showReading();
   void describePicture();
 

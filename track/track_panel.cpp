@@ -4,12 +4,18 @@
 #include "track/track_panel.h"
 
 #include <QAction>
+#include <QComboBox>
+#include <QSignalBlocker>
+#include <algorithm>
+#include <array>
+#include <iterator>
 
 #include "model/track_model.h"
 #include "track/new_track_view.h"
 #include "ui_track_panel.h"
 #include "widgets/number_text.h"
 #include "widgets/view_scroll_area.h"
+#include "widgets/wheel_guard.h"
 
 namespace velquon {
 
@@ -17,29 +23,54 @@ namespace {
 
 constexpr const char* had_keys = "had_keys";
 
-/// Makes a button do what an item does. While it is disabled the keys go to another control instead
-/// of the next one, which does something else; they come back with it.
+// What the choices are of, in the order of the items of their controls.
+constexpr std::array particles{TrackParticle::e_minus, TrackParticle::e_plus};
+constexpr std::array directions{TrackDirection::left_to_right, TrackDirection::right_to_left};
+constexpr std::array speeds{1, 2, 3};
+
+/// Enables a control or disables it. While it is disabled the keys go to another control instead of
+/// the next one, which does something else; they come back with it.
+void enable(QWidget* control, bool enabled, QWidget* keys_meanwhile) {
+  const auto has_keys = [](const QWidget* widget) {
+    return widget->window()->focusWidget() == widget;
+  };
+  if (!enabled && has_keys(control)) {
+    keys_meanwhile->setFocus();
+    control->setProperty(had_keys, true);
+  }
+  control->setEnabled(enabled);
+  if (enabled && control->property(had_keys).toBool()) {
+    control->setProperty(had_keys, false);
+    if (has_keys(keys_meanwhile)) {
+      control->setFocus();
+    }
+  }
+}
+
+/// Makes a button do what an item does.
 void make_stand_for(QAbstractButton* button, QAction* item, QWidget* keys_meanwhile) {
   const auto follow = [button, item, keys_meanwhile] {
-    const bool enabled = item->isEnabled();
-    const auto has_keys = [](const QWidget* control) {
-      return control->window()->focusWidget() == control;
-    };
-    if (!enabled && has_keys(button)) {
-      keys_meanwhile->setFocus();
-      button->setProperty(had_keys, true);
-    }
-    button->setEnabled(enabled);
-    if (enabled && button->property(had_keys).toBool()) {
-      button->setProperty(had_keys, false);
-      if (has_keys(keys_meanwhile)) {
-        button->setFocus();
-      }
-    }
+    enable(button, item->isEnabled(), keys_meanwhile);
   };
   QObject::connect(button, &QAbstractButton::clicked, item, &QAction::trigger);
   QObject::connect(item, &QAction::changed, button, follow);
   follow();
+}
+
+/// Makes a control choose one of some values, and follow who else chooses one.
+template <typename Values, typename Choose>
+void connect_choice(QComboBox* popup, const Values& values, Choose choose) {
+  take_wheel_only_with_focus(*popup);
+  QObject::connect(popup, &QComboBox::currentIndexChanged, popup, [&values, choose](int index) {
+    choose(values.at(static_cast<std::size_t>(index)));
+  });
+}
+
+template <typename Values, typename Value>
+void show_choice(QComboBox* popup, const Values& values, Value present) {
+  const QSignalBlocker chosen_elsewhere(popup);
+  const auto found = std::ranges::find(values, present);
+  popup->setCurrentIndex(static_cast<int>(std::distance(values.begin(), found)));
 }
 
 }  // namespace
@@ -56,10 +87,31 @@ TrackPanel::TrackPanel(TrackModel& model, QWidget* parent)
   ui_->track_area->setAccessibleName(tr("Part of the track that is seen"));
   ui_->track_area->setView(view_, {track_area_width, track_area_height});
   connect(ui_->vSlider, &ValueSlider::moved, view_, [this] { view_->setMagField(vSlider()); });
+  connectChoices();
+  makeRoomForReadings();
   model_.changed.add([this] { showModel(); });
+  showModel();
 }
 
 TrackPanel::~TrackPanel() = default;
+
+void TrackPanel::connectChoices() {
+  connect_choice(ui_->particle_popup, particles,
+                 [this](TrackParticle particle) { model_.setParticle(particle); });
+  connect_choice(ui_->direction_popup, directions,
+                 [this](TrackDirection direction) { model_.setDirection(direction); });
+  connect_choice(ui_->velocity_popup, speeds, [this](int speed) { model_.setSpeed(speed); });
+}
+
+void TrackPanel::makeRoomForReadings() {
+  // The window keeps its size, whatever is read.
+  const auto make_room = [](QLabel* label, const QString& widest) {
+    label->setMinimumWidth(label->fontMetrics().horizontalAdvance(widest));
+  };
+  make_room(ui_->field_text, QStringLiteral("B = -0.88"));
+  make_room(ui_->tape_box, QStringLiteral("D = 66.94"));
+  make_room(ui_->tape_unit, tr("units"));
+}
 
 void TrackPanel::setItems(QAction* inject_item, QAction* clear_item) {
   make_stand_for(ui_->inject_button, inject_item, view_);
@@ -72,6 +124,13 @@ void TrackPanel::showModel() {
   ui_->field_text->setText(QStringLiteral("B = %1").arg(fixed_text(field, 0, 2)));
   ui_->tape_box->setText(reading ? QStringLiteral("D = %1").arg(fixed_text(*reading, 5, 2))
                                  : QString());
+  ui_->tape_unit->setText(reading ? tr("units") : QString());
+  show_choice(ui_->particle_popup, particles, model_.particle());
+  show_choice(ui_->direction_popup, directions, model_.direction());
+  show_choice(ui_->velocity_popup, speeds, model_.speed());
+  for (QComboBox* const popup : {ui_->particle_popup, ui_->direction_popup, ui_->velocity_popup}) {
+    enable(popup, model_.isEnabled(TrackItem::choice), view_);
+  }
 }
 
 ViewScrollArea* TrackPanel::track_area() const {
@@ -79,7 +138,10 @@ ViewScrollArea* TrackPanel::track_area() const {
 }
 
 QString TrackPanel::shownReadings() const {
-  return QStringList{ui_->field_text->text(), ui_->tape_box->text()}.join(u'\n');
+  const QString space(u' ');
+  return (ui_->field_text->text() + space + ui_->field_unit->text() + u'\n' +
+          ui_->tape_box->text() + space + ui_->tape_unit->text())
+      .trimmed();
 }
 
 ValueSlider* TrackPanel::vSlider() const {

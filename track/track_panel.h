@@ -21,8 +21,8 @@ class TrackModel;
 class ValueSlider;
 class ViewScrollArea;
 
-/// What the track window holds: the view, the field slider with its value, the tape's reading and
-/// two buttons.
+/// What the track window holds: the view, the field slider with its value, the tape's reading, what
+/// is chosen of the particle, and two buttons.
 class TrackPanel : public QWidget {
   Q_OBJECT
 
@@ -45,6 +45,8 @@ class TrackPanel : public QWidget {
   [[nodiscard]] QAbstractButton* clear_button() const;
 
  private:
+  void connectChoices();
+  void makeRoomForReadings();
   void showModel();
 
   TrackModel& model_;

@@ -16,7 +16,7 @@ TrackWindow::TrackWindow(TrackModel& model)
       panel_(new TrackPanel(model, this)),
       controller_(std::make_unique<TrackController>(model, *panel_->track_view(),
                                                     *panel_->vSlider(), *this)) {
-  setWindowTitle(tr("Track"));
+  setTitle(tr("Live Track"));
   setContent(panel_);
   connect(this, &GLPanel::becameKey, controller_.get(), &TrackController::windowDidBecomeKey);
   connect(this, &GLPanel::resignedKey, controller_.get(), &TrackController::windowDidResignKey);

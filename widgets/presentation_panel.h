@@ -3,11 +3,24 @@
 
 #pragma once
 
+#include <QString>
 #include <QWidget>
+#include <vector>
+
+#include "widgets/legend.h"
 
 class QLabel;
 
 namespace velquon {
+
+class PresentedLegend;
+
+/// What is told beside a presented view.
+struct PresentedTexts {
+  QString title;                     ///< what is presented
+  std::vector<LegendLine> legend{};  ///< of its colours
+  QString readings{};                ///< what is measured in it
+};
 
 /// The texts beside a presented view, in letters that are read from afar: white on black, as large as
 /// the screen has room for.
@@ -17,15 +30,14 @@ class PresentationPanel : public QWidget {
  public:
   explicit PresentationPanel(QWidget* parent = nullptr);
 
-  /// \param title    what is presented
-  /// \param readings what is measured in it; may be empty
-  void tell(const QString& title, const QString& readings);
+  void tell(const PresentedTexts& texts);
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
 
  private:
   QLabel* title_;
+  PresentedLegend* legend_;
   QLabel* readings_;
 };
 

@@ -48,7 +48,7 @@ class ViewScrollArea : public QAbstractScrollArea {
 
   GLView* view_ = nullptr;
   QSize document_;
-  QWidget* panel_ = nullptr;  ///< there while the view is presented
+  QWidget* panel_ = nullptr;           ///< there while the view is presented
   std::optional<QPointF> lower_left_;  ///< where it was scrolled to, until somebody scrolls
   bool placing_ = false;               ///< while the bars move by no one's hand
 };

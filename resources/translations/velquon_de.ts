@@ -346,6 +346,10 @@
         <source>&amp;About Velquon</source>
         <translation>Ü&amp;ber Velquon</translation>
     </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ProjectorWindow</name>
@@ -778,6 +782,13 @@ Soll die Datei ersetzt werden?</translation>
     </message>
 </context>
 <context>
+    <name>velquon::GuideContents</name>
+    <message>
+        <source>Contents of the guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>velquon::GuideWindow</name>
     <message>
         <source>Velquon Guide</source>
@@ -787,6 +798,78 @@ Soll die Datei ersetzt werden?</translation>
         <source>en</source>
         <comment>code of this language; names the folder of its guide</comment>
         <translation>de</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page that was left by Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A−</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Smaller text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Larger text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+=</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find in the guide (Ctrl+F)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find in the guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>▲</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The place before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>▼</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The next place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>  %1 of %2  </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>  not found  </source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1724,6 +1807,197 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>Made with %1. Choose rows to mark their tracks in the other windows.</source>
         <translation>Erzeugt mit %1. Wählen Sie Zeilen, um ihre Spuren in den anderen Fenstern hervorzuheben.</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::ShortcutsWindow</name>
+    <message>
+        <source>Everywhere</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tab, Shift+Tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the next control, to the one before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt with an underlined letter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the menu, press the button</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chamber</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Escape, Space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop the turntable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Escape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End a replay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Arrow keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By a tenth of a tick</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page Up, Page Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the next tick</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Return on the label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type a value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Projector</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>T, G, C, A</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tools Tape, Grab, Curve, Angle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Z, Y, X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The planes xy, xz, yz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1, 2, 3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The zooms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Snap on and off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Projector&apos;s picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Arrow keys, with Shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the cross by one pixel, by ten</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Return, Space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set a point, take hold, let go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete, Backspace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the last point away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give up, clear the points, hide the cross</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+Return</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record what is measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+F, F3, Shift+F3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find, the next place, the place before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl++, Ctrl+-, Ctrl+0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Larger, smaller, usual text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+Left, Alt+Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A page back, a page forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,7 @@
 #include "app/desktop_dialogs.h"
 #include "app/event_documents.h"
 #include "printing/worksheets.h"
+#include "record/make_events_dialog.h"
 #include "record/measurements_window.h"
 #include "record/record_window.h"
 #include "tests/support/documents/event_bytes.h"
@@ -89,13 +90,16 @@ class LanguagesTest : public ApplicationFixture, public ::testing::WithParamInte
     handle_waiting_events();
     ++looks_;
     for (const auto& [place, text] : texts_in(window)) {
-      EXPECT_TRUE(!isPseudo() || untranslated_part(text).isEmpty())
+      const bool is_path = text.startsWith(QLatin1Char('/'));
+      EXPECT_TRUE(!isPseudo() || is_path || untranslated_part(text).isEmpty())
           << state << ", " << place << ": " << text.toStdString();
       EXPECT_FALSE(missing_ != nullptr && missing_->contains(text))
           << state << ", " << place << ": " << text.toStdString();
     }
     for (const auto& [place, text] : cut_off_in(window)) {
-      ADD_FAILURE() << state << ", " << place << ": " << text.toStdString();
+      // One that may be cut says all in its tool tip; in the real languages it has room.
+      const bool is_status = place.find("track_status_text") != std::string::npos;
+      EXPECT_TRUE(isPseudo() && is_status) << state << ", " << place << ": " << text.toStdString();
     }
   }
 
@@ -181,7 +185,7 @@ TEST_P(LanguagesTest, WindowsHaveEveryTextTranslatedAndRoomForIt) {
   if (!isPseudo()) {
     expect_own_mnemonics(chamberWindow().menuBar()->actions());
   }
-  EXPECT_EQ(looks_, 11);
+  EXPECT_EQ(looks_, 12);
 }
 
 TEST_P(LanguagesTest, TheWindowOfMeasurementsHasEveryTextTranslatedAndRoomForIt) {
@@ -203,8 +207,10 @@ TEST_P(LanguagesTest, TheWindowOfMeasurementsHasEveryTextTranslatedAndRoomForIt)
       EXPECT_EQ(untranslated_part(text), QString()) << text.toStdString();
     }
   }
-  lookAtDialog("velquon::MakeEventsDialog", "make events",
-               [&] { window.findChild<QAction*>(QStringLiteral("make_events_item"))->trigger(); });
+  window.findChild<QAction*>(QStringLiteral("make_events_item"))->trigger();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(window.makeEventsDialog()));
+  look(*window.makeEventsDialog(), "make events");
+  window.makeEventsDialog()->reject();
   if (!isPseudo()) {
     expect_own_mnemonics(window.menuBar()->actions());
   }
@@ -225,7 +231,7 @@ TEST_P(LanguagesTest, DialogsHaveEveryTextTranslatedAndRoomForIt) {
     lookAtDialog(dialog_class, item_name, [&, name = item_name] { choose(name); });
   }
   const QTemporaryDir folder;
-  QFile file(folder.filePath(QStringLiteral("x.cwd")));
+  QFile file(folder.filePath(QStringLiteral("1.txt")));
   ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("x") == 1);
   file.close();
   lookAtDialog("QMessageBox", "wrong format",
@@ -254,8 +260,8 @@ TEST_P(LanguagesTest, PagesOfWorksheetsAreTranslated) {
       text += word.text + QLatin1Char(' ');
     }
     EXPECT_GT(text.count(QChar(u'«')), 15);
-    EXPECT_EQ(untranslated_part(text), QString());
-    EXPECT_FALSE(untranslated_part(title_of_pdf(file.fileName())).contains(QLatin1Char('W')));
+    EXPECT_EQ(untranslated_part(text).toStdString(), "");
+    EXPECT_EQ(untranslated_part(title_of_pdf(file.fileName())).toStdString(), "");
   }
 }
 

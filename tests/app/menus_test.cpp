@@ -84,6 +84,7 @@ const std::vector<TitleCase> titles{
     {{"Window", "Event Record"}, "event_record_item", "Ctrl+E"},
     {{"Window", "Measurements"}, "measurements_item", "Ctrl+M"},
     {{"Help", "Velquon Guide"}, "guide_item", "F1"},
+    {{"Help", "Keyboard Shortcuts"}, "shortcuts_item", ""},
     {{"Help", "About Velquon"}, "about_item", ""},
 };
 
