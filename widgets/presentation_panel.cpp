@@ -125,7 +125,8 @@ void PresentationPanel::resizeEvent(QResizeEvent* event) {
   constexpr std::array<int, 4> one_below_the_other{0, 0, 1, 0};
   constexpr std::array<int, 4> side_by_side{3, 4, 0, 3};
   for (int part = 0; part < parts.count(); ++part) {
-    parts.setStretch(part, (beside ? one_below_the_other : side_by_side).at(part));
+    parts.setStretch(
+        part, (beside ? one_below_the_other : side_by_side).at(static_cast<std::size_t>(part)));
   }
 }
 
