@@ -25,9 +25,9 @@ constexpr double bar_text_depth = 22.0;
 constexpr double words_depth = 46.0;
 constexpr double longest_bar = 120.0;
 
-QString tr(const char* text) {
-  return QCoreApplication::translate("velquon::ProjectionFoot", text);
-}
+struct ProjectionFoot {
+  Q_DECLARE_TR_FUNCTIONS(velquon::ProjectionFoot)
+};
 
 QString name_of(ProjectionPlane plane) {
   constexpr std::array names{"xy", "xz", "yz"};
@@ -44,11 +44,11 @@ void paint_bar(QPainter& page, QPointF start, const ScaleBar& bar) {
 }
 
 QString words_of(const Projector& projector) {
-  QStringList words{tr("%1 plane, zoom %2")
+  QStringList words{ProjectionFoot::tr("%1 plane, zoom %2")
                         .arg(name_of(projector.plane()))
                         .arg(static_cast<double>(projector.zoom()))};
   if (projector.tape().visible) {
-    words << tr("tape %1").arg(
+    words << ProjectionFoot::tr("tape %1").arg(
         QStringLiteral("D = %1 cm").arg(fixed_text(projector.reading(), 5, 2)));
   }
   return words.join(QStringLiteral(", "));
@@ -79,7 +79,7 @@ void paint_projection_foot(QPainter& page, QPointF place, const Projector& proje
   if (bar.length > 0.0) {
     paint_bar(page, place - QPointF(0.0, bar_depth), bar);
     print_text(page, place + QPointF(bar.length + gap, -bar_text_depth),
-               tr("%1 cm").arg(sheet_number(bar.length_cm)));
+               ProjectionFoot::tr("%1 cm").arg(sheet_number(bar.length_cm)));
   }
   print_text(page, place - QPointF(0.0, words_depth), words_of(projector));
 }

@@ -348,7 +348,23 @@
     </message>
     <message>
         <source>&amp;Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Atajos de &amp;teclado</translation>
+    </message>
+    <message>
+        <source>Save Pic&amp;ture…</source>
+        <translation>Guardar im&amp;agen…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Picture</source>
+        <translation>&amp;Copiar imagen</translation>
+    </message>
+    <message>
+        <source>Prese&amp;ntation</source>
+        <translation>Pre&amp;sentación</translation>
+    </message>
+    <message>
+        <source>Show the view in front over the whole screen; Escape ends it</source>
+        <translation>Mostrar la vista del frente en toda la pantalla; Escape termina</translation>
     </message>
 </context>
 <context>
@@ -461,6 +477,14 @@
         <source>Record</source>
         <translation>Anotar</translation>
     </message>
+    <message>
+        <source>Projection</source>
+        <translation>Proyección</translation>
+    </message>
+    <message>
+        <source>Part of the projection that is seen</source>
+        <translation>Parte visible de la proyección</translation>
+    </message>
 </context>
 <context>
     <name>QFileDialog</name>
@@ -497,14 +521,6 @@ Do you want to replace it?</source>
 <context>
     <name>track_panel</name>
     <message>
-        <source>Track</source>
-        <translation>Traza</translation>
-    </message>
-    <message>
-        <source>The particle&apos;s track. Drag with the mouse to measure it.</source>
-        <translation>La traza de la partícula. Arrastre con el ratón para medirla.</translation>
-    </message>
-    <message>
         <source>Field</source>
         <translation>Campo</translation>
     </message>
@@ -525,10 +541,6 @@ Do you want to replace it?</source>
         <translation>El campo en el que se mueve la partícula</translation>
     </message>
     <message>
-        <source>Length measured by dragging in the picture; ten points of the picture are 1</source>
-        <translation>Longitud medida arrastrando en la imagen; diez puntos de la imagen son 1</translation>
-    </message>
-    <message>
         <source>Tape</source>
         <translation>Cinta</translation>
     </message>
@@ -547,6 +559,82 @@ Do you want to replace it?</source>
     <message>
         <source>Clear</source>
         <translation>Borrar</translation>
+    </message>
+    <message>
+        <source>In the field B₀ a particle of speed v runs on a circle with a radius of 2 units of the tape</source>
+        <translation>En el campo B₀ una partícula de velocidad v recorre un círculo con un radio de 2 unidades de la cinta</translation>
+    </message>
+    <message>
+        <source>Length measured by dragging in the picture</source>
+        <translation>Longitud medida arrastrando en la imagen</translation>
+    </message>
+    <message>
+        <source>A unit is ten points of the picture</source>
+        <translation>Una unidad son diez puntos de la imagen</translation>
+    </message>
+    <message>
+        <source>Particle:</source>
+        <translation>Partícula:</translation>
+    </message>
+    <message>
+        <source>Particle</source>
+        <translation>Partícula</translation>
+    </message>
+    <message>
+        <source>The particle that is sent into the field</source>
+        <translation>La partícula que se envía al campo</translation>
+    </message>
+    <message>
+        <source>Electron</source>
+        <translation>Electrón</translation>
+    </message>
+    <message>
+        <source>Positron</source>
+        <translation>Positrón</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <translation>Sentido:</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Sentido</translation>
+    </message>
+    <message>
+        <source>The way that the particle comes</source>
+        <translation>El sentido en que viene la partícula</translation>
+    </message>
+    <message>
+        <source>Left to Right</source>
+        <translation>Hacia la derecha</translation>
+    </message>
+    <message>
+        <source>Right to Left</source>
+        <translation>Hacia la izquierda</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation>Velocidad:</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>With v a particle goes one unit of the tape in ten steps</source>
+        <translation>Con v una partícula recorre una unidad de la cinta en diez pasos</translation>
+    </message>
+    <message>
+        <source>v</source>
+        <translation>v</translation>
+    </message>
+    <message>
+        <source>2v</source>
+        <translation>2v</translation>
+    </message>
+    <message>
+        <source>3v</source>
+        <translation>3v</translation>
     </message>
 </context>
 <context>
@@ -782,10 +870,166 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>velquon::EventText</name>
+    <message>
+        <source>the %1 decayed</source>
+        <comment>symbol of a particle</comment>
+        <translation>el %1 se desintegró</translation>
+    </message>
+    <message>
+        <source>the %1 converted to a pair</source>
+        <comment>symbol of a particle</comment>
+        <translation>el %1 se convirtió en un par</translation>
+    </message>
+    <message>
+        <source>the %1 left the chamber at once</source>
+        <comment>symbol of a particle</comment>
+        <translation>el %1 salió enseguida de la cámara</translation>
+    </message>
+    <message>
+        <source>the event holds no points of the %1</source>
+        <comment>symbol of a particle</comment>
+        <translation>el suceso no contiene puntos del %1</translation>
+    </message>
+    <message>
+        <source>the %1 left the chamber</source>
+        <comment>symbol of a particle</comment>
+        <translation>el %1 salió de la cámara</translation>
+    </message>
+    <message>
+        <source>the %1 is not detected</source>
+        <comment>symbol of a particle</comment>
+        <translation>el %1 no se detecta</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 decayed</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 se desintegró</numerusform>
+            <numerusform>%n %1 se desintegraron</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 converted to pairs</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 se convirtió en un par</numerusform>
+            <numerusform>%n %1 se convirtieron en pares</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 left the chamber at once</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 salió enseguida de la cámara</numerusform>
+            <numerusform>%n %1 salieron enseguida de la cámara</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>the event holds no points of %n %1</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>el suceso no contiene puntos de %n %1</numerusform>
+            <numerusform>el suceso no contiene puntos de %n %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 left the chamber</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 salió de la cámara</numerusform>
+            <numerusform>%n %1 salieron de la cámara</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 are not detected</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 no se detecta</numerusform>
+            <numerusform>%n %1 no se detectan</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No visible track</source>
+        <translation>Ninguna traza visible</translation>
+    </message>
+    <message>
+        <source>No visible track: %1</source>
+        <translation>Ninguna traza visible: %1</translation>
+    </message>
+    <message>
+        <source>straight</source>
+        <translation>recta</translation>
+    </message>
+    <message>
+        <source>turns clockwise</source>
+        <translation>gira en sentido horario</translation>
+    </message>
+    <message>
+        <source>turns anticlockwise</source>
+        <translation>gira en sentido antihorario</translation>
+    </message>
+    <message>
+        <source>too short to tell which way it turns</source>
+        <translation>demasiado corta para saber hacia dónde gira</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
+    </message>
+    <message>
+        <source>Track %1</source>
+        <translation>Traza %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>particle, colour</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>suceso %1</translation>
+    </message>
+    <message>
+        <source>seed %1</source>
+        <translation>semilla %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n points</source>
+        <translation>
+            <numerusform>%n punto</numerusform>
+            <numerusform>%n puntos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tracks</source>
+        <translation>
+            <numerusform>%n traza</numerusform>
+            <numerusform>%n trazas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tracks on the xy plane</source>
+        <translation>
+            <numerusform>%n traza en el plano xy</numerusform>
+            <numerusform>%n trazas en el plano xy</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <comment>track: length, which way it turns</comment>
+        <translation>%1: %2, %3</translation>
+    </message>
+    <message>
+        <source>Not seen: %1</source>
+        <translation>No se ve: %1</translation>
+    </message>
+</context>
+<context>
     <name>velquon::GuideContents</name>
     <message>
         <source>Contents of the guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Índice de la guía</translation>
     </message>
 </context>
 <context>
@@ -801,75 +1045,75 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Atrás</translation>
     </message>
     <message>
         <source>The page before</source>
-        <translation type="unfinished"></translation>
+        <translation>La página anterior</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Adelante</translation>
     </message>
     <message>
         <source>The page that was left by Back</source>
-        <translation type="unfinished"></translation>
+        <translation>La página que se dejó con Atrás</translation>
     </message>
     <message>
         <source>A−</source>
-        <translation type="unfinished"></translation>
+        <translation>A−</translation>
     </message>
     <message>
         <source>Smaller text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto más pequeño</translation>
     </message>
     <message>
         <source>A+</source>
-        <translation type="unfinished"></translation>
+        <translation>A+</translation>
     </message>
     <message>
         <source>Larger text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto más grande</translation>
     </message>
     <message>
         <source>Ctrl+=</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+=</translation>
     </message>
     <message>
         <source>Find in the guide (Ctrl+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en la guía (Ctrl+F)</translation>
     </message>
     <message>
         <source>Find in the guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en la guía</translation>
     </message>
     <message>
         <source>▲</source>
-        <translation type="unfinished"></translation>
+        <translation>▲</translation>
     </message>
     <message>
         <source>The place before</source>
-        <translation type="unfinished"></translation>
+        <translation>El lugar anterior</translation>
     </message>
     <message>
         <source>▼</source>
-        <translation type="unfinished"></translation>
+        <translation>▼</translation>
     </message>
     <message>
         <source>The next place</source>
-        <translation type="unfinished"></translation>
+        <translation>El lugar siguiente</translation>
     </message>
     <message>
         <source>  %1 of %2  </source>
-        <translation type="unfinished"></translation>
+        <translation>  %1 de %2  </translation>
     </message>
     <message>
         <source>  not found  </source>
-        <translation type="unfinished"></translation>
+        <translation>  no encontrado  </translation>
     </message>
 </context>
 <context>
@@ -1005,6 +1249,17 @@ Do you want to replace it?</source>
     <message>
         <source>Curve in the middle</source>
         <translation>Curva en el centro</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::Legend</name>
+    <message>
+        <source>Decay of %1</source>
+        <translation>Desintegración de %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1595,6 +1850,89 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>velquon::PictureFiles</name>
+    <message>
+        <source>Not saved</source>
+        <translation>No guardado</translation>
+    </message>
+    <message>
+        <source>Velquon can&apos;t write the file %1: %2.</source>
+        <translation>Velquon no puede escribir el archivo %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 Chamber</source>
+        <translation>%1 Cámara</translation>
+    </message>
+    <message>
+        <source>%1 Projector</source>
+        <translation>%1 Proyector</translation>
+    </message>
+    <message>
+        <source>%1 files (*.%2)</source>
+        <translation>Archivos %1 (*.%2)</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Guardar imagen</translation>
+    </message>
+    <message>
+        <source>The graphics driver makes no picture of %1 × %2 pixels. Choose a smaller size.</source>
+        <translation>El controlador gráfico no hace una imagen de %1 × %2 píxeles. Elija un tamaño menor.</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::PicturePanel</name>
+    <message>
+        <source>PNG: pixels, as on the screen</source>
+        <translation>PNG: píxeles, como en la pantalla</translation>
+    </message>
+    <message>
+        <source>SVG: lines, black on white</source>
+        <translation>SVG: líneas, negro sobre blanco</translation>
+    </message>
+    <message>
+        <source>PDF: lines, black on white</source>
+        <translation>PDF: líneas, negro sobre blanco</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Guardar imagen</translation>
+    </message>
+    <message>
+        <source>With the &amp;values of the event</source>
+        <translation>Con los &amp;valores del suceso</translation>
+    </message>
+    <message>
+        <source>With a &amp;legend below the picture</source>
+        <translation>Con una &amp;leyenda bajo la imagen</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Formato:</translation>
+    </message>
+    <message>
+        <source> ×</source>
+        <comment>times the size on the screen</comment>
+        <translation> ×</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>&amp;Tamaño:</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve…</source>
+        <translation>&amp;Guardar…</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 píxeles</translation>
+    </message>
+    <message>
+        <source>%1 × %2 points</source>
+        <translation>%1 × %2 puntos</translation>
+    </message>
+</context>
+<context>
     <name>velquon::PrintPanel</name>
     <message>
         <source>Looking for printers… The page can be saved as a PDF file.</source>
@@ -1666,14 +2004,18 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
-    <name>velquon::ProjectorWindow</name>
+    <name>velquon::ProjectionFoot</name>
     <message>
-        <source>Projection</source>
-        <translation>Proyección</translation>
+        <source>%1 plane, zoom %2</source>
+        <translation>plano %1, zoom %2</translation>
     </message>
     <message>
-        <source>Part of the projection that is seen</source>
-        <translation>Parte visible de la proyección</translation>
+        <source>tape %1</source>
+        <translation>cinta %1</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
     </message>
 </context>
 <context>
@@ -1813,191 +2155,191 @@ Do you want to replace it?</source>
     <name>velquon::ShortcutsWindow</name>
     <message>
         <source>Everywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>En todas partes</translation>
     </message>
     <message>
         <source>Tab, Shift+Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tab, Mayús+Tab</translation>
     </message>
     <message>
         <source>To the next control, to the one before</source>
-        <translation type="unfinished"></translation>
+        <translation>Al control siguiente, al anterior</translation>
     </message>
     <message>
         <source>Alt with an underlined letter</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt con una letra subrayada</translation>
     </message>
     <message>
         <source>Open the menu, press the button</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir el menú, pulsar el botón</translation>
     </message>
     <message>
         <source>Chamber</source>
-        <translation type="unfinished"></translation>
+        <translation>Cámara</translation>
     </message>
     <message>
         <source>Escape, Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Escape, Espacio</translation>
     </message>
     <message>
         <source>Stop the turntable</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener el giro</translation>
     </message>
     <message>
         <source>Escape</source>
-        <translation type="unfinished"></translation>
+        <translation>Escape</translation>
     </message>
     <message>
         <source>End a replay</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminar una repetición</translation>
     </message>
     <message>
         <source>Sliders</source>
-        <translation type="unfinished"></translation>
+        <translation>Reguladores</translation>
     </message>
     <message>
         <source>Arrow keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Flechas</translation>
     </message>
     <message>
         <source>By a tenth of a tick</source>
-        <translation type="unfinished"></translation>
+        <translation>Una décima de división</translation>
     </message>
     <message>
         <source>Page Up, Page Down</source>
-        <translation type="unfinished"></translation>
+        <translation>RePág, AvPág</translation>
     </message>
     <message>
         <source>To the next tick</source>
-        <translation type="unfinished"></translation>
+        <translation>A la división siguiente</translation>
     </message>
     <message>
         <source>Return on the label</source>
-        <translation type="unfinished"></translation>
+        <translation>Retorno sobre la etiqueta</translation>
     </message>
     <message>
         <source>Type a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribir un valor</translation>
     </message>
     <message>
         <source>Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyector</translation>
     </message>
     <message>
         <source>T, G, C, A</source>
-        <translation type="unfinished"></translation>
+        <translation>T, G, C, A</translation>
     </message>
     <message>
         <source>The tools Tape, Grab, Curve, Angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Las herramientas Cinta, Agarrar, Curva, Ángulo</translation>
     </message>
     <message>
         <source>Z, Y, X</source>
-        <translation type="unfinished"></translation>
+        <translation>Z, Y, X</translation>
     </message>
     <message>
         <source>The planes xy, xz, yz</source>
-        <translation type="unfinished"></translation>
+        <translation>Los planos xy, xz, yz</translation>
     </message>
     <message>
         <source>1, 2, 3</source>
-        <translation type="unfinished"></translation>
+        <translation>1, 2, 3</translation>
     </message>
     <message>
         <source>The zooms</source>
-        <translation type="unfinished"></translation>
+        <translation>Los zooms</translation>
     </message>
     <message>
         <source>S</source>
-        <translation type="unfinished"></translation>
+        <translation>S</translation>
     </message>
     <message>
         <source>Snap on and off</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar sí o no</translation>
     </message>
     <message>
         <source>Projector&apos;s picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen del proyector</translation>
     </message>
     <message>
         <source>Arrow keys, with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Flechas, con Mayús</translation>
     </message>
     <message>
         <source>Move the cross by one pixel, by ten</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover la cruz un píxel, diez</translation>
     </message>
     <message>
         <source>Return, Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Retorno, Espacio</translation>
     </message>
     <message>
         <source>Set a point, take hold, let go</source>
-        <translation type="unfinished"></translation>
+        <translation>Poner un punto, agarrar, soltar</translation>
     </message>
     <message>
         <source>Delete, Backspace</source>
-        <translation type="unfinished"></translation>
+        <translation>Supr, Retroceso</translation>
     </message>
     <message>
         <source>Take the last point away</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar el último punto</translation>
     </message>
     <message>
         <source>Give up, clear the points, hide the cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Desistir, borrar los puntos, ocultar la cruz</translation>
     </message>
     <message>
         <source>Ctrl+Return</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Retorno</translation>
     </message>
     <message>
         <source>Record what is measured</source>
-        <translation type="unfinished"></translation>
+        <translation>Anotar lo medido</translation>
     </message>
     <message>
         <source>Guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Guía</translation>
     </message>
     <message>
         <source>Ctrl+F, F3, Shift+F3</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+F, F3, Mayús+F3</translation>
     </message>
     <message>
         <source>Find, the next place, the place before</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar, lugar siguiente, lugar anterior</translation>
     </message>
     <message>
         <source>Ctrl++, Ctrl+-, Ctrl+0</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl++, Ctrl+-, Ctrl+0</translation>
     </message>
     <message>
         <source>Larger, smaller, usual text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto mayor, menor, habitual</translation>
     </message>
     <message>
         <source>Alt+Left, Alt+Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Izquierda, Alt+Derecha</translation>
     </message>
     <message>
         <source>A page back, a page forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Una página atrás, una página adelante</translation>
     </message>
     <message>
         <source>Menu %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Menú %1</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Atajos de teclado</translation>
     </message>
     <message>
         <source>What it does</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué hace</translation>
     </message>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Teclas</translation>
     </message>
 </context>
 <context>
@@ -2012,6 +2354,25 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>velquon::TrackPanel</name>
+    <message>
+        <source>Track</source>
+        <translation>Traza</translation>
+    </message>
+    <message>
+        <source>The particle&apos;s track. Drag with the mouse to measure it.</source>
+        <translation>La traza de la partícula. Arrastre con el ratón para medirla.</translation>
+    </message>
+    <message>
+        <source>Part of the track that is seen</source>
+        <translation>Parte visible de la traza</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>unidades</translation>
+    </message>
+</context>
+<context>
     <name>velquon::TrackStatus</name>
     <message>
         <source>The Track window is active: Track &gt; Deactivate gives the menus back.</source>
@@ -2021,8 +2382,8 @@ Do you want to replace it?</source>
 <context>
     <name>velquon::TrackWindow</name>
     <message>
-        <source>Track</source>
-        <translation>Traza</translation>
+        <source>Live Track</source>
+        <translation>Traza en vivo</translation>
     </message>
 </context>
 <context>

@@ -348,7 +348,23 @@
     </message>
     <message>
         <source>&amp;Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Save Pic&amp;ture…</source>
+        <translation>Enregistrer l’im&amp;age…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Picture</source>
+        <translation>Copier l’ima&amp;ge</translation>
+    </message>
+    <message>
+        <source>Prese&amp;ntation</source>
+        <translation>P&amp;résentation</translation>
+    </message>
+    <message>
+        <source>Show the view in front over the whole screen; Escape ends it</source>
+        <translation>Montrer la vue au premier plan sur tout l’écran&#xa0;; Échap y met fin</translation>
     </message>
 </context>
 <context>
@@ -461,6 +477,14 @@
         <source>Record</source>
         <translation>Noter</translation>
     </message>
+    <message>
+        <source>Projection</source>
+        <translation>Projection</translation>
+    </message>
+    <message>
+        <source>Part of the projection that is seen</source>
+        <translation>Partie visible de la projection</translation>
+    </message>
 </context>
 <context>
     <name>QFileDialog</name>
@@ -497,14 +521,6 @@ Voulez-vous le remplacer&#xa0;?</translation>
 <context>
     <name>track_panel</name>
     <message>
-        <source>Track</source>
-        <translation>Trace</translation>
-    </message>
-    <message>
-        <source>The particle&apos;s track. Drag with the mouse to measure it.</source>
-        <translation>La trace de la particule. Faites glisser la souris pour la mesurer.</translation>
-    </message>
-    <message>
         <source>Field</source>
         <translation>Champ</translation>
     </message>
@@ -525,10 +541,6 @@ Voulez-vous le remplacer&#xa0;?</translation>
         <translation>Le champ dans lequel se déplace la particule</translation>
     </message>
     <message>
-        <source>Length measured by dragging in the picture; ten points of the picture are 1</source>
-        <translation>Longueur mesurée en faisant glisser dans l’image&#xa0;; dix points de l’image valent 1</translation>
-    </message>
-    <message>
         <source>Tape</source>
         <translation>Ruban</translation>
     </message>
@@ -547,6 +559,82 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <message>
         <source>Clear</source>
         <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>In the field B₀ a particle of speed v runs on a circle with a radius of 2 units of the tape</source>
+        <translation>Dans le champ B₀, une particule de vitesse v parcourt un cercle d’un rayon de 2 unités du ruban</translation>
+    </message>
+    <message>
+        <source>Length measured by dragging in the picture</source>
+        <translation>Longueur mesurée en faisant glisser dans l’image</translation>
+    </message>
+    <message>
+        <source>A unit is ten points of the picture</source>
+        <translation>Une unité vaut dix points de l’image</translation>
+    </message>
+    <message>
+        <source>Particle:</source>
+        <translation>Particule&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Particle</source>
+        <translation>Particule</translation>
+    </message>
+    <message>
+        <source>The particle that is sent into the field</source>
+        <translation>La particule envoyée dans le champ</translation>
+    </message>
+    <message>
+        <source>Electron</source>
+        <translation>Électron</translation>
+    </message>
+    <message>
+        <source>Positron</source>
+        <translation>Positron</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <translation>Sens&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Sens</translation>
+    </message>
+    <message>
+        <source>The way that the particle comes</source>
+        <translation>Le sens dans lequel vient la particule</translation>
+    </message>
+    <message>
+        <source>Left to Right</source>
+        <translation>Vers la droite</translation>
+    </message>
+    <message>
+        <source>Right to Left</source>
+        <translation>Vers la gauche</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation>Vitesse&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>With v a particle goes one unit of the tape in ten steps</source>
+        <translation>Avec v, une particule parcourt une unité du ruban en dix pas</translation>
+    </message>
+    <message>
+        <source>v</source>
+        <translation>v</translation>
+    </message>
+    <message>
+        <source>2v</source>
+        <translation>2v</translation>
+    </message>
+    <message>
+        <source>3v</source>
+        <translation>3v</translation>
     </message>
 </context>
 <context>
@@ -782,10 +870,166 @@ Voulez-vous le remplacer&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>velquon::EventText</name>
+    <message>
+        <source>the %1 decayed</source>
+        <comment>symbol of a particle</comment>
+        <translation>le %1 s’est désintégré</translation>
+    </message>
+    <message>
+        <source>the %1 converted to a pair</source>
+        <comment>symbol of a particle</comment>
+        <translation>le %1 s’est converti en paire</translation>
+    </message>
+    <message>
+        <source>the %1 left the chamber at once</source>
+        <comment>symbol of a particle</comment>
+        <translation>le %1 est sorti aussitôt de la chambre</translation>
+    </message>
+    <message>
+        <source>the event holds no points of the %1</source>
+        <comment>symbol of a particle</comment>
+        <translation>l’événement ne contient aucun point du %1</translation>
+    </message>
+    <message>
+        <source>the %1 left the chamber</source>
+        <comment>symbol of a particle</comment>
+        <translation>le %1 est sorti de la chambre</translation>
+    </message>
+    <message>
+        <source>the %1 is not detected</source>
+        <comment>symbol of a particle</comment>
+        <translation>le %1 n’est pas détecté</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 decayed</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 s’est désintégré</numerusform>
+            <numerusform>%n %1 se sont désintégrés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 converted to pairs</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 s’est converti en paire</numerusform>
+            <numerusform>%n %1 se sont convertis en paires</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 left the chamber at once</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 est sorti aussitôt de la chambre</numerusform>
+            <numerusform>%n %1 sont sortis aussitôt de la chambre</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>the event holds no points of %n %1</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>l’événement ne contient aucun point de %n %1</numerusform>
+            <numerusform>l’événement ne contient aucun point de %n %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 left the chamber</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 est sorti de la chambre</numerusform>
+            <numerusform>%n %1 sont sortis de la chambre</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 are not detected</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 n’est pas détecté</numerusform>
+            <numerusform>%n %1 ne sont pas détectés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No visible track</source>
+        <translation>Aucune trace visible</translation>
+    </message>
+    <message>
+        <source>No visible track: %1</source>
+        <translation>Aucune trace visible&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>straight</source>
+        <translation>droite</translation>
+    </message>
+    <message>
+        <source>turns clockwise</source>
+        <translation>tourne dans le sens horaire</translation>
+    </message>
+    <message>
+        <source>turns anticlockwise</source>
+        <translation>tourne dans le sens antihoraire</translation>
+    </message>
+    <message>
+        <source>too short to tell which way it turns</source>
+        <translation>trop courte pour dire son sens</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
+    </message>
+    <message>
+        <source>Track %1</source>
+        <translation>Trace %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>particle, colour</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>événement %1</translation>
+    </message>
+    <message>
+        <source>seed %1</source>
+        <translation>graine %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n points</source>
+        <translation>
+            <numerusform>%n point</numerusform>
+            <numerusform>%n points</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tracks</source>
+        <translation>
+            <numerusform>%n trace</numerusform>
+            <numerusform>%n traces</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tracks on the xy plane</source>
+        <translation>
+            <numerusform>%n trace sur le plan xy</numerusform>
+            <numerusform>%n traces sur le plan xy</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <comment>track: length, which way it turns</comment>
+        <translation>%1&#xa0;: %2, %3</translation>
+    </message>
+    <message>
+        <source>Not seen: %1</source>
+        <translation>Invisible&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>velquon::GuideContents</name>
     <message>
         <source>Contents of the guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Sommaire du guide</translation>
     </message>
 </context>
 <context>
@@ -801,75 +1045,75 @@ Voulez-vous le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Retour</translation>
     </message>
     <message>
         <source>The page before</source>
-        <translation type="unfinished"></translation>
+        <translation>La page précédente</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivant</translation>
     </message>
     <message>
         <source>The page that was left by Back</source>
-        <translation type="unfinished"></translation>
+        <translation>La page quittée par Retour</translation>
     </message>
     <message>
         <source>A−</source>
-        <translation type="unfinished"></translation>
+        <translation>A−</translation>
     </message>
     <message>
         <source>Smaller text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte plus petit</translation>
     </message>
     <message>
         <source>A+</source>
-        <translation type="unfinished"></translation>
+        <translation>A+</translation>
     </message>
     <message>
         <source>Larger text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte plus grand</translation>
     </message>
     <message>
         <source>Ctrl+=</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+=</translation>
     </message>
     <message>
         <source>Find in the guide (Ctrl+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher dans le guide (Ctrl+F)</translation>
     </message>
     <message>
         <source>Find in the guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher dans le guide</translation>
     </message>
     <message>
         <source>▲</source>
-        <translation type="unfinished"></translation>
+        <translation>▲</translation>
     </message>
     <message>
         <source>The place before</source>
-        <translation type="unfinished"></translation>
+        <translation>L’endroit précédent</translation>
     </message>
     <message>
         <source>▼</source>
-        <translation type="unfinished"></translation>
+        <translation>▼</translation>
     </message>
     <message>
         <source>The next place</source>
-        <translation type="unfinished"></translation>
+        <translation>L’endroit suivant</translation>
     </message>
     <message>
         <source>  %1 of %2  </source>
-        <translation type="unfinished"></translation>
+        <translation>  %1 sur %2  </translation>
     </message>
     <message>
         <source>  not found  </source>
-        <translation type="unfinished"></translation>
+        <translation>  introuvable  </translation>
     </message>
 </context>
 <context>
@@ -1005,6 +1249,17 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <message>
         <source>Curve in the middle</source>
         <translation>Courbe au milieu</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::Legend</name>
+    <message>
+        <source>Decay of %1</source>
+        <translation>Désintégration de %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1595,6 +1850,89 @@ Voulez-vous le remplacer&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>velquon::PictureFiles</name>
+    <message>
+        <source>Not saved</source>
+        <translation>Non enregistré</translation>
+    </message>
+    <message>
+        <source>Velquon can&apos;t write the file %1: %2.</source>
+        <translation>Velquon ne peut pas écrire le fichier %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1 Chamber</source>
+        <translation>%1 Chambre</translation>
+    </message>
+    <message>
+        <source>%1 Projector</source>
+        <translation>%1 Projecteur</translation>
+    </message>
+    <message>
+        <source>%1 files (*.%2)</source>
+        <translation>Fichiers %1 (*.%2)</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Enregistrer l’image</translation>
+    </message>
+    <message>
+        <source>The graphics driver makes no picture of %1 × %2 pixels. Choose a smaller size.</source>
+        <translation>Le pilote graphique ne fait pas d’image de %1 × %2 pixels. Choisissez une taille plus petite.</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::PicturePanel</name>
+    <message>
+        <source>PNG: pixels, as on the screen</source>
+        <translation>PNG&#xa0;: pixels, comme à l’écran</translation>
+    </message>
+    <message>
+        <source>SVG: lines, black on white</source>
+        <translation>SVG&#xa0;: lignes, noir sur blanc</translation>
+    </message>
+    <message>
+        <source>PDF: lines, black on white</source>
+        <translation>PDF&#xa0;: lignes, noir sur blanc</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Enregistrer l’image</translation>
+    </message>
+    <message>
+        <source>With the &amp;values of the event</source>
+        <translation>Avec les &amp;valeurs de l’événement</translation>
+    </message>
+    <message>
+        <source>With a &amp;legend below the picture</source>
+        <translation>Avec une &amp;légende sous l’image</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Format&#xa0;:</translation>
+    </message>
+    <message>
+        <source> ×</source>
+        <comment>times the size on the screen</comment>
+        <translation> ×</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>&amp;Taille&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve…</source>
+        <translation>&amp;Enregistrer…</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 pixels</translation>
+    </message>
+    <message>
+        <source>%1 × %2 points</source>
+        <translation>%1 × %2 points</translation>
+    </message>
+</context>
+<context>
     <name>velquon::PrintPanel</name>
     <message>
         <source>Looking for printers… The page can be saved as a PDF file.</source>
@@ -1666,14 +2004,18 @@ Voulez-vous le remplacer&#xa0;?</translation>
     </message>
 </context>
 <context>
-    <name>velquon::ProjectorWindow</name>
+    <name>velquon::ProjectionFoot</name>
     <message>
-        <source>Projection</source>
-        <translation>Projection</translation>
+        <source>%1 plane, zoom %2</source>
+        <translation>plan %1, zoom %2</translation>
     </message>
     <message>
-        <source>Part of the projection that is seen</source>
-        <translation>Partie visible de la projection</translation>
+        <source>tape %1</source>
+        <translation>ruban %1</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
     </message>
 </context>
 <context>
@@ -1813,191 +2155,191 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <name>velquon::ShortcutsWindow</name>
     <message>
         <source>Everywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Partout</translation>
     </message>
     <message>
         <source>Tab, Shift+Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tab, Maj+Tab</translation>
     </message>
     <message>
         <source>To the next control, to the one before</source>
-        <translation type="unfinished"></translation>
+        <translation>À la commande suivante, à la précédente</translation>
     </message>
     <message>
         <source>Alt with an underlined letter</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt avec une lettre soulignée</translation>
     </message>
     <message>
         <source>Open the menu, press the button</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le menu, presser le bouton</translation>
     </message>
     <message>
         <source>Chamber</source>
-        <translation type="unfinished"></translation>
+        <translation>Chambre</translation>
     </message>
     <message>
         <source>Escape, Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Échap, Espace</translation>
     </message>
     <message>
         <source>Stop the turntable</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter la rotation</translation>
     </message>
     <message>
         <source>Escape</source>
-        <translation type="unfinished"></translation>
+        <translation>Échap</translation>
     </message>
     <message>
         <source>End a replay</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminer une relecture</translation>
     </message>
     <message>
         <source>Sliders</source>
-        <translation type="unfinished"></translation>
+        <translation>Curseurs</translation>
     </message>
     <message>
         <source>Arrow keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Flèches</translation>
     </message>
     <message>
         <source>By a tenth of a tick</source>
-        <translation type="unfinished"></translation>
+        <translation>D’un dixième de graduation</translation>
     </message>
     <message>
         <source>Page Up, Page Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Page préc., Page suiv.</translation>
     </message>
     <message>
         <source>To the next tick</source>
-        <translation type="unfinished"></translation>
+        <translation>À la graduation suivante</translation>
     </message>
     <message>
         <source>Return on the label</source>
-        <translation type="unfinished"></translation>
+        <translation>Retour sur l’étiquette</translation>
     </message>
     <message>
         <source>Type a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Taper une valeur</translation>
     </message>
     <message>
         <source>Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Projecteur</translation>
     </message>
     <message>
         <source>T, G, C, A</source>
-        <translation type="unfinished"></translation>
+        <translation>T, G, C, A</translation>
     </message>
     <message>
         <source>The tools Tape, Grab, Curve, Angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Les outils Ruban, Saisir, Courbe, Angle</translation>
     </message>
     <message>
         <source>Z, Y, X</source>
-        <translation type="unfinished"></translation>
+        <translation>Z, Y, X</translation>
     </message>
     <message>
         <source>The planes xy, xz, yz</source>
-        <translation type="unfinished"></translation>
+        <translation>Les plans xy, xz, yz</translation>
     </message>
     <message>
         <source>1, 2, 3</source>
-        <translation type="unfinished"></translation>
+        <translation>1, 2, 3</translation>
     </message>
     <message>
         <source>The zooms</source>
-        <translation type="unfinished"></translation>
+        <translation>Les zooms</translation>
     </message>
     <message>
         <source>S</source>
-        <translation type="unfinished"></translation>
+        <translation>S</translation>
     </message>
     <message>
         <source>Snap on and off</source>
-        <translation type="unfinished"></translation>
+        <translation>Aimanter&#xa0;: oui ou non</translation>
     </message>
     <message>
         <source>Projector&apos;s picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image du projecteur</translation>
     </message>
     <message>
         <source>Arrow keys, with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Flèches, avec Maj</translation>
     </message>
     <message>
         <source>Move the cross by one pixel, by ten</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer la croix d’un pixel, de dix</translation>
     </message>
     <message>
         <source>Return, Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Retour, Espace</translation>
     </message>
     <message>
         <source>Set a point, take hold, let go</source>
-        <translation type="unfinished"></translation>
+        <translation>Placer un point, saisir, lâcher</translation>
     </message>
     <message>
         <source>Delete, Backspace</source>
-        <translation type="unfinished"></translation>
+        <translation>Suppr, Retour arrière</translation>
     </message>
     <message>
         <source>Take the last point away</source>
-        <translation type="unfinished"></translation>
+        <translation>Enlever le dernier point</translation>
     </message>
     <message>
         <source>Give up, clear the points, hide the cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Renoncer, effacer les points, cacher la croix</translation>
     </message>
     <message>
         <source>Ctrl+Return</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Retour</translation>
     </message>
     <message>
         <source>Record what is measured</source>
-        <translation type="unfinished"></translation>
+        <translation>Noter ce qui est mesuré</translation>
     </message>
     <message>
         <source>Guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Guide</translation>
     </message>
     <message>
         <source>Ctrl+F, F3, Shift+F3</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+F, F3, Maj+F3</translation>
     </message>
     <message>
         <source>Find, the next place, the place before</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher, endroit suivant, endroit précédent</translation>
     </message>
     <message>
         <source>Ctrl++, Ctrl+-, Ctrl+0</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl++, Ctrl+-, Ctrl+0</translation>
     </message>
     <message>
         <source>Larger, smaller, usual text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte plus grand, plus petit, habituel</translation>
     </message>
     <message>
         <source>Alt+Left, Alt+Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Gauche, Alt+Droite</translation>
     </message>
     <message>
         <source>A page back, a page forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Une page en arrière, une page en avant</translation>
     </message>
     <message>
         <source>Menu %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu %1</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcis clavier</translation>
     </message>
     <message>
         <source>What it does</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que cela fait</translation>
     </message>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches</translation>
     </message>
 </context>
 <context>
@@ -2012,6 +2354,25 @@ Voulez-vous le remplacer&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>velquon::TrackPanel</name>
+    <message>
+        <source>Track</source>
+        <translation>Trace</translation>
+    </message>
+    <message>
+        <source>The particle&apos;s track. Drag with the mouse to measure it.</source>
+        <translation>La trace de la particule. Faites glisser la souris pour la mesurer.</translation>
+    </message>
+    <message>
+        <source>Part of the track that is seen</source>
+        <translation>Partie visible de la trace</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>unités</translation>
+    </message>
+</context>
+<context>
     <name>velquon::TrackStatus</name>
     <message>
         <source>The Track window is active: Track &gt; Deactivate gives the menus back.</source>
@@ -2021,8 +2382,8 @@ Voulez-vous le remplacer&#xa0;?</translation>
 <context>
     <name>velquon::TrackWindow</name>
     <message>
-        <source>Track</source>
-        <translation>Trace</translation>
+        <source>Live Track</source>
+        <translation>Trace en direct</translation>
     </message>
 </context>
 <context>

@@ -348,7 +348,23 @@
     </message>
     <message>
         <source>&amp;Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Scorciatoie da tastiera</translation>
+    </message>
+    <message>
+        <source>Save Pic&amp;ture…</source>
+        <translation>Salva imma&amp;gine…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Picture</source>
+        <translation>&amp;Copia immagine</translation>
+    </message>
+    <message>
+        <source>Prese&amp;ntation</source>
+        <translation>Pre&amp;sentazione</translation>
+    </message>
+    <message>
+        <source>Show the view in front over the whole screen; Escape ends it</source>
+        <translation>Mostra la vista davanti su tutto lo schermo; Esc termina</translation>
     </message>
 </context>
 <context>
@@ -461,6 +477,14 @@
         <source>Record</source>
         <translation>Annota</translation>
     </message>
+    <message>
+        <source>Projection</source>
+        <translation>Proiezione</translation>
+    </message>
+    <message>
+        <source>Part of the projection that is seen</source>
+        <translation>Parte visibile della proiezione</translation>
+    </message>
 </context>
 <context>
     <name>QFileDialog</name>
@@ -497,14 +521,6 @@ Vuoi sostituirlo?</translation>
 <context>
     <name>track_panel</name>
     <message>
-        <source>Track</source>
-        <translation>Traccia</translation>
-    </message>
-    <message>
-        <source>The particle&apos;s track. Drag with the mouse to measure it.</source>
-        <translation>La traccia della particella. Trascina con il mouse per misurarla.</translation>
-    </message>
-    <message>
         <source>Field</source>
         <translation>Campo</translation>
     </message>
@@ -525,10 +541,6 @@ Vuoi sostituirlo?</translation>
         <translation>Il campo in cui si muove la particella</translation>
     </message>
     <message>
-        <source>Length measured by dragging in the picture; ten points of the picture are 1</source>
-        <translation>Lunghezza misurata trascinando nell’immagine; dieci punti dell’immagine valgono 1</translation>
-    </message>
-    <message>
         <source>Tape</source>
         <translation>Metro</translation>
     </message>
@@ -547,6 +559,82 @@ Vuoi sostituirlo?</translation>
     <message>
         <source>Clear</source>
         <translation>Cancella</translation>
+    </message>
+    <message>
+        <source>In the field B₀ a particle of speed v runs on a circle with a radius of 2 units of the tape</source>
+        <translation>Nel campo B₀ una particella di velocità v percorre un cerchio con un raggio di 2 unità del metro</translation>
+    </message>
+    <message>
+        <source>Length measured by dragging in the picture</source>
+        <translation>Lunghezza misurata trascinando nell’immagine</translation>
+    </message>
+    <message>
+        <source>A unit is ten points of the picture</source>
+        <translation>Un’unità è dieci punti dell’immagine</translation>
+    </message>
+    <message>
+        <source>Particle:</source>
+        <translation>Particella:</translation>
+    </message>
+    <message>
+        <source>Particle</source>
+        <translation>Particella</translation>
+    </message>
+    <message>
+        <source>The particle that is sent into the field</source>
+        <translation>La particella inviata nel campo</translation>
+    </message>
+    <message>
+        <source>Electron</source>
+        <translation>Elettrone</translation>
+    </message>
+    <message>
+        <source>Positron</source>
+        <translation>Positrone</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <translation>Verso:</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Verso</translation>
+    </message>
+    <message>
+        <source>The way that the particle comes</source>
+        <translation>Il verso in cui arriva la particella</translation>
+    </message>
+    <message>
+        <source>Left to Right</source>
+        <translation>Verso destra</translation>
+    </message>
+    <message>
+        <source>Right to Left</source>
+        <translation>Verso sinistra</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation>Velocità:</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>With v a particle goes one unit of the tape in ten steps</source>
+        <translation>Con v una particella percorre un’unità del metro in dieci passi</translation>
+    </message>
+    <message>
+        <source>v</source>
+        <translation>v</translation>
+    </message>
+    <message>
+        <source>2v</source>
+        <translation>2v</translation>
+    </message>
+    <message>
+        <source>3v</source>
+        <translation>3v</translation>
     </message>
 </context>
 <context>
@@ -782,10 +870,166 @@ Vuoi sostituirlo?</translation>
     </message>
 </context>
 <context>
+    <name>velquon::EventText</name>
+    <message>
+        <source>the %1 decayed</source>
+        <comment>symbol of a particle</comment>
+        <translation>il %1 è decaduto</translation>
+    </message>
+    <message>
+        <source>the %1 converted to a pair</source>
+        <comment>symbol of a particle</comment>
+        <translation>il %1 si è convertito in una coppia</translation>
+    </message>
+    <message>
+        <source>the %1 left the chamber at once</source>
+        <comment>symbol of a particle</comment>
+        <translation>il %1 è uscito subito dalla camera</translation>
+    </message>
+    <message>
+        <source>the event holds no points of the %1</source>
+        <comment>symbol of a particle</comment>
+        <translation>l’evento non contiene punti del %1</translation>
+    </message>
+    <message>
+        <source>the %1 left the chamber</source>
+        <comment>symbol of a particle</comment>
+        <translation>il %1 è uscito dalla camera</translation>
+    </message>
+    <message>
+        <source>the %1 is not detected</source>
+        <comment>symbol of a particle</comment>
+        <translation>il %1 non è rivelato</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 decayed</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 è decaduto</numerusform>
+            <numerusform>%n %1 sono decaduti</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 converted to pairs</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 si è convertito in una coppia</numerusform>
+            <numerusform>%n %1 si sono convertiti in coppie</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 left the chamber at once</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 è uscito subito dalla camera</numerusform>
+            <numerusform>%n %1 sono usciti subito dalla camera</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>the event holds no points of %n %1</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>l’evento non contiene punti di %n %1</numerusform>
+            <numerusform>l’evento non contiene punti di %n %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 left the chamber</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 è uscito dalla camera</numerusform>
+            <numerusform>%n %1 sono usciti dalla camera</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 are not detected</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 non è rivelato</numerusform>
+            <numerusform>%n %1 non sono rivelati</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No visible track</source>
+        <translation>Nessuna traccia visibile</translation>
+    </message>
+    <message>
+        <source>No visible track: %1</source>
+        <translation>Nessuna traccia visibile: %1</translation>
+    </message>
+    <message>
+        <source>straight</source>
+        <translation>diritta</translation>
+    </message>
+    <message>
+        <source>turns clockwise</source>
+        <translation>gira in senso orario</translation>
+    </message>
+    <message>
+        <source>turns anticlockwise</source>
+        <translation>gira in senso antiorario</translation>
+    </message>
+    <message>
+        <source>too short to tell which way it turns</source>
+        <translation>troppo corta per dire da che parte gira</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
+    </message>
+    <message>
+        <source>Track %1</source>
+        <translation>Traccia %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>particle, colour</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>evento %1</translation>
+    </message>
+    <message>
+        <source>seed %1</source>
+        <translation>seme %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n points</source>
+        <translation>
+            <numerusform>%n punto</numerusform>
+            <numerusform>%n punti</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tracks</source>
+        <translation>
+            <numerusform>%n traccia</numerusform>
+            <numerusform>%n tracce</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tracks on the xy plane</source>
+        <translation>
+            <numerusform>%n traccia sul piano xy</numerusform>
+            <numerusform>%n tracce sul piano xy</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <comment>track: length, which way it turns</comment>
+        <translation>%1: %2, %3</translation>
+    </message>
+    <message>
+        <source>Not seen: %1</source>
+        <translation>Non si vede: %1</translation>
+    </message>
+</context>
+<context>
     <name>velquon::GuideContents</name>
     <message>
         <source>Contents of the guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Indice della guida</translation>
     </message>
 </context>
 <context>
@@ -801,75 +1045,75 @@ Vuoi sostituirlo?</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Indietro</translation>
     </message>
     <message>
         <source>The page before</source>
-        <translation type="unfinished"></translation>
+        <translation>La pagina precedente</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanti</translation>
     </message>
     <message>
         <source>The page that was left by Back</source>
-        <translation type="unfinished"></translation>
+        <translation>La pagina lasciata con Indietro</translation>
     </message>
     <message>
         <source>A−</source>
-        <translation type="unfinished"></translation>
+        <translation>A−</translation>
     </message>
     <message>
         <source>Smaller text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo più piccolo</translation>
     </message>
     <message>
         <source>A+</source>
-        <translation type="unfinished"></translation>
+        <translation>A+</translation>
     </message>
     <message>
         <source>Larger text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo più grande</translation>
     </message>
     <message>
         <source>Ctrl+=</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+=</translation>
     </message>
     <message>
         <source>Find in the guide (Ctrl+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca nella guida (Ctrl+F)</translation>
     </message>
     <message>
         <source>Find in the guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca nella guida</translation>
     </message>
     <message>
         <source>▲</source>
-        <translation type="unfinished"></translation>
+        <translation>▲</translation>
     </message>
     <message>
         <source>The place before</source>
-        <translation type="unfinished"></translation>
+        <translation>Il punto precedente</translation>
     </message>
     <message>
         <source>▼</source>
-        <translation type="unfinished"></translation>
+        <translation>▼</translation>
     </message>
     <message>
         <source>The next place</source>
-        <translation type="unfinished"></translation>
+        <translation>Il punto successivo</translation>
     </message>
     <message>
         <source>  %1 of %2  </source>
-        <translation type="unfinished"></translation>
+        <translation>  %1 di %2  </translation>
     </message>
     <message>
         <source>  not found  </source>
-        <translation type="unfinished"></translation>
+        <translation>  non trovato  </translation>
     </message>
 </context>
 <context>
@@ -1005,6 +1249,17 @@ Vuoi sostituirlo?</translation>
     <message>
         <source>Curve in the middle</source>
         <translation>Curva al centro</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::Legend</name>
+    <message>
+        <source>Decay of %1</source>
+        <translation>Decadimento di %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1595,6 +1850,89 @@ Vuoi sostituirlo?</translation>
     </message>
 </context>
 <context>
+    <name>velquon::PictureFiles</name>
+    <message>
+        <source>Not saved</source>
+        <translation>Non salvato</translation>
+    </message>
+    <message>
+        <source>Velquon can&apos;t write the file %1: %2.</source>
+        <translation>Velquon non può scrivere il file %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 Chamber</source>
+        <translation>%1 Camera</translation>
+    </message>
+    <message>
+        <source>%1 Projector</source>
+        <translation>%1 Proiettore</translation>
+    </message>
+    <message>
+        <source>%1 files (*.%2)</source>
+        <translation>File %1 (*.%2)</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Salva immagine</translation>
+    </message>
+    <message>
+        <source>The graphics driver makes no picture of %1 × %2 pixels. Choose a smaller size.</source>
+        <translation>Il driver grafico non fa un’immagine di %1 × %2 pixel. Scegli una dimensione minore.</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::PicturePanel</name>
+    <message>
+        <source>PNG: pixels, as on the screen</source>
+        <translation>PNG: pixel, come sullo schermo</translation>
+    </message>
+    <message>
+        <source>SVG: lines, black on white</source>
+        <translation>SVG: linee, nero su bianco</translation>
+    </message>
+    <message>
+        <source>PDF: lines, black on white</source>
+        <translation>PDF: linee, nero su bianco</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Salva immagine</translation>
+    </message>
+    <message>
+        <source>With the &amp;values of the event</source>
+        <translation>Con i &amp;valori dell’evento</translation>
+    </message>
+    <message>
+        <source>With a &amp;legend below the picture</source>
+        <translation>Con una &amp;legenda sotto l’immagine</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Formato:</translation>
+    </message>
+    <message>
+        <source> ×</source>
+        <comment>times the size on the screen</comment>
+        <translation> ×</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>&amp;Dimensione:</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve…</source>
+        <translation>&amp;Salva…</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 pixel</translation>
+    </message>
+    <message>
+        <source>%1 × %2 points</source>
+        <translation>%1 × %2 punti</translation>
+    </message>
+</context>
+<context>
     <name>velquon::PrintPanel</name>
     <message>
         <source>Looking for printers… The page can be saved as a PDF file.</source>
@@ -1666,14 +2004,18 @@ Vuoi sostituirlo?</translation>
     </message>
 </context>
 <context>
-    <name>velquon::ProjectorWindow</name>
+    <name>velquon::ProjectionFoot</name>
     <message>
-        <source>Projection</source>
-        <translation>Proiezione</translation>
+        <source>%1 plane, zoom %2</source>
+        <translation>piano %1, zoom %2</translation>
     </message>
     <message>
-        <source>Part of the projection that is seen</source>
-        <translation>Parte visibile della proiezione</translation>
+        <source>tape %1</source>
+        <translation>metro %1</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
     </message>
 </context>
 <context>
@@ -1813,191 +2155,191 @@ Vuoi sostituirlo?</translation>
     <name>velquon::ShortcutsWindow</name>
     <message>
         <source>Everywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Ovunque</translation>
     </message>
     <message>
         <source>Tab, Shift+Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tab, Maiusc+Tab</translation>
     </message>
     <message>
         <source>To the next control, to the one before</source>
-        <translation type="unfinished"></translation>
+        <translation>Al comando successivo, al precedente</translation>
     </message>
     <message>
         <source>Alt with an underlined letter</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt con una lettera sottolineata</translation>
     </message>
     <message>
         <source>Open the menu, press the button</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri il menu, premi il pulsante</translation>
     </message>
     <message>
         <source>Chamber</source>
-        <translation type="unfinished"></translation>
+        <translation>Camera</translation>
     </message>
     <message>
         <source>Escape, Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc, Spazio</translation>
     </message>
     <message>
         <source>Stop the turntable</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferma la rotazione</translation>
     </message>
     <message>
         <source>Escape</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>End a replay</source>
-        <translation type="unfinished"></translation>
+        <translation>Termina una ripetizione</translation>
     </message>
     <message>
         <source>Sliders</source>
-        <translation type="unfinished"></translation>
+        <translation>Cursori</translation>
     </message>
     <message>
         <source>Arrow keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecce</translation>
     </message>
     <message>
         <source>By a tenth of a tick</source>
-        <translation type="unfinished"></translation>
+        <translation>Di un decimo di tacca</translation>
     </message>
     <message>
         <source>Page Up, Page Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Pag su, Pag giù</translation>
     </message>
     <message>
         <source>To the next tick</source>
-        <translation type="unfinished"></translation>
+        <translation>Alla tacca successiva</translation>
     </message>
     <message>
         <source>Return on the label</source>
-        <translation type="unfinished"></translation>
+        <translation>Invio sull’etichetta</translation>
     </message>
     <message>
         <source>Type a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrivi un valore</translation>
     </message>
     <message>
         <source>Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Proiettore</translation>
     </message>
     <message>
         <source>T, G, C, A</source>
-        <translation type="unfinished"></translation>
+        <translation>T, G, C, A</translation>
     </message>
     <message>
         <source>The tools Tape, Grab, Curve, Angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Gli strumenti Metro, Afferra, Curva, Angolo</translation>
     </message>
     <message>
         <source>Z, Y, X</source>
-        <translation type="unfinished"></translation>
+        <translation>Z, Y, X</translation>
     </message>
     <message>
         <source>The planes xy, xz, yz</source>
-        <translation type="unfinished"></translation>
+        <translation>I piani xy, xz, yz</translation>
     </message>
     <message>
         <source>1, 2, 3</source>
-        <translation type="unfinished"></translation>
+        <translation>1, 2, 3</translation>
     </message>
     <message>
         <source>The zooms</source>
-        <translation type="unfinished"></translation>
+        <translation>Gli zoom</translation>
     </message>
     <message>
         <source>S</source>
-        <translation type="unfinished"></translation>
+        <translation>S</translation>
     </message>
     <message>
         <source>Snap on and off</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggancia sì o no</translation>
     </message>
     <message>
         <source>Projector&apos;s picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagine del proiettore</translation>
     </message>
     <message>
         <source>Arrow keys, with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecce, con Maiusc</translation>
     </message>
     <message>
         <source>Move the cross by one pixel, by ten</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta la croce di un pixel, di dieci</translation>
     </message>
     <message>
         <source>Return, Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Invio, Spazio</translation>
     </message>
     <message>
         <source>Set a point, take hold, let go</source>
-        <translation type="unfinished"></translation>
+        <translation>Metti un punto, afferra, lascia</translation>
     </message>
     <message>
         <source>Delete, Backspace</source>
-        <translation type="unfinished"></translation>
+        <translation>Canc, Backspace</translation>
     </message>
     <message>
         <source>Take the last point away</source>
-        <translation type="unfinished"></translation>
+        <translation>Togli l’ultimo punto</translation>
     </message>
     <message>
         <source>Give up, clear the points, hide the cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Rinuncia, cancella i punti, nascondi la croce</translation>
     </message>
     <message>
         <source>Ctrl+Return</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Invio</translation>
     </message>
     <message>
         <source>Record what is measured</source>
-        <translation type="unfinished"></translation>
+        <translation>Annota ciò che è misurato</translation>
     </message>
     <message>
         <source>Guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Guida</translation>
     </message>
     <message>
         <source>Ctrl+F, F3, Shift+F3</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+F, F3, Maiusc+F3</translation>
     </message>
     <message>
         <source>Find, the next place, the place before</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca, punto successivo, punto precedente</translation>
     </message>
     <message>
         <source>Ctrl++, Ctrl+-, Ctrl+0</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl++, Ctrl+-, Ctrl+0</translation>
     </message>
     <message>
         <source>Larger, smaller, usual text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo più grande, più piccolo, normale</translation>
     </message>
     <message>
         <source>Alt+Left, Alt+Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Sinistra, Alt+Destra</translation>
     </message>
     <message>
         <source>A page back, a page forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Una pagina indietro, una pagina avanti</translation>
     </message>
     <message>
         <source>Menu %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu %1</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Scorciatoie da tastiera</translation>
     </message>
     <message>
         <source>What it does</source>
-        <translation type="unfinished"></translation>
+        <translation>Che cosa fa</translation>
     </message>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasti</translation>
     </message>
 </context>
 <context>
@@ -2012,6 +2354,25 @@ Vuoi sostituirlo?</translation>
     </message>
 </context>
 <context>
+    <name>velquon::TrackPanel</name>
+    <message>
+        <source>Track</source>
+        <translation>Traccia</translation>
+    </message>
+    <message>
+        <source>The particle&apos;s track. Drag with the mouse to measure it.</source>
+        <translation>La traccia della particella. Trascina con il mouse per misurarla.</translation>
+    </message>
+    <message>
+        <source>Part of the track that is seen</source>
+        <translation>Parte visibile della traccia</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>unità</translation>
+    </message>
+</context>
+<context>
     <name>velquon::TrackStatus</name>
     <message>
         <source>The Track window is active: Track &gt; Deactivate gives the menus back.</source>
@@ -2021,8 +2382,8 @@ Vuoi sostituirlo?</translation>
 <context>
     <name>velquon::TrackWindow</name>
     <message>
-        <source>Track</source>
-        <translation>Traccia</translation>
+        <source>Live Track</source>
+        <translation>Traccia dal vivo</translation>
     </message>
 </context>
 <context>
