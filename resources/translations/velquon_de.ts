@@ -477,14 +477,6 @@
         <source>Record</source>
         <translation>Notieren</translation>
     </message>
-    <message>
-        <source>Projection</source>
-        <translation>Projektion</translation>
-    </message>
-    <message>
-        <source>Part of the projection that is seen</source>
-        <translation>Sichtbarer Teil der Projektion</translation>
-    </message>
 </context>
 <context>
     <name>QFileDialog</name>
@@ -2016,6 +2008,17 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>%1 cm</source>
         <translation>%1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::ProjectorWindow</name>
+    <message>
+        <source>Projection</source>
+        <translation>Projektion</translation>
+    </message>
+    <message>
+        <source>Part of the projection that is seen</source>
+        <translation>Sichtbarer Teil der Projektion</translation>
     </message>
 </context>
 <context>

@@ -477,14 +477,6 @@
         <source>Record</source>
         <translation>Anotar</translation>
     </message>
-    <message>
-        <source>Projection</source>
-        <translation>Proyección</translation>
-    </message>
-    <message>
-        <source>Part of the projection that is seen</source>
-        <translation>Parte visible de la proyección</translation>
-    </message>
 </context>
 <context>
     <name>QFileDialog</name>
@@ -685,11 +677,11 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>Lengths and angles are given in space and on the paper; the angle is that to the parent at the vertex.</source>
-        <translation>Las longitudes y los ángulos se dan en el espacio y sobre el papel; el ángulo es el que forma con la partícula madre en el vértice.</translation>
+        <translation>Longitudes y ángulos en el espacio y en el papel; el ángulo es con la partícula madre en el vértice.</translation>
     </message>
     <message>
         <source>Fates: decayed, left the chamber, or full: the track is cut where the event holds no more points.</source>
-        <translation>Destino: desintegrada, salió de la cámara o lleno: la traza se corta donde el suceso no admite más puntos.</translation>
+        <translation>Destino: desintegrada, salió (de la cámara) o lleno: traza cortada, el suceso no admite más puntos.</translation>
     </message>
     <message>
         <source>straight</source>
@@ -2016,6 +2008,17 @@ Do you want to replace it?</source>
     <message>
         <source>%1 cm</source>
         <translation>%1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::ProjectorWindow</name>
+    <message>
+        <source>Projection</source>
+        <translation>Proyección</translation>
+    </message>
+    <message>
+        <source>Part of the projection that is seen</source>
+        <translation>Parte visible de la proyección</translation>
     </message>
 </context>
 <context>

@@ -477,14 +477,6 @@
         <source>Record</source>
         <translation>Noter</translation>
     </message>
-    <message>
-        <source>Projection</source>
-        <translation>Projection</translation>
-    </message>
-    <message>
-        <source>Part of the projection that is seen</source>
-        <translation>Partie visible de la projection</translation>
-    </message>
 </context>
 <context>
     <name>QFileDialog</name>
@@ -685,11 +677,11 @@ Voulez-vous le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Lengths and angles are given in space and on the paper; the angle is that to the parent at the vertex.</source>
-        <translation>Longueurs et angles sont donnés dans l’espace et sur le papier&#xa0;; l’angle est celui avec la particule mère au vertex.</translation>
+        <translation>Longueurs et angles dans l’espace et sur le papier&#xa0;; l’angle est celui avec la particule mère au vertex.</translation>
     </message>
     <message>
         <source>Fates: decayed, left the chamber, or full: the track is cut where the event holds no more points.</source>
-        <translation>Devenir&#xa0;: désintégrée, sortie de la chambre, ou plein&#xa0;: la trace s’arrête où l’événement n’a plus de place pour des points.</translation>
+        <translation>Devenir&#xa0;: désintégrée, sortie (de la chambre) ou plein&#xa0;: trace coupée, l’événement n’a plus de place.</translation>
     </message>
     <message>
         <source>straight</source>
@@ -2016,6 +2008,17 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <message>
         <source>%1 cm</source>
         <translation>%1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::ProjectorWindow</name>
+    <message>
+        <source>Projection</source>
+        <translation>Projection</translation>
+    </message>
+    <message>
+        <source>Part of the projection that is seen</source>
+        <translation>Partie visible de la projection</translation>
     </message>
 </context>
 <context>
