@@ -14,6 +14,7 @@
 #include "app/commands.h"
 #include "app/event_documents.h"
 #include "app/event_exports.h"
+#include "app/event_telling.h"
 #include "app/help_commands.h"
 #include "app/menus.h"
 #include "app/picture_commands.h"
@@ -76,6 +77,11 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   help_->addTo(*commands_);
   controller_->awakeFromNib();
   numbering_ = std::make_unique<EventNumbering>(model_);
+  telling_ =
+      std::make_unique<EventTelling>(model_, *numbering_, *chamber_window_, *projector_window_);
+  telling_->setSeed(seed);
+  telling_->setBeginKey(items.new_event_item->shortcut());
+  telling_->refresh();
   commands_->refresh();
 }
 

@@ -21,6 +21,7 @@ class ChamberWindow;
 class Commands;
 class EventDocuments;
 class EventExports;
+class EventTelling;
 class GLPanel;
 class HelpCommands;
 class MeasurementFiles;
@@ -98,6 +99,7 @@ class Application : public QObject {
   std::unique_ptr<EventExports> exports_;
   std::unique_ptr<PictureFiles> pictures_;
   std::unique_ptr<EventNumbering> numbering_;
+  std::unique_ptr<EventTelling> telling_;
   std::unique_ptr<MeasurementFiles> measurement_files_;
   std::unique_ptr<HelpCommands> help_;
   UserDialogs& dialogs_;

@@ -101,7 +101,7 @@ void PictureFiles::copyPicture() {
   const bool values = chamber_.show_values() && !chamber_.is_rotating();
   const auto picture = is_chamber ? chamber_.picture(scale, values) : projection_.picture(scale);
   if (picture) {
-    QApplication::clipboard()->setImage(picture->convertToFormat(QImage::Format_RGB32));
+    QApplication::clipboard()->setImage(*picture);
   } else {
     tellTooLarge((QSizeF(sizeOf(*view)) * scale).toSize());
   }
@@ -120,17 +120,20 @@ bool PictureFiles::hasEvent() const {
   return chamber_.has_event();
 }
 
-std::vector<LegendLine> PictureFiles::legendOf(View view) const {
+std::vector<LegendLine> PictureFiles::legendOf(View view, PictureFormat format) const {
   const ChamberModel& model = controller_.model();
+  // The projection as lines on paper has no colours.
+  const bool has_colors = view == View::chamber ||
+                          (model.preferences().colored_projector && format == PictureFormat::png);
   return legend_lines(legend_of(*model.shown()->tracks, model.answersShown()),
-                      view == View::chamber ? TrackColoring::by_code : TrackColoring::white);
+                      has_colors ? TrackColoring::by_code : TrackColoring::white);
 }
 
 PictureOffer PictureFiles::offerFor(View view) const {
   PictureOffer offer{
       .formats = {PictureFormat::png},
       .has_values = hasEvent(),
-      .has_legend = !legendOf(view).empty(),
+      .has_legend = !legendOf(view, PictureFormat::png).empty(),
       .size = [this, view](const PictureChoices& choices) { return sizeOfFile(view, choices); }};
   if (view == View::projection) {
     offer.formats.insert(offer.formats.end(), {PictureFormat::svg, PictureFormat::pdf});
@@ -145,7 +148,7 @@ PictureCaption PictureFiles::captionOf(View view, const PictureChoices& choices)
     caption.values = QString::fromStdString(chamber_.values_text());
   }
   if (choices.legend) {
-    caption.legend = legendOf(view);
+    caption.legend = legendOf(view, choices.format);
   }
   return caption;
 }

@@ -50,7 +50,7 @@ class PictureFiles : public QObject {
   [[nodiscard]] QString titleOf(View view) const;
   [[nodiscard]] QSize sizeOf(View view) const;
   [[nodiscard]] bool hasEvent() const;
-  [[nodiscard]] std::vector<LegendLine> legendOf(View view) const;
+  [[nodiscard]] std::vector<LegendLine> legendOf(View view, PictureFormat format) const;
   [[nodiscard]] PictureOffer offerFor(View view) const;
   [[nodiscard]] PictureCaption captionOf(View view, const PictureChoices& choices) const;
   [[nodiscard]] ProjectionDrawing drawing(const PictureChoices& choices) const;

@@ -15,6 +15,7 @@ namespace velquon {
 
 ChamberView::ChamberView(ChamberModel& model, QWidget* parent)
     : GLView(parent), model_(model), event_(model.shown()) {
+  setFocusPolicy(Qt::StrongFocus);
   step_timer_.setSingleShot(true);
   step_timer_.setTimerType(Qt::PreciseTimer);
   connect(&step_timer_, &QTimer::timeout, this, &ChamberView::rotate);
@@ -95,7 +96,12 @@ std::string ChamberView::valuesOnPageOf(const Printable& printed) const {
 }
 
 SceneOptions ChamberView::sceneOptions() const {
-  return {.axes = show_axes(), .values = valuesOnPageOf(*this), .marked = model_.marked()};
+  const ChamberPreferences& preferences = model_.preferences();
+  return {.axes = show_axes(),
+          .values = valuesOnPageOf(*this),
+          .marked = model_.marked(),
+          .axis_letters = preferences.axis_letters,
+          .field_kG = preferences.field_arrow ? std::optional(B_field()) : std::nullopt};
 }
 
 template <typename Change>

@@ -60,9 +60,14 @@ QSize ProjectionView::pictureSize() const {
 
 std::optional<QImage> ProjectionView::picture(double scale) const {
   const QSize size = pictureSize();
-  return draw_off_screen((QSizeF(size) * scale).toSize(), [&] {
-    scene_.draw(QRectF(QPointF(0.0, 0.0), size), scale, projector_, {.marked = marked_});
+  auto picture = draw_off_screen((QSizeF(size) * scale).toSize(), [&] {
+    scene_.draw(QRectF(QPointF(0.0, 0.0), size), scale, projector_,
+                {.marked = marked_, .colored = colored_});
   });
+  if (picture) {
+    picture->convertTo(QImage::Format_RGB32);
+  }
+  return picture;
 }
 
 void ProjectionView::paint(QPainter& page) {
@@ -81,7 +86,8 @@ void ProjectionView::makeDisplayPoints() {
 }
 
 void ProjectionView::drawRect() {
-  scene_.draw(visibleRect(), pixelRatio(), projector_, {.marked = marked_, .cross = &cross_});
+  scene_.draw(visibleRect(), pixelRatio(), projector_,
+              {.marked = marked_, .colored = colored_, .cross = &cross_});
 }
 
 void ProjectionView::reshape() {
