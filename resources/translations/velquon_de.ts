@@ -816,7 +816,7 @@ Soll die Datei ersetzt werden?</translation>
     </message>
     <message>
         <source>You should know...</source>
-        <translation>Das sollten Sie wissen…</translation>
+        <translation>Das sollten Sie wissen...</translation>
     </message>
     <message>
         <source>The event was created with the chamber&apos;s magnetic field set to a negative value.  The controls and display will show the absolute value of the field.</source>
