@@ -33,12 +33,10 @@ constexpr std::array keys{
     Qt::Key_F,      Qt::Key_G,        Qt::Key_J,      Qt::Key_K,       Qt::Key_L,
     Qt::Key_M,      Qt::Key_N,        Qt::Key_R,      Qt::Key_S,       Qt::Key_T,
     Qt::Key_X,      Qt::Key_Y,        Qt::Key_Z,      Qt::Key_Plus,    Qt::Key_Minus};
-constexpr std::array modifiers{Qt::KeyboardModifiers(Qt::NoModifier),
-                               Qt::KeyboardModifiers(Qt::NoModifier),
-                               Qt::KeyboardModifiers(Qt::ControlModifier),
-                               Qt::KeyboardModifiers(Qt::ShiftModifier),
-                               Qt::KeyboardModifiers(Qt::AltModifier),
-                               Qt::ControlModifier | Qt::ShiftModifier};
+constexpr std::array modifiers{
+    Qt::KeyboardModifiers(Qt::NoModifier),      Qt::KeyboardModifiers(Qt::NoModifier),
+    Qt::KeyboardModifiers(Qt::ControlModifier), Qt::KeyboardModifiers(Qt::ShiftModifier),
+    Qt::KeyboardModifiers(Qt::AltModifier),     Qt::ControlModifier | Qt::ShiftModifier};
 constexpr std::array buttons{Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::RightButton,
                              Qt::MiddleButton};
 constexpr std::array texts{"5", "0", "-1", "1e308", "nan", "2.5", "1,5", "9999999999", "", "kink"};
@@ -93,7 +91,8 @@ int Monkey::play(int seconds) {
 }
 
 void Monkey::start() {
-  application_ = std::make_unique<Application>(static_cast<std::uint32_t>(chance_.below(1000)), dialogs_);
+  application_ =
+      std::make_unique<Application>(static_cast<std::uint32_t>(chance_.below(1000)), dialogs_);
   application_->showWindows();
 }
 
@@ -147,7 +146,8 @@ QWidget* Monkey::target() {
   QList<QWidget*> inside{top};
   const auto widgets = top->findChildren<QWidget*>();
   for (QWidget* const widget : widgets) {
-    if (widget->isVisible() && widget->window() == top && widget->width() > 0 && widget->height() > 0) {
+    if (widget->isVisible() && widget->window() == top && widget->width() > 0 &&
+        widget->height() > 0) {
       inside << widget;
     }
   }
