@@ -366,6 +366,22 @@
         <source>Show the view in front over the whole screen; Escape ends it</source>
         <translation>Mostrar la vista del frente en toda la pantalla; Escape termina</translation>
     </message>
+    <message>
+        <source>Show &amp;Legend</source>
+        <translation>Mostrar la le&amp;yenda</translation>
+    </message>
+    <message>
+        <source>Axis L&amp;etters</source>
+        <translation>Letras de los e&amp;jes</translation>
+    </message>
+    <message>
+        <source>&amp;Field Arrow</source>
+        <translation>Flecha del &amp;campo</translation>
+    </message>
+    <message>
+        <source>&amp;Colored Tracks in Projector</source>
+        <translation>&amp;Trazas de color en el proyector</translation>
+    </message>
 </context>
 <context>
     <name>ProjectorWindow</name>
@@ -862,6 +878,17 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>velquon::EventTelling</name>
+    <message>
+        <source>Choose an event and press New Event (%1).</source>
+        <translation>Elija un suceso y pulse Nuevo suceso (%1).</translation>
+    </message>
+    <message>
+        <source>There is no event yet.</source>
+        <translation>Todavía no hay ningún suceso.</translation>
+    </message>
+</context>
+<context>
     <name>velquon::EventText</name>
     <message>
         <source>the %1 decayed</source>
@@ -1252,6 +1279,17 @@ Do you want to replace it?</source>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::LegendStrip</name>
+    <message>
+        <source>Legend</source>
+        <translation>Leyenda</translation>
+    </message>
+    <message>
+        <source>Legend: %1</source>
+        <translation>Leyenda: %1</translation>
     </message>
 </context>
 <context>

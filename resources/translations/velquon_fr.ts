@@ -366,6 +366,22 @@
         <source>Show the view in front over the whole screen; Escape ends it</source>
         <translation>Montrer la vue au premier plan sur tout l’écran&#xa0;; Échap y met fin</translation>
     </message>
+    <message>
+        <source>Show &amp;Legend</source>
+        <translation>Afficher la &amp;légende</translation>
+    </message>
+    <message>
+        <source>Axis L&amp;etters</source>
+        <translation>L&amp;ettres des axes</translation>
+    </message>
+    <message>
+        <source>&amp;Field Arrow</source>
+        <translation>Flèche du &amp;champ</translation>
+    </message>
+    <message>
+        <source>&amp;Colored Tracks in Projector</source>
+        <translation>Traces en couleurs dans le &amp;projecteur</translation>
+    </message>
 </context>
 <context>
     <name>ProjectorWindow</name>
@@ -862,6 +878,17 @@ Voulez-vous le remplacer&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>velquon::EventTelling</name>
+    <message>
+        <source>Choose an event and press New Event (%1).</source>
+        <translation>Choisissez un événement et pressez Nouvel événement (%1).</translation>
+    </message>
+    <message>
+        <source>There is no event yet.</source>
+        <translation>Il n’y a pas encore d’événement.</translation>
+    </message>
+</context>
+<context>
     <name>velquon::EventText</name>
     <message>
         <source>the %1 decayed</source>
@@ -1252,6 +1279,17 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::LegendStrip</name>
+    <message>
+        <source>Legend</source>
+        <translation>Légende</translation>
+    </message>
+    <message>
+        <source>Legend: %1</source>
+        <translation>Légende&#xa0;: %1</translation>
     </message>
 </context>
 <context>

@@ -366,6 +366,22 @@
         <source>Show the view in front over the whole screen; Escape ends it</source>
         <translation>Mostra la vista davanti su tutto lo schermo; Esc termina</translation>
     </message>
+    <message>
+        <source>Show &amp;Legend</source>
+        <translation>Mostra la &amp;legenda</translation>
+    </message>
+    <message>
+        <source>Axis L&amp;etters</source>
+        <translation>Lettere de&amp;gli assi</translation>
+    </message>
+    <message>
+        <source>&amp;Field Arrow</source>
+        <translation>Freccia del &amp;campo</translation>
+    </message>
+    <message>
+        <source>&amp;Colored Tracks in Projector</source>
+        <translation>&amp;Tracce colorate nel proiettore</translation>
+    </message>
 </context>
 <context>
     <name>ProjectorWindow</name>
@@ -862,6 +878,17 @@ Vuoi sostituirlo?</translation>
     </message>
 </context>
 <context>
+    <name>velquon::EventTelling</name>
+    <message>
+        <source>Choose an event and press New Event (%1).</source>
+        <translation>Scegli un evento e premi Nuovo evento (%1).</translation>
+    </message>
+    <message>
+        <source>There is no event yet.</source>
+        <translation>Non c’è ancora nessun evento.</translation>
+    </message>
+</context>
+<context>
     <name>velquon::EventText</name>
     <message>
         <source>the %1 decayed</source>
@@ -1252,6 +1279,17 @@ Vuoi sostituirlo?</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::LegendStrip</name>
+    <message>
+        <source>Legend</source>
+        <translation>Legenda</translation>
+    </message>
+    <message>
+        <source>Legend: %1</source>
+        <translation>Legenda: %1</translation>
     </message>
 </context>
 <context>
