@@ -41,6 +41,14 @@
 
 namespace velquon {
 
+namespace {
+
+TrackColoring coloring_of_projector(const ChamberModel& model) {
+  return model.preferences().colored_projector ? TrackColoring::by_code : TrackColoring::white;
+}
+
+}  // namespace
+
 Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs)
     : model_(seed),
       screen_room_(std::make_unique<ScreenRoom>()),
@@ -269,7 +277,7 @@ void Application::addPresentation() {
                        .area = projector_window_->area(),
                        .texts = [this, legend] {
                          return PresentedTexts{.title = projector_window_->title(),
-                                               .legend = legend(TrackColoring::white),
+                                               .legend = legend(coloring_of_projector(model_)),
                                                .readings = projector_window_->shownReadings()};
                        }});
   const auto refresh = [presentations = QPointer(presentations_.get())] {

@@ -21,8 +21,8 @@ class StatusLine : public QLabel {
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
-  /// The same for every text, so that the picture above keeps its size.
-  [[nodiscard]] int heightForWidth(int /*width*/) const override { return sizeHint().height(); }
+  /// The height is the same for every text, so that the picture above keeps its size.
+  [[nodiscard]] bool hasHeightForWidth() const override { return false; }
 
  protected:
   void changeEvent(QEvent* event) override;

@@ -270,7 +270,7 @@ TEST_F(PictureFilesTest, TheCaptionStandsBelowThePicture) {
   }
 }
 
-TEST_F(PictureFilesTest, AReplayedOrTurnedChamberIsSavedAsItStands) {
+TEST_F(PictureFilesTest, ATurnedChamberIsSavedAsItStands) {
   const QImage before = saved(chamberWindow(), plain_picture);
   drag(chamber(), {300, 250}, {350, 220});
   const QImage turned = saved(chamberWindow(), plain_picture);
@@ -424,7 +424,7 @@ TEST_F(PictureFilesTest, CtrlCInATextFieldCopiesItsText) {
     return QApplication::focusWidget() != nullptr &&
            QApplication::focusWidget()->inherits("QAbstractSpinBox");
   }));
-  EXPECT_EQ(textCopiedIn(chamberWindow()).left(2), QStringLiteral("2 "));
+  EXPECT_EQ(textCopiedIn(chamberWindow()), QStringLiteral("2"));
 }
 
 TEST_F(PictureFilesTest, CtrlCInATableOrInTheGuideCopiesItsText) {
@@ -462,7 +462,6 @@ TEST_F(PictureFilesTest, EightTimesTheSizeTakesTwoSecondsOfTheProcessorAtMost) {
     ASSERT_TRUE(picture);
     const auto file = png_file(with_caption(*picture, 8.0, {}).value_or(QImage()), 8.0, {});
     ASSERT_TRUE(file);
-    std::printf("%f\n", seconds() - before);
     EXPECT_LT(seconds() - before, 2.0);
   }
 }
