@@ -105,6 +105,9 @@ class ChamberView : public GLView, public Printable {
   /// click from the time of a replay.
   void replay();
 
+  /// Whether the key or button that is being handled was pressed while a replay ran.
+  [[nodiscard]] bool handlesLateInput() const { return late_input_.is_handled(); }
+
   void paint(QPainter& page) override;
 
   /// Where the chamber is seen from, without regard to the part of the picture that is scrolled to.
