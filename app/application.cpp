@@ -14,8 +14,11 @@
 #include "app/commands.h"
 #include "app/event_documents.h"
 #include "app/event_exports.h"
-#include "app/guide_window.h"
+#include "app/event_telling.h"
+#include "app/help_commands.h"
 #include "app/menus.h"
+#include "app/picture_commands.h"
+#include "app/picture_files.h"
 #include "app/presentations.h"
 #include "app/readable_style.h"
 #include "app/track_commands.h"
@@ -38,6 +41,14 @@
 
 namespace velquon {
 
+namespace {
+
+TrackColoring coloring_of_projector(const ChamberModel& model) {
+  return model.preferences().colored_projector ? TrackColoring::by_code : TrackColoring::white;
+}
+
+}  // namespace
+
 Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs)
     : model_(seed),
       screen_room_(std::make_unique<ScreenRoom>()),
@@ -48,7 +59,10 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
                                                       dialogs)),
       documents_(std::make_unique<EventDocuments>(*controller_, dialogs)),
       exports_(std::make_unique<EventExports>(model_, dialogs)),
+      pictures_(std::make_unique<PictureFiles>(*controller_, *chamber_window_->view(),
+                                               *projector_window_->view(), dialogs)),
       measurement_files_(std::make_unique<MeasurementFiles>(measurements_, dialogs)),
+      help_(std::make_unique<HelpCommands>(*menus_)),
       dialogs_(dialogs),
       presentations_(std::make_unique<Presentations>()),
       commands_(std::make_unique<Commands>()) {
@@ -62,14 +76,20 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   connect(projector_window_.get(), &ProjectorWindow::recordAsked, this,
           &Application::recordReadings);
   addFileCommands();
+  add_picture_commands(*commands_, items, *pictures_, [this] { return numbering_->nameOfShown(); });
   add_worksheet_command(*commands_, items, model_, dialogs);
   add_chamber_commands(*commands_, items, *controller_, *chamber_window_->view());
   addTrackCommands();
   addWindowCommands();
   addPresentation();
-  addHelpCommands();
+  help_->addTo(*commands_);
   controller_->awakeFromNib();
   numbering_ = std::make_unique<EventNumbering>(model_);
+  telling_ =
+      std::make_unique<EventTelling>(model_, *numbering_, *chamber_window_, *projector_window_);
+  telling_->setSeed(seed);
+  telling_->setBeginKey(items.new_event_item->shortcut());
+  telling_->refresh();
   commands_->refresh();
 }
 
@@ -262,7 +282,7 @@ void Application::addPresentation() {
                        .area = projector_window_->area(),
                        .texts = [this, legend] {
                          return PresentedTexts{.title = projector_window_->title(),
-                                               .legend = legend(TrackColoring::white),
+                                               .legend = legend(coloring_of_projector(model_)),
                                                .readings = projector_window_->shownReadings()};
                        }});
   const auto refresh = [presentations = QPointer(presentations_.get())] {
@@ -273,22 +293,6 @@ void Application::addPresentation() {
   for (Listeners* const changes : {&model_.changed, &projector_.changed, &track_model_.changed}) {
     changes->add(refresh);
   }
-}
-
-void Application::addHelpCommands() {
-  const Ui::Menus& items = menus_->items();
-  commands_->add(
-      {{.item = items.guide_item, .run = [this] { showGuide(); }},
-       {.item = items.about_item, .run = [] { show_about(QApplication::activeWindow()); }}});
-}
-
-void Application::showGuide() {
-  if (!guide_window_) {
-    guide_window_ = std::make_unique<GuideWindow>();
-  }
-  guide_window_->show();
-  guide_window_->raise();
-  guide_window_->activateWindow();
 }
 
 }  // namespace velquon

@@ -21,11 +21,13 @@ class ChamberWindow;
 class Commands;
 class EventDocuments;
 class EventExports;
+class EventTelling;
 class GLPanel;
-class GuideWindow;
+class HelpCommands;
 class MeasurementFiles;
 class MeasurementsWindow;
 class Menus;
+class PictureFiles;
 class Presentations;
 class ProjectorWindow;
 class RecordWindow;
@@ -78,8 +80,6 @@ class Application : public QObject {
   void addFileCommands();
   void addWindowCommands();
   void addPresentation();
-  void addHelpCommands();
-  void showGuide();
   /// Ends the program, unless the user wants to keep measurements that are not saved.
   void quit();
 
@@ -91,15 +91,17 @@ class Application : public QObject {
   std::unique_ptr<Menus> menus_;
   std::unique_ptr<ChamberWindow> chamber_window_;
   std::unique_ptr<ProjectorWindow> projector_window_;
-  std::unique_ptr<TrackWindow> track_window_;    ///< made when first asked for, as the guide is
+  std::unique_ptr<TrackWindow> track_window_;    ///< made when first asked for
   std::unique_ptr<RecordWindow> record_window_;  ///< likewise
-  std::unique_ptr<GuideWindow> guide_window_;
   std::unique_ptr<MeasurementsWindow> measurements_window_;  ///< likewise
   std::unique_ptr<ChamberController> controller_;
   std::unique_ptr<EventDocuments> documents_;
   std::unique_ptr<EventExports> exports_;
+  std::unique_ptr<PictureFiles> pictures_;
   std::unique_ptr<EventNumbering> numbering_;
+  std::unique_ptr<EventTelling> telling_;
   std::unique_ptr<MeasurementFiles> measurement_files_;
+  std::unique_ptr<HelpCommands> help_;
   UserDialogs& dialogs_;
   std::unique_ptr<Presentations> presentations_;
   std::unique_ptr<Commands> commands_;

@@ -49,6 +49,17 @@ void add_settings(Commands& commands, const Ui::Menus& menus, ChamberController&
   const auto toggle = [&](ChamberPreference preference) {
     return [&controller, preference] { controller.set_chamber_prefs(preference); };
   };
+  const auto choice = [&](QAction* item, bool ChamberPreferences::*preference) {
+    return Command{
+        .item = item,
+        .run = [&controller, preference] { controller.togglePreference(preference); },
+        .is_checked = [&controller,
+                       preference] { return controller.model().preferences().*preference; }};
+  };
+  commands.add({choice(menus.legend_item, &ChamberPreferences::show_legend),
+                choice(menus.axis_letters_item, &ChamberPreferences::axis_letters),
+                choice(menus.field_arrow_item, &ChamberPreferences::field_arrow),
+                choice(menus.colored_projector_item, &ChamberPreferences::colored_projector)});
   commands.add({{.item = menus.axes_item,
                  .run = toggle(ChamberPreference::axes),
                  .is_checked = [&] { return view.show_axes(); }},

@@ -199,6 +199,13 @@ void ChamberController::set_chamber_prefs(ChamberPreference preference) {
   }
 }
 
+void ChamberController::togglePreference(bool ChamberPreferences::*preference) {
+  ChamberPreferences preferences = model_.preferences();
+  preferences.*preference = !(preferences.*preference);
+  model_.setPreferences(preferences);
+  displayViews();
+}
+
 bool ChamberController::validateMenuItem(const QAction& item) const {
   return item.objectName() != QStringLiteral("print_item") || print_view_ != nullptr;
 }
@@ -235,6 +242,7 @@ void ChamberController::handOver() {
   chamber_view_.show(model_.shown());
   projection_view_.show(model_.shown());
   projection_view_.mark(model_.marked());
+  projection_view_.setColored(model_.preferences().colored_projector);
 }
 
 }  // namespace velquon

@@ -94,6 +94,8 @@ class ChamberController : public QObject {
   void set_slomo();
   /// Switches a preference on or off.
   void set_chamber_prefs(ChamberPreference preference);
+  /// Switches one of the model's preferences on or off, and draws both views.
+  void togglePreference(bool ChamberPreferences::*preference);
 
   /// Whether an item of this controller may be chosen now.
   [[nodiscard]] bool validateMenuItem(const QAction& item) const;

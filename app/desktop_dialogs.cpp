@@ -6,11 +6,14 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSettings>
+#include <QTreeView>
+#include <algorithm>
 
 #include "app/command_line.h"
 #include "app/plain_file_icons.h"
@@ -53,6 +56,14 @@ QString chosen_file(QFileDialog& dialog) {
 void prepare(QFileDialog& dialog, PlainFileIcons& icons) {
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setIconProvider(&icons);
+  // Titles of columns are longer in some languages than the widths they are given.
+  if (auto* const list = dialog.findChild<QTreeView*>()) {
+    QHeaderView& header = *list->header();
+    for (int column = 1; column < header.count(); ++column) {
+      header.resizeSection(column,
+                           std::max(header.sectionSize(column), header.sectionSizeHint(column)));
+    }
+  }
 }
 
 /// The path with the ending that the dialogs look for: one in other letters, of which the suggested

@@ -47,8 +47,13 @@ Menus::Menus()
 
 Menus::~Menus() = default;
 
+QList<QAction*> Menus::menus() const {
+  return owner_->actions();
+}
+
 void Menus::installIn(QMainWindow& window) const {
-  for (QAction* const menu : owner_->actions()) {
+  const auto all = menus();
+  for (QAction* const menu : all) {
     window.menuBar()->addMenu(menu->menu());
   }
 }

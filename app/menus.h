@@ -3,8 +3,10 @@
 
 #pragma once
 
+#include <QList>
 #include <memory>
 
+class QAction;
 class QMainWindow;
 class QMenuBar;
 
@@ -29,6 +31,9 @@ class Menus {
 
   /// Puts the menus into a window's bar.
   void installIn(QMainWindow& window) const;
+
+  /// The menus, in their order in the bar.
+  [[nodiscard]] QList<QAction*> menus() const;
 
   /// The items and menus by their names.
   const Ui::Menus& items() const { return *ui_; }

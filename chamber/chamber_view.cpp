@@ -7,6 +7,7 @@
 
 #include <utility>
 
+#include "chamber/chamber_picture.h"
 #include "chamber/input_watch.h"
 #include "printing/chamber_page.h"
 
@@ -14,6 +15,7 @@ namespace velquon {
 
 ChamberView::ChamberView(ChamberModel& model, QWidget* parent)
     : GLView(parent), model_(model), event_(model.shown()) {
+  setFocusPolicy(Qt::StrongFocus);
   step_timer_.setSingleShot(true);
   step_timer_.setTimerType(Qt::PreciseTimer);
   connect(&step_timer_, &QTimer::timeout, this, &ChamberView::rotate);
@@ -61,6 +63,13 @@ void ChamberView::paint(QPainter& page) {
   paint_chamber(page, data_ptr(), camera_, show_axes());
 }
 
+std::optional<QImage> ChamberView::picture(double scale, bool values) const {
+  SceneOptions options = sceneOptions();
+  options.values = values && has_event() ? values_text() : std::string();
+  const auto shown = data_ptr().first(static_cast<std::size_t>(point_number_));
+  return chamber_picture(shown, camera_, scale, options);
+}
+
 void ChamberView::drawRect() {
   const QPointF origin = visibleRect().topLeft();
   scene_.draw(camera_.scrolled(origin.x(), origin.y()), pixelRatio(),
@@ -87,7 +96,12 @@ std::string ChamberView::valuesOnPageOf(const Printable& printed) const {
 }
 
 SceneOptions ChamberView::sceneOptions() const {
-  return {.axes = show_axes(), .values = valuesOnPageOf(*this), .marked = model_.marked()};
+  const ChamberPreferences& preferences = model_.preferences();
+  return {.axes = show_axes(),
+          .values = valuesOnPageOf(*this),
+          .marked = model_.marked(),
+          .axis_letters = preferences.axis_letters,
+          .field_kG = preferences.field_arrow ? std::optional(B_field()) : std::nullopt};
 }
 
 template <typename Change>

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QImage>
 #include <QTimer>
 #include <cstdint>
 #include <memory>
@@ -109,6 +110,12 @@ class ChamberView : public GLView, public Printable {
   [[nodiscard]] bool handlesLateInput() const { return late_input_.is_handled(); }
 
   void paint(QPainter& page) override;
+
+  /// The whole picture with as many points as are shown, drawn for a size of its own; opaque.
+  /// \param scale  pixels per view unit
+  /// \param values whether it has the line of values, if there is an event
+  /// \return nothing when the graphics driver makes no picture of that size
+  [[nodiscard]] std::optional<QImage> picture(double scale, bool values) const;
 
   /// Where the chamber is seen from, without regard to the part of the picture that is scrolled to.
   [[nodiscard]] const Camera& camera() const { return camera_; }

@@ -13,6 +13,7 @@
 #include "chamber/chamber_view.h"
 #include "ui_chamber_window.h"
 #include "widgets/wheel_guard.h"
+#include "wording/told_event.h"
 
 namespace velquon {
 
@@ -62,6 +63,9 @@ ChamberWindow::ChamberWindow(ChamberModel& model)
   view_->setAccessibleName(tr("Particle chamber"));
   ui_->chamber_area->setAccessibleName(tr("Part of the chamber that is seen"));
   ui_->chamber_area->setView(view_, {chamber_width, chamber_height});
+  ui_->chamber_focus_line->watch(view_);
+  ui_->chamber_legend->setRoomFor(usual_legend(TrackColoring::by_code), chamber_width);
+  ui_->chamber_status->setRoomFor(long_status(), chamber_width);
   give_room_for(*ui_->magfield_text, QStringLiteral("B = 10.000 kG"));
   give_room_for(*ui_->sides_text, QStringLiteral("L = 10.000 m"));
   give_room_for(*ui_->kinetic_energy_text, QStringLiteral("T = 10000.0 MeV"));
@@ -73,6 +77,18 @@ ChamberWindow::~ChamberWindow() = default;
 
 ViewScrollArea* ChamberWindow::area() const {
   return ui_->chamber_area;
+}
+
+void ChamberWindow::tell(const ToldEvent& event) {
+  ui_->chamber_legend->setLegend(event.legend, event.spoken_legend);
+  ui_->chamber_status->tell(event.status);
+  if (event.spoken != view_->accessibleDescription()) {
+    view_->setAccessibleDescription(event.spoken);
+  }
+}
+
+void ChamberWindow::showLegend(bool show) {
+  ui_->chamber_legend->setVisible(show);
 }
 
 void ChamberWindow::keyPressEvent(QKeyEvent* event) {

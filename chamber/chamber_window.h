@@ -18,6 +18,7 @@ namespace velquon {
 class ChamberModel;
 class ChamberSettings;
 class ChamberView;
+struct ToldEvent;
 class ViewScrollArea;
 
 /// The window of the chamber view, with the controls of the chamber values below the view.
@@ -36,6 +37,10 @@ class ChamberWindow : public GLPanel {
   /// Puts items into the tool bar, and behind the first of them a button that shows which item of a
   /// menu is checked, and opens the menu.
   void fillToolBar(const QList<QAction*>& items, QMenu* event_menu);
+
+  /// Tells the shown event beside the picture and, to who cannot see it, in words.
+  void tell(const ToldEvent& event);
+  void showLegend(bool show);
 
  protected:
   /// Escape and Space stop the turntable where it is, unless what has the focus takes them.

@@ -24,10 +24,14 @@ namespace velquon {
 struct ChamberPreferences {
   bool show_axes = true;
   bool show_values = true;
-  bool reset_each = false;     ///< go back to the resting viewpoint for each new event
-  bool slomo = false;          ///< show each new event point by point
-  bool chamber_on_top = true;  ///< the window brought to the front with each new event
-  bool hide_answers = false;   ///< tell nothing of an event but what is seen, until asked to
+  bool reset_each = false;         ///< go back to the resting viewpoint for each new event
+  bool slomo = false;              ///< show each new event point by point
+  bool chamber_on_top = true;      ///< the window brought to the front with each new event
+  bool hide_answers = false;       ///< tell nothing of an event but what is seen, until asked to
+  bool show_legend = true;         ///< beside the pictures
+  bool axis_letters = false;       ///< at the tips of the chamber's axes
+  bool field_arrow = false;        ///< the direction of the magnetic field, in the chamber
+  bool colored_projector = false;  ///< the projector's points in the colours of their codes
 };
 
 /// What the program knows of its chamber: the kind and the values of the next event, how events are

@@ -27,6 +27,8 @@ class EventNumbering {
 
   /// Name and number of the shown event, such as "Untitled Type 1 Decay 3"; empty before the first.
   [[nodiscard]] std::string nameOfShown() const;
+  /// Number of the shown event; 0 before the first.
+  [[nodiscard]] std::uint64_t numberOfShown() const { return number_; }
 
  private:
   void look();

@@ -3,12 +3,14 @@
 
 #include "printing/projection_page.h"
 
-#include <QLineF>
+#include <QColor>
 #include <QPainter>
+#include <QPolygonF>
 #include <algorithm>
+#include <utility>
 #include <vector>
 
-#include "printing/page.h"
+#include "model/tool_lines.h"
 #include "render/feedback.h"
 
 namespace velquon {
@@ -50,15 +52,42 @@ std::vector<QRectF> squares_of(std::span<const PlotPoint> points, ProjectionPlan
   return squares;
 }
 
-/// The tape on the page; a null line while it is hidden.
-QLineF tape_on_page(const Projector& projector) {
-  Tape tape = projector.tape();
-  if (!tape.visible) {
-    return {};
-  }
+struct PaperLine {
+  QPolygonF places;
+  QColor color;
+};
+
+/// What the chosen tool has laid out, without lines that no page can hold.
+std::vector<PaperLine> tool_lines_on_page(const Projector& projector, const QColor& ink) {
   // Pictures hang from the top.
-  tape.moveBy({0.0, projection_height - projector.viewHeight()});
-  return {on_page(tape.start), on_page(tape.end)};
+  const Place shift{0.0, projection_height - projector.viewHeight()};
+  std::vector<PaperLine> lines;
+  for (const ToolLine& line : tool_lines(projector)) {
+    PaperLine on_paper{{}, line.is_faint ? frame_gray : ink};
+    for (const Place place : line.places) {
+      on_paper.places << on_page(place + shift);
+    }
+    if (std::ranges::all_of(on_paper.places, can_be_on_paper)) {
+      lines.push_back(std::move(on_paper));
+    }
+  }
+  return lines;
+}
+
+void paint_lines(QPainter& page, const std::vector<PaperLine>& lines) {
+  const QPen pen = page.pen();
+  QPen line_pen = pen;
+  for (const PaperLine& line : lines) {
+    line_pen.setColor(line.color);
+    page.setPen(line_pen);
+    // A tape of no length leaves no mark.
+    if (line.places.size() > 2) {
+      page.drawPolyline(line.places);
+    } else if (line.places.front() != line.places.back()) {
+      page.drawLine(line.places.front(), line.places.back());
+    }
+  }
+  page.setPen(pen);
 }
 
 QRectF frame_on_page(const ProjectionMapping& mapping) {
@@ -72,28 +101,33 @@ QRectF projection_frame(const Projector& projector) {
   return frame_on_page(projector.mappingAt(projection_height));
 }
 
-void paint_projection(QPainter& page, std::span<const PlotPoint> points,
-                      const Projector& projector) {
+QPointF projection_top_left() {
+  return QPointF(0.0, projection_height) + page_offset;
+}
+
+void paint_projection(QPainter& page, std::span<const PlotPoint> points, const Projector& projector,
+                      const QRectF& room) {
   const ProjectionMapping mapping = projector.mappingAt(projection_height);
   const QRectF frame = frame_on_page(mapping);
   const std::vector<QRectF> squares = squares_of(points, projector.plane(), mapping);
-  const QLineF tape = tape_on_page(projector);
-  const auto reaches_header = [](double top) { return top > page_picture.bottom(); };
+  const std::vector<PaperLine> lines = tool_lines_on_page(projector, page.pen().color());
+  const auto reaches_above = [&](double top) { return top > room.bottom(); };
   const bool is_clipped =
-      reaches_header(frame.bottom()) || reaches_header(std::max(tape.y1(), tape.y2())) ||
+      reaches_above(frame.bottom()) ||
       std::ranges::any_of(squares,
-                          [&](const QRectF& square) { return reaches_header(square.bottom()); });
+                          [&](const QRectF& square) { return reaches_above(square.bottom()); }) ||
+      std::ranges::any_of(lines, [&](const PaperLine& line) {
+        return reaches_above(line.places.boundingRect().bottom());
+      });
   if (is_clipped) {
     page.save();
-    page.setClipRect(page_picture, Qt::IntersectClip);
+    page.setClipRect(room, Qt::IntersectClip);
   }
   paint_frame(page, frame);
   for (const QRectF& square : squares) {
     page.fillRect(square, Qt::black);
   }
-  if (!tape.isNull()) {
-    page.drawLine(tape);
-  }
+  paint_lines(page, lines);
   if (is_clipped) {
     page.restore();
   }

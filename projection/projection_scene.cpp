@@ -13,6 +13,7 @@
 
 #include "projection/tool_drawing.h"
 #include "render/line_arrays.h"
+#include "render/track_colors.h"
 
 namespace velquon {
 
@@ -43,6 +44,8 @@ void ProjectionScene::setPoints(std::span<const PlotPoint> points, ProjectionPla
   display_points_.clear();
   std::ranges::transform(points, std::back_inserter(display_points_),
                          [plane](const PlotPoint& point) { return project(point, plane); });
+  codes_.clear();
+  std::ranges::transform(points, std::back_inserter(codes_), &PlotPoint::code);
 }
 
 void ProjectionScene::draw(const QRectF& seen, double ratio, const Projector& projector,
@@ -56,7 +59,7 @@ void ProjectionScene::draw(const QRectF& seen, double ratio, const Projector& pr
   glTranslated(-seen.x(), -seen.y(), 0.0);
   // OpenGL counts the width of lines and the length of dots in device pixels.
   glLineWidth(static_cast<GLfloat>(ratio));
-  drawTracks(ratio, projector.mapping(), options.marked);
+  drawTracks(ratio, projector.mapping(), options);
   draw_tool(projector);
   if (options.cross != nullptr) {
     draw_cross(*options.cross);
@@ -65,21 +68,24 @@ void ProjectionScene::draw(const QRectF& seen, double ratio, const Projector& pr
 }
 
 void ProjectionScene::drawTracks(double ratio, const ProjectionMapping& mapping,
-                                 std::span<const std::size_t> marked) const {
+                                 const ProjectionOptions& options) const {
   glColor3f(1.0F, 1.0F, 1.0F);
   draw_dotted_frame(mapping.frame(), ratio);
   for (std::size_t point = 0; point < display_points_.size(); ++point) {
-    drawSquare(point, half_square, mapping);
+    drawSquare(point, half_square, mapping, options.colored);
   }
-  for (const std::size_t point : marked) {
+  for (const std::size_t point : options.marked) {
     if (point < display_points_.size()) {
-      drawSquare(point, half_marked_square, mapping);
+      drawSquare(point, half_marked_square, mapping, options.colored);
     }
   }
 }
 
 void ProjectionScene::drawSquare(std::size_t point, double half_side,
-                                 const ProjectionMapping& mapping) const {
+                                 const ProjectionMapping& mapping, bool colored) const {
+  if (colored) {
+    glColor3fv(track_color(codes_[point]).data());
+  }
   const auto [x, y] = mapping.map(display_points_[point]);
   glRectd(x - half_side, y - half_side, x + half_side, y + half_side);
 }

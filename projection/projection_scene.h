@@ -5,6 +5,7 @@
 
 #include <QRectF>
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <vector>
 
@@ -18,6 +19,7 @@ namespace velquon {
 struct ProjectionOptions {
   /// Points that are drawn larger: their indices, rising.
   std::span<const std::size_t> marked{};
+  bool colored = false;             ///< points in the colours of their codes; or white
   const KeyCross* cross = nullptr;  ///< drawn while it is seen; or null for none
 };
 
@@ -37,10 +39,12 @@ class ProjectionScene {
 
  private:
   void drawTracks(double ratio, const ProjectionMapping& mapping,
-                  std::span<const std::size_t> marked) const;
-  void drawSquare(std::size_t point, double half_side, const ProjectionMapping& mapping) const;
+                  const ProjectionOptions& options) const;
+  void drawSquare(std::size_t point, double half_side, const ProjectionMapping& mapping,
+                  bool colored) const;
 
   std::vector<Place> display_points_;
+  std::vector<std::int16_t> codes_;
 };
 
 }  // namespace velquon

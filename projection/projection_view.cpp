@@ -8,7 +8,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "printing/projection_foot.h"
 #include "printing/projection_page.h"
+#include "render/off_screen.h"
 
 namespace velquon {
 
@@ -52,7 +54,26 @@ void ProjectionView::setTool(ProjectorTool tool) {
   resetCursorRects();
 }
 
+QSize ProjectionView::pictureSize() const {
+  return {std::max(projection_width, width()), qRound(pictureHeight())};
+}
+
+std::optional<QImage> ProjectionView::picture(double scale) const {
+  const QSize size = pictureSize();
+  auto picture = draw_off_screen((QSizeF(size) * scale).toSize(), [&] {
+    scene_.draw(QRectF(QPointF(0.0, 0.0), size), scale, projector_,
+                {.marked = marked_, .colored = colored_});
+  });
+  if (picture) {
+    picture->convertTo(QImage::Format_RGB32);
+  }
+  return picture;
+}
+
 void ProjectionView::paint(QPainter& page) {
+  constexpr QPointF foot_place{55.0, 100.0};
+  // Below the picture, which may reach that far down.
+  paint_projection_foot(page, foot_place, projector_);
   paint_projection(page, event_->points(), projector_);
 }
 
@@ -65,7 +86,8 @@ void ProjectionView::makeDisplayPoints() {
 }
 
 void ProjectionView::drawRect() {
-  scene_.draw(visibleRect(), pixelRatio(), projector_, {.marked = marked_, .cross = &cross_});
+  scene_.draw(visibleRect(), pixelRatio(), projector_,
+              {.marked = marked_, .colored = colored_, .cross = &cross_});
 }
 
 void ProjectionView::reshape() {

@@ -4,9 +4,12 @@
 #pragma once
 
 #include <QCursor>
+#include <QImage>
 #include <QPointF>
+#include <QSize>
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -39,6 +42,10 @@ class ProjectionView : public GLView, public Printable {
   /// \param points their indices, rising
   void mark(std::vector<std::size_t> points) { marked_ = std::move(points); }
 
+  /// Whether the points are drawn in the colours of their track codes, on the screen and in pictures of
+  /// it, not on a page. Does not draw.
+  void setColored(bool colored) { colored_ = colored; }
+
   // A choice hides the tape and clears curve and angle.
 
   /// Chooses the plane; puts the picture back to its place.
@@ -56,11 +63,20 @@ class ProjectionView : public GLView, public Printable {
   [[nodiscard]] double scaler() const { return projector_.scaler(); }
   /// Distance between the tape's ends, cm of the chamber.
   [[nodiscard]] double tapeLength() const { return projector_.tapeLength(); }
+  [[nodiscard]] const Projector& projector() const { return projector_; }
   [[nodiscard]] ProjectionMapping mapping() const { return projector_.mapping(); }
   [[nodiscard]] ProjectionPlane projection_plane() const { return projector_.plane(); }
   [[nodiscard]] bool tape_visible() const { return projector_.tape().visible; }
   /// The cross that keys move.
   [[nodiscard]] const KeyCross& cross() const { return cross_; }
+
+  /// Size of the whole picture, of which a small window shows a part, view units.
+  [[nodiscard]] QSize pictureSize() const;
+  /// The whole picture as it is on the screen, without the cross, drawn for a size of its own;
+  /// opaque.
+  /// \param scale pixels per view unit
+  /// \return nothing when the graphics driver makes no picture of that size
+  [[nodiscard]] std::optional<QImage> picture(double scale) const;
 
   void paint(QPainter& page) override;
 
@@ -100,6 +116,7 @@ class ProjectionView : public GLView, public Printable {
   std::shared_ptr<const ShownEvent> event_ = std::make_shared<const ShownEvent>();
   ProjectionScene scene_;
   std::vector<std::size_t> marked_;
+  bool colored_ = false;
   QCursor cross_hair_cursor_;
   QCursor grabber_cursor_;
   double cursor_ratio_ = 0.0;  ///< device pixels to a pixel that the cursors are made for

@@ -16,6 +16,7 @@
 #include "widgets/number_text.h"
 #include "widgets/palette_icon.h"
 #include "widgets/view_scroll_area.h"
+#include "wording/told_event.h"
 
 namespace velquon {
 
@@ -79,6 +80,9 @@ ProjectorWindow::ProjectorWindow(Projector& projector)
     label->setMinimumHeight(2 * label->fontMetrics().lineSpacing());
   }
   ui_->projector_area->setView(view_, {projection_width, projection_height});
+  ui_->projector_focus_line->watch(view_);
+  ui_->projector_legend->setRoomFor(usual_legend(TrackColoring::by_code), projection_width);
+  ui_->projector_status->setRoomFor(long_status(), projection_width);
   connectButtons();
   connectKeys();
   projector_.changed.add([this] { showReading(); });
@@ -152,12 +156,36 @@ void ProjectorWindow::connectKeys() {
 void ProjectorWindow::showReading() {
   ui_->tape_text->setText(QStringLiteral("D = %1 cm").arg(fixed_text(projector_.reading(), 5, 2)));
   const QString readings = shown_readings(projector_);
+  // What to do next may take both lines in some languages; readings have lines of their own.
+  ui_->readings_text->setWordWrap(projector_.readings().empty());
   ui_->readings_text->setText(readings);
   ui_->readings_text->setVisible(!readings.isEmpty());
   ui_->tape_text->setVisible(readings.isEmpty());
   ui_->record_button->setEnabled(!projector_.readings().empty());
+  describePicture();
+}
+
+void ProjectorWindow::tell(const ToldEvent& event) {
+  ui_->projector_legend->setLegend(event.legend, event.spoken_legend);
+  ui_->projector_status->tell(event.status);
+  event_in_words_ = event.spoken;
+  describePicture();
+}
+
+void ProjectorWindow::showLegend(bool show) {
+  ui_->projector_legend->setVisible(show);
+}
+
+void ProjectorWindow::describePicture() {
   // A screen reader tells a description that changes while the view has the keys.
-  const QString spoken = spoken_readings(projector_);
+  // While one measures, each step is told alone.
+  const bool is_measuring = projector_.tape().visible ||
+                            !projector_.curve().points.places().empty() ||
+                            !projector_.angle().points.places().empty();
+  QString spoken = spoken_readings(projector_);
+  if (!is_measuring && !event_in_words_.isEmpty()) {
+    spoken = event_in_words_ + QLatin1Char(' ') + spoken;
+  }
   if (spoken != view_->accessibleDescription()) {
     view_->setAccessibleDescription(spoken);
   }

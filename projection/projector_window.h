@@ -3,9 +3,11 @@
 
 #pragma once
 
+#include <QString>
 #include <memory>
 
 #include "model/projector.h"
+#include "projection/projection_view.h"
 #include "widgets/gl_panel.h"
 
 class QAbstractButton;
@@ -16,8 +18,7 @@ class ProjectorWindow;
 
 namespace velquon {
 
-class ProjectionView;
-enum class ZoomTurn : bool;
+struct ToldEvent;
 class ViewScrollArea;
 
 /// The window of the projection view with the buttons of its planes, zooms and tools and what the
@@ -32,6 +33,11 @@ class ProjectorWindow : public GLPanel {
 
   [[nodiscard]] ProjectionView* view() const { return view_; }
   [[nodiscard]] ViewScrollArea* area() const;
+
+  /// Tells the shown event beside the picture and, to who cannot see it, in words, unless there is
+  /// something measured to tell.
+  void tell(const ToldEvent& event);
+  void showLegend(bool show);
   /// What the window says that the chosen tool reads, a line each.
   [[nodiscard]] QString shownReadings() const;
 
@@ -44,10 +50,12 @@ class ProjectorWindow : public GLPanel {
   void connectKeys();
   void zoomBy(ZoomTurn turn);
   void showReading();
+  void describePicture();
 
   std::unique_ptr<Ui::ProjectorWindow> ui_;
   Projector& projector_;
   ProjectionView* view_;
+  QString event_in_words_;
 };
 
 }  // namespace velquon

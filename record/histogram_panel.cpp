@@ -154,6 +154,7 @@ void HistogramPanel::listQuantities() {
   for (const Quantity quantity : quantities_) {
     quantity_popup_->addItem(model_text(name_of(quantity).name));
   }
+  quantity_popup_->setMinimumWidth(quantity_popup_->sizeHint().width());
   const int again = quantity_popup_->findText(chosen);
   quantity_popup_->setCurrentIndex(again >= 0 || quantities_.empty() ? again : 0);
 }

@@ -134,7 +134,8 @@ void MakeEventsDialog::layOut(std::size_t type) {
 void MakeEventsDialog::addRow(QFormLayout& form, const QString& label, QWidget* field,
                               const char* name) {
   field->setObjectName(QLatin1String(name));
-  field->setAccessibleName(QString(label).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+  field->setAccessibleName(
+      QString(label).remove(QLatin1Char('&')).remove(QLatin1Char(':')).trimmed());
   form.addRow(label, field);
 }
 

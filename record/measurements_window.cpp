@@ -176,6 +176,7 @@ void MeasurementsWindow::layOut() {
   layout->addWidget(splitter);
   setCentralWidget(content);
   table_->setFocus();
+  fitColumns(false);
   constexpr QSize window_size(1080, 480);
   resize(window_size);
 }

@@ -13,6 +13,7 @@
 #include "engine/chamber_values.h"
 #include "render/glut_start.h"
 #include "render/line_arrays.h"
+#include "render/scene_marks.h"
 #include "render/track_colors.h"
 
 namespace velquon {
@@ -69,6 +70,12 @@ void ChamberScene::draw(const Camera& camera, double scale, std::size_t points,
   draw_chamber(options.axes, [] { draw_wire_cube(static_cast<float>(CHAMBER_SIDE)); });
   cubes_.draw(points, camera.eye());
   drawMarked(options.marked, points, camera.eye());
+  if (options.axes && options.axis_letters) {
+    draw_axis_letters(camera);
+  }
+  if (options.field_kG.value_or(0.0) != 0.0) {
+    draw_field_arrow(camera, *options.field_kG);
+  }
   if (!options.values.empty()) {
     overlay_text_.draw(options.values, scale, camera);
   }

@@ -29,6 +29,8 @@ struct SceneOptions {
       values;  ///< line of the overlay, which stands still while the chamber turns; or empty
   /// Points that are drawn larger and over the others: their indices, rising.
   std::span<const std::size_t> marked{};
+  bool axis_letters = false;         ///< at the tips of the axes, where these are drawn
+  std::optional<double> field_kG{};  ///< along z, shown by an arrow unless it is 0; or no arrow
 };
 
 /// The picture of the chamber: its edges, axes and middle plane, and an event's points as cubes. On

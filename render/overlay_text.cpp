@@ -89,6 +89,15 @@ void OverlayText::draw(const std::string& text, double ratio, const Camera& came
   glPopClientAttrib();
 }
 
+std::array<double, 2> overlay_text_start(const Camera& camera) {
+  return camera.overlay().pixel(text_place);
+}
+
+int overlay_text_width(const std::string& text) {
+  need_glut();
+  return width_of(text);
+}
+
 void OverlayText::magnify(const std::string& text, double ratio) {
   constexpr int byte_bits = 8;
   constexpr unsigned first_bit = 0x80;

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -29,5 +30,11 @@ class OverlayText {
   int height_ = 0;
   std::vector<std::uint8_t> bits_;  ///< rows of whole bytes from the bottom, a bit a pixel
 };
+
+/// Where the text's baseline starts in a picture of the chamber's size, from its lower left corner.
+[[nodiscard]] std::array<double, 2> overlay_text_start(const Camera& camera);
+
+/// How long the text is in a picture of the chamber's size, view units.
+[[nodiscard]] int overlay_text_width(const std::string& text);
 
 }  // namespace velquon

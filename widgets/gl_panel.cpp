@@ -67,6 +67,11 @@ void GLPanel::setTitle(const QString& title) {
   setWindowTitle(QString(title).replace(mark, QLatin1String("[*][*]")));
 }
 
+QSize GLPanel::sizeHint() const {
+  const QWidget* const bar = menuWidget();
+  return QMainWindow::sizeHint().expandedTo({bar != nullptr ? bar->sizeHint().width() : 0, 0});
+}
+
 void GLPanel::makeKeyAndOrderFront() {
   came_to_front_ = std::chrono::steady_clock::now();
   bring_to_front(*this);

@@ -36,6 +36,9 @@ class GLPanel : public QMainWindow {
   /// Whether files may be dropped on the window; at first they may.
   void setTakesFiles(bool takes) { setAcceptDrops(takes); }
 
+  /// Wide enough for the menu bar, which Qt leaves out.
+  [[nodiscard]] QSize sizeHint() const override;
+
  Q_SIGNALS:
   void becameKey();
   void resignedKey();

@@ -346,6 +346,42 @@
         <source>&amp;About Velquon</source>
         <translation>Ü&amp;ber Velquon</translation>
     </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts</source>
+        <translation>&amp;Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Save Pic&amp;ture…</source>
+        <translation>Bi&amp;ld speichern…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Picture</source>
+        <translation>Bild &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Prese&amp;ntation</source>
+        <translation>P&amp;räsentation</translation>
+    </message>
+    <message>
+        <source>Show the view in front over the whole screen; Escape ends it</source>
+        <translation>Die vordere Ansicht über den ganzen Bildschirm zeigen; Escape beendet das</translation>
+    </message>
+    <message>
+        <source>Show &amp;Legend</source>
+        <translation>&amp;Legende zeigen</translation>
+    </message>
+    <message>
+        <source>Axis L&amp;etters</source>
+        <translation>Achsen&amp;buchstaben</translation>
+    </message>
+    <message>
+        <source>&amp;Field Arrow</source>
+        <translation>&amp;Feldpfeil</translation>
+    </message>
+    <message>
+        <source>&amp;Colored Tracks in Projector</source>
+        <translation>Farbige &amp;Spuren im Projektor</translation>
+    </message>
 </context>
 <context>
     <name>ProjectorWindow</name>
@@ -493,14 +529,6 @@ Soll die Datei ersetzt werden?</translation>
 <context>
     <name>track_panel</name>
     <message>
-        <source>Track</source>
-        <translation>Spur</translation>
-    </message>
-    <message>
-        <source>The particle&apos;s track. Drag with the mouse to measure it.</source>
-        <translation>Die Spur des Teilchens. Zum Messen mit der Maus ziehen.</translation>
-    </message>
-    <message>
         <source>Field</source>
         <translation>Feld</translation>
     </message>
@@ -521,10 +549,6 @@ Soll die Datei ersetzt werden?</translation>
         <translation>Das Feld, in dem sich das Teilchen bewegt</translation>
     </message>
     <message>
-        <source>Length measured by dragging in the picture; ten points of the picture are 1</source>
-        <translation>Durch Ziehen im Bild gemessene Länge; zehn Bildpunkte sind 1</translation>
-    </message>
-    <message>
         <source>Tape</source>
         <translation>Maßband</translation>
     </message>
@@ -543,6 +567,82 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>Clear</source>
         <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>In the field B₀ a particle of speed v runs on a circle with a radius of 2 units of the tape</source>
+        <translation>Im Feld B₀ läuft ein Teilchen der Geschwindigkeit v auf einem Kreis mit einem Radius von 2 Einheiten des Maßbands</translation>
+    </message>
+    <message>
+        <source>Length measured by dragging in the picture</source>
+        <translation>Durch Ziehen im Bild gemessene Länge</translation>
+    </message>
+    <message>
+        <source>A unit is ten points of the picture</source>
+        <translation>Eine Einheit sind zehn Bildpunkte</translation>
+    </message>
+    <message>
+        <source>Particle:</source>
+        <translation>Teilchen:</translation>
+    </message>
+    <message>
+        <source>Particle</source>
+        <translation>Teilchen</translation>
+    </message>
+    <message>
+        <source>The particle that is sent into the field</source>
+        <translation>Das Teilchen, das in das Feld geschossen wird</translation>
+    </message>
+    <message>
+        <source>Electron</source>
+        <translation>Elektron</translation>
+    </message>
+    <message>
+        <source>Positron</source>
+        <translation>Positron</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <translation>Richtung:</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>The way that the particle comes</source>
+        <translation>Der Weg, auf dem das Teilchen kommt</translation>
+    </message>
+    <message>
+        <source>Left to Right</source>
+        <translation>Nach rechts</translation>
+    </message>
+    <message>
+        <source>Right to Left</source>
+        <translation>Nach links</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation>Geschwindigkeit:</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>With v a particle goes one unit of the tape in ten steps</source>
+        <translation>Mit v legt ein Teilchen in zehn Schritten eine Einheit des Maßbands zurück</translation>
+    </message>
+    <message>
+        <source>v</source>
+        <translation>v</translation>
+    </message>
+    <message>
+        <source>2v</source>
+        <translation>2v</translation>
+    </message>
+    <message>
+        <source>3v</source>
+        <translation>3v</translation>
     </message>
 </context>
 <context>
@@ -716,7 +816,7 @@ Soll die Datei ersetzt werden?</translation>
     </message>
     <message>
         <source>You should know...</source>
-        <translation>Das sollten Sie wissen…</translation>
+        <translation>Das sollten Sie wissen...</translation>
     </message>
     <message>
         <source>The event was created with the chamber&apos;s magnetic field set to a negative value.  The controls and display will show the absolute value of the field.</source>
@@ -778,6 +878,180 @@ Soll die Datei ersetzt werden?</translation>
     </message>
 </context>
 <context>
+    <name>velquon::EventTelling</name>
+    <message>
+        <source>Choose an event and press New Event (%1).</source>
+        <translation>Wählen Sie ein Ereignis und drücken Sie Neues Ereignis (%1).</translation>
+    </message>
+    <message>
+        <source>There is no event yet.</source>
+        <translation>Es gibt noch kein Ereignis.</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::EventText</name>
+    <message>
+        <source>the %1 decayed</source>
+        <comment>symbol of a particle</comment>
+        <translation>das %1 zerfiel</translation>
+    </message>
+    <message>
+        <source>the %1 converted to a pair</source>
+        <comment>symbol of a particle</comment>
+        <translation>das %1 wurde zu einem Paar</translation>
+    </message>
+    <message>
+        <source>the %1 left the chamber at once</source>
+        <comment>symbol of a particle</comment>
+        <translation>das %1 verließ gleich die Kammer</translation>
+    </message>
+    <message>
+        <source>the event holds no points of the %1</source>
+        <comment>symbol of a particle</comment>
+        <translation>das Ereignis enthält keine Punkte des %1</translation>
+    </message>
+    <message>
+        <source>the %1 left the chamber</source>
+        <comment>symbol of a particle</comment>
+        <translation>das %1 verließ die Kammer</translation>
+    </message>
+    <message>
+        <source>the %1 is not detected</source>
+        <comment>symbol of a particle</comment>
+        <translation>das %1 wird nicht nachgewiesen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 decayed</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 zerfiel</numerusform>
+            <numerusform>%n %1 zerfielen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 converted to pairs</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 wurde zu einem Paar</numerusform>
+            <numerusform>%n %1 wurden zu Paaren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 left the chamber at once</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 verließ gleich die Kammer</numerusform>
+            <numerusform>%n %1 verließen gleich die Kammer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>the event holds no points of %n %1</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>das Ereignis enthält keine Punkte von %n %1</numerusform>
+            <numerusform>das Ereignis enthält keine Punkte von %n %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 left the chamber</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 verließ die Kammer</numerusform>
+            <numerusform>%n %1 verließen die Kammer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n %1 are not detected</source>
+        <comment>symbol of particles</comment>
+        <translation>
+            <numerusform>%n %1 wird nicht nachgewiesen</numerusform>
+            <numerusform>%n %1 werden nicht nachgewiesen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No visible track</source>
+        <translation>Keine Spur zu sehen</translation>
+    </message>
+    <message>
+        <source>No visible track: %1</source>
+        <translation>Keine Spur zu sehen: %1</translation>
+    </message>
+    <message>
+        <source>straight</source>
+        <translation>gerade</translation>
+    </message>
+    <message>
+        <source>turns clockwise</source>
+        <translation>dreht sich im Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>turns anticlockwise</source>
+        <translation>dreht sich gegen den Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>too short to tell which way it turns</source>
+        <translation>zu kurz, um den Drehsinn zu erkennen</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
+    </message>
+    <message>
+        <source>Track %1</source>
+        <translation>Spur %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>particle, colour</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>event %1</source>
+        <translation>Ereignis %1</translation>
+    </message>
+    <message>
+        <source>seed %1</source>
+        <translation>Startwert %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n points</source>
+        <translation>
+            <numerusform>%n Punkt</numerusform>
+            <numerusform>%n Punkte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tracks</source>
+        <translation>
+            <numerusform>%n Spur</numerusform>
+            <numerusform>%n Spuren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tracks on the xy plane</source>
+        <translation>
+            <numerusform>%n Spur auf der xy-Ebene</numerusform>
+            <numerusform>%n Spuren auf der xy-Ebene</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <comment>track: length, which way it turns</comment>
+        <translation>%1: %2, %3</translation>
+    </message>
+    <message>
+        <source>Not seen: %1</source>
+        <translation>Nicht zu sehen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::GuideContents</name>
+    <message>
+        <source>Contents of the guide</source>
+        <translation>Inhalt der Anleitung</translation>
+    </message>
+</context>
+<context>
     <name>velquon::GuideWindow</name>
     <message>
         <source>Velquon Guide</source>
@@ -787,6 +1061,78 @@ Soll die Datei ersetzt werden?</translation>
         <source>en</source>
         <comment>code of this language; names the folder of its guide</comment>
         <translation>de</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>The page before</source>
+        <translation>Die vorige Seite</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vor</translation>
+    </message>
+    <message>
+        <source>The page that was left by Back</source>
+        <translation>Die Seite, die mit Zurück verlassen wurde</translation>
+    </message>
+    <message>
+        <source>A−</source>
+        <translation>A−</translation>
+    </message>
+    <message>
+        <source>Smaller text</source>
+        <translation>Kleinerer Text</translation>
+    </message>
+    <message>
+        <source>A+</source>
+        <translation>A+</translation>
+    </message>
+    <message>
+        <source>Larger text</source>
+        <translation>Größerer Text</translation>
+    </message>
+    <message>
+        <source>Ctrl+=</source>
+        <translation>Ctrl+=</translation>
+    </message>
+    <message>
+        <source>Find in the guide (Ctrl+F)</source>
+        <translation>In der Anleitung suchen (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Find in the guide</source>
+        <translation>In der Anleitung suchen</translation>
+    </message>
+    <message>
+        <source>▲</source>
+        <translation>▲</translation>
+    </message>
+    <message>
+        <source>The place before</source>
+        <translation>Die vorige Stelle</translation>
+    </message>
+    <message>
+        <source>▼</source>
+        <translation>▼</translation>
+    </message>
+    <message>
+        <source>The next place</source>
+        <translation>Die nächste Stelle</translation>
+    </message>
+    <message>
+        <source>  %1 of %2  </source>
+        <translation>  %1 von %2  </translation>
+    </message>
+    <message>
+        <source>  not found  </source>
+        <translation>  nicht gefunden  </translation>
     </message>
 </context>
 <context>
@@ -922,6 +1268,28 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>Curve in the middle</source>
         <translation>Kurve in der Mitte</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::Legend</name>
+    <message>
+        <source>Decay of %1</source>
+        <translation>Zerfall von %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::LegendStrip</name>
+    <message>
+        <source>Legend</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>Legend: %1</source>
+        <translation>Legende: %1</translation>
     </message>
 </context>
 <context>
@@ -1512,6 +1880,89 @@ Soll die Datei ersetzt werden?</translation>
     </message>
 </context>
 <context>
+    <name>velquon::PictureFiles</name>
+    <message>
+        <source>Not saved</source>
+        <translation>Nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Velquon can&apos;t write the file %1: %2.</source>
+        <translation>Velquon kann die Datei %1 nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>%1 Chamber</source>
+        <translation>%1 Kammer</translation>
+    </message>
+    <message>
+        <source>%1 Projector</source>
+        <translation>%1 Projektor</translation>
+    </message>
+    <message>
+        <source>%1 files (*.%2)</source>
+        <translation>%1-Dateien (*.%2)</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>The graphics driver makes no picture of %1 × %2 pixels. Choose a smaller size.</source>
+        <translation>Der Grafiktreiber macht kein Bild von %1 × %2 Pixeln. Wählen Sie eine kleinere Größe.</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::PicturePanel</name>
+    <message>
+        <source>PNG: pixels, as on the screen</source>
+        <translation>PNG: Pixel, wie auf dem Bildschirm</translation>
+    </message>
+    <message>
+        <source>SVG: lines, black on white</source>
+        <translation>SVG: Linien, schwarz auf weiß</translation>
+    </message>
+    <message>
+        <source>PDF: lines, black on white</source>
+        <translation>PDF: Linien, schwarz auf weiß</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>With the &amp;values of the event</source>
+        <translation>Mit den &amp;Werten des Ereignisses</translation>
+    </message>
+    <message>
+        <source>With a &amp;legend below the picture</source>
+        <translation>Mit &amp;Legende unter dem Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Format:</translation>
+    </message>
+    <message>
+        <source> ×</source>
+        <comment>times the size on the screen</comment>
+        <translation> ×</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>&amp;Größe:</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve…</source>
+        <translation>&amp;Speichern…</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 Pixel</translation>
+    </message>
+    <message>
+        <source>%1 × %2 points</source>
+        <translation>%1 × %2 Punkte</translation>
+    </message>
+</context>
+<context>
     <name>velquon::PrintPanel</name>
     <message>
         <source>Looking for printers… The page can be saved as a PDF file.</source>
@@ -1580,6 +2031,21 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>Velquon can&apos;t write the file %1: %2.</source>
         <translation>Velquon kann die Datei %1 nicht schreiben: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::ProjectionFoot</name>
+    <message>
+        <source>%1 plane, zoom %2</source>
+        <translation>%1-Ebene, Zoom %2</translation>
+    </message>
+    <message>
+        <source>tape %1</source>
+        <translation>Maßband %1</translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation>%1 cm</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +2193,197 @@ Soll die Datei ersetzt werden?</translation>
     </message>
 </context>
 <context>
+    <name>velquon::ShortcutsWindow</name>
+    <message>
+        <source>Everywhere</source>
+        <translation>Überall</translation>
+    </message>
+    <message>
+        <source>Tab, Shift+Tab</source>
+        <translation>Tab, Umschalt+Tab</translation>
+    </message>
+    <message>
+        <source>To the next control, to the one before</source>
+        <translation>Zum nächsten, zum vorigen Bedienelement</translation>
+    </message>
+    <message>
+        <source>Alt with an underlined letter</source>
+        <translation>Alt mit einem unterstrichenen Buchstaben</translation>
+    </message>
+    <message>
+        <source>Open the menu, press the button</source>
+        <translation>Das Menü öffnen, den Knopf drücken</translation>
+    </message>
+    <message>
+        <source>Chamber</source>
+        <translation>Kammer</translation>
+    </message>
+    <message>
+        <source>Escape, Space</source>
+        <translation>Escape, Leertaste</translation>
+    </message>
+    <message>
+        <source>Stop the turntable</source>
+        <translation>Den Drehteller anhalten</translation>
+    </message>
+    <message>
+        <source>Escape</source>
+        <translation>Escape</translation>
+    </message>
+    <message>
+        <source>End a replay</source>
+        <translation>Eine Wiedergabe beenden</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Regler</translation>
+    </message>
+    <message>
+        <source>Arrow keys</source>
+        <translation>Pfeiltasten</translation>
+    </message>
+    <message>
+        <source>By a tenth of a tick</source>
+        <translation>Um ein Zehntel eines Teilstrichs</translation>
+    </message>
+    <message>
+        <source>Page Up, Page Down</source>
+        <translation>Bild auf, Bild ab</translation>
+    </message>
+    <message>
+        <source>To the next tick</source>
+        <translation>Zum nächsten Teilstrich</translation>
+    </message>
+    <message>
+        <source>Return on the label</source>
+        <translation>Return auf der Beschriftung</translation>
+    </message>
+    <message>
+        <source>Type a value</source>
+        <translation>Einen Wert eingeben</translation>
+    </message>
+    <message>
+        <source>Projector</source>
+        <translation>Projektor</translation>
+    </message>
+    <message>
+        <source>T, G, C, A</source>
+        <translation>T, G, C, A</translation>
+    </message>
+    <message>
+        <source>The tools Tape, Grab, Curve, Angle</source>
+        <translation>Die Werkzeuge Maßband, Greifen, Kurve, Winkel</translation>
+    </message>
+    <message>
+        <source>Z, Y, X</source>
+        <translation>Z, Y, X</translation>
+    </message>
+    <message>
+        <source>The planes xy, xz, yz</source>
+        <translation>Die Ebenen xy, xz, yz</translation>
+    </message>
+    <message>
+        <source>1, 2, 3</source>
+        <translation>1, 2, 3</translation>
+    </message>
+    <message>
+        <source>The zooms</source>
+        <translation>Die Zoomstufen</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>Snap on and off</source>
+        <translation>Einrasten ein und aus</translation>
+    </message>
+    <message>
+        <source>Projector&apos;s picture</source>
+        <translation>Bild des Projektors</translation>
+    </message>
+    <message>
+        <source>Arrow keys, with Shift</source>
+        <translation>Pfeiltasten, mit Umschalt</translation>
+    </message>
+    <message>
+        <source>Move the cross by one pixel, by ten</source>
+        <translation>Das Kreuz um ein Pixel, um zehn bewegen</translation>
+    </message>
+    <message>
+        <source>Return, Space</source>
+        <translation>Return, Leertaste</translation>
+    </message>
+    <message>
+        <source>Set a point, take hold, let go</source>
+        <translation>Einen Punkt setzen, anfassen, loslassen</translation>
+    </message>
+    <message>
+        <source>Delete, Backspace</source>
+        <translation>Entf, Rücktaste</translation>
+    </message>
+    <message>
+        <source>Take the last point away</source>
+        <translation>Den letzten Punkt wegnehmen</translation>
+    </message>
+    <message>
+        <source>Give up, clear the points, hide the cross</source>
+        <translation>Aufgeben, die Punkte löschen, das Kreuz verbergen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Return</source>
+        <translation>Strg+Return</translation>
+    </message>
+    <message>
+        <source>Record what is measured</source>
+        <translation>Das Gemessene notieren</translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation>Anleitung</translation>
+    </message>
+    <message>
+        <source>Ctrl+F, F3, Shift+F3</source>
+        <translation>Strg+F, F3, Umschalt+F3</translation>
+    </message>
+    <message>
+        <source>Find, the next place, the place before</source>
+        <translation>Suchen, nächste Stelle, vorige Stelle</translation>
+    </message>
+    <message>
+        <source>Ctrl++, Ctrl+-, Ctrl+0</source>
+        <translation>Strg++, Strg+-, Strg+0</translation>
+    </message>
+    <message>
+        <source>Larger, smaller, usual text</source>
+        <translation>Größerer, kleinerer, üblicher Text</translation>
+    </message>
+    <message>
+        <source>Alt+Left, Alt+Right</source>
+        <translation>Alt+Links, Alt+Rechts</translation>
+    </message>
+    <message>
+        <source>A page back, a page forward</source>
+        <translation>Eine Seite zurück, eine Seite vor</translation>
+    </message>
+    <message>
+        <source>Menu %1</source>
+        <translation>Menü %1</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Was es tut</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+</context>
+<context>
     <name>velquon::TrackController</name>
     <message>
         <source>De&amp;activate</source>
@@ -1735,6 +2392,25 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>&amp;Activate</source>
         <translation>&amp;Aktivieren</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::TrackPanel</name>
+    <message>
+        <source>Track</source>
+        <translation>Spur</translation>
+    </message>
+    <message>
+        <source>The particle&apos;s track. Drag with the mouse to measure it.</source>
+        <translation>Die Spur des Teilchens. Zum Messen mit der Maus ziehen.</translation>
+    </message>
+    <message>
+        <source>Part of the track that is seen</source>
+        <translation>Sichtbarer Teil der Spur</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>Einheiten</translation>
     </message>
 </context>
 <context>
@@ -1747,8 +2423,8 @@ Soll die Datei ersetzt werden?</translation>
 <context>
     <name>velquon::TrackWindow</name>
     <message>
-        <source>Track</source>
-        <translation>Spur</translation>
+        <source>Live Track</source>
+        <translation>Live-Spur</translation>
     </message>
 </context>
 <context>

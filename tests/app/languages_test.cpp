@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QLibraryInfo>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -21,16 +22,19 @@
 #include "app/desktop_dialogs.h"
 #include "app/event_documents.h"
 #include "printing/worksheets.h"
+#include "record/make_events_dialog.h"
 #include "record/measurements_window.h"
 #include "record/record_window.h"
 #include "tests/support/documents/event_bytes.h"
 #include "tests/support/documents/modal.h"
+#include "tests/support/documents/other_program.h"
 #include "tests/support/documents/pdf_page.h"
 #include "tests/support/windows/application_fixture.h"
 #include "tests/support/windows/pseudo_language.h"
 #include "tests/support/windows/shown_texts.h"
 #include "tests/support/windows/waiting.h"
 #include "track/track_window.h"
+#include "widgets/presentation_panel.h"
 
 namespace velquon::test {
 
@@ -89,25 +93,52 @@ class LanguagesTest : public ApplicationFixture, public ::testing::WithParamInte
     handle_waiting_events();
     ++looks_;
     for (const auto& [place, text] : texts_in(window)) {
-      EXPECT_TRUE(!isPseudo() || untranslated_part(text).isEmpty())
+      const bool is_path = text.startsWith(QLatin1Char('/'));
+      EXPECT_TRUE(!isPseudo() || is_path || untranslated_part(text).isEmpty())
           << state << ", " << place << ": " << text.toStdString();
       EXPECT_FALSE(missing_ != nullptr && missing_->contains(text))
           << state << ", " << place << ": " << text.toStdString();
     }
     for (const auto& [place, text] : cut_off_in(window)) {
-      ADD_FAILURE() << state << ", " << place << ": " << text.toStdString();
+      // One that may be cut says all in its tool tip; in the real languages it has room.
+      const bool is_status = place.find("track_status_text") != std::string::npos;
+      EXPECT_TRUE(isPseudo() && is_status) << state << ", " << place << ": " << text.toStdString();
     }
   }
 
   /// Runs what opens a dialog, looks at that and closes it.
   void lookAtDialog(const char* dialog_class, const std::string& state,
                     const std::function<void()>& open) {
+    activate(chamberWindow());
     EXPECT_TRUE(with_dialogs(open, {{dialog_class,
                                      [&](QWidget& dialog) {
                                        look(dialog, state);
                                        dialog.close();
                                      }}}))
         << state;
+  }
+
+  /// Looks at the window that an item opens in front of the others, and closes it.
+  void lookAtWindowOf(const char* item_name) {
+    const QWidget* const before = QApplication::activeWindow();
+    choose(item_name);
+    ASSERT_TRUE(wait_until([&] {
+      return QApplication::activeWindow() != nullptr && QApplication::activeWindow() != before;
+    })) << item_name;
+    QWidget* const window = QApplication::activeWindow();
+    look(*window, item_name);
+    QTest::keyClick(window, Qt::Key_Escape);
+    EXPECT_TRUE(wait_until([&] { return QApplication::activeWindow() == before; })) << item_name;
+  }
+
+  void lookAtPresentation() {
+    choose("presentation_item");
+    ASSERT_TRUE(wait_until([this] { return chamberWindow().isFullScreen(); }));
+    const auto* const panel = chamberWindow().findChild<PresentationPanel*>();
+    ASSERT_NE(panel, nullptr);
+    look(*panel, "presentation");
+    choose("presentation_item");
+    ASSERT_TRUE(wait_until([this] { return !chamberWindow().isFullScreen(); }));
   }
 
   void lookAtViews(const std::string& state) {
@@ -124,7 +155,7 @@ class LanguagesTest : public ApplicationFixture, public ::testing::WithParamInte
         row.event = "Untitled Type 1 Decay 3";
         row.quantity = static_cast<Quantity>(quantity);
         row.value = value;
-        row.ending = value > 2.0 ? Ending::left : Ending::decayed;
+        row.ending = value > 2.0 ? velquon::Ending::left : velquon::Ending::decayed;
         rows.push_back(row);
       }
     }
@@ -160,6 +191,60 @@ void expect_own_mnemonics(const QList<QAction*>& titles_of_menu) {
   }
 }
 
+/// A word on a page and the place that it takes, points from the upper left corner.
+struct PrintedWord {
+  QString text;
+  QRectF box;
+};
+
+/// The words of a PDF file, page by page.
+std::vector<std::vector<PrintedWord>> printed_words(const QString& path) {
+  const QString listing =
+      run_program("pdftotext", {QStringLiteral("-bbox"), path, QStringLiteral("-")}).output;
+  static const QRegularExpression word(
+      QStringLiteral("<word xMin=\"(.*)\" yMin=\"(.*)\" xMax=\"(.*)\" yMax=\"(.*)\">(.*)</word>"));
+  std::vector<std::vector<PrintedWord>> pages;
+  for (const QString& line : listing.split(QLatin1Char('\n'))) {
+    if (line.contains(QLatin1String("<page "))) {
+      pages.emplace_back();
+    } else if (const QRegularExpressionMatch match = word.match(line); match.hasMatch()) {
+      const QPointF from(match.captured(1).toDouble(), match.captured(2).toDouble());
+      const QPointF to(match.captured(3).toDouble(), match.captured(4).toDouble());
+      pages.back().push_back({match.captured(5), QRectF(from, to)});
+    }
+  }
+  return pages;
+}
+
+/// Expects words to lie between the side margins of an A4 page and none over another.
+void expect_room(const std::vector<PrintedWord>& words) {
+  constexpr QRectF between_margins(35.0, 0.0, 595.0 - 70.0, 842.0);
+  constexpr QMarginsF touching(0.5, 3.0, 0.5, 3.0);
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    EXPECT_TRUE(between_margins.contains(words[i].box)) << words[i].text.toStdString();
+    for (std::size_t k = 0; k < i; ++k) {
+      const QRectF core = words[i].box.marginsRemoved(touching);
+      EXPECT_FALSE(core.intersects(words[k].box.marginsRemoved(touching)))
+          << words[k].text.toStdString() << " and " << words[i].text.toStdString();
+    }
+  }
+}
+
+/// Expects each text of a page to be translated. One that is longer than its place lacks its end.
+void expect_translated(const std::vector<PrintedWord>& words) {
+  QString all;
+  for (const PrintedWord& word : words) {
+    all += word.text + QLatin1Char(' ');
+  }
+  const QStringList texts = all.split(QChar(u'«'));
+  EXPECT_GT(texts.size(), 5);
+  for (qsizetype i = 0; i < texts.size(); ++i) {
+    const QString behind =
+        i == 0 || texts[i].contains(QChar(u'»')) ? texts[i].section(QChar(u'»'), -1) : QString();
+    EXPECT_EQ(untranslated_part(behind).toStdString(), "");
+  }
+}
+
 TEST_P(LanguagesTest, WindowsHaveEveryTextTranslatedAndRoomForIt) {
   lookAtViews("at the start");
   choose("lambda_item");
@@ -169,6 +254,9 @@ TEST_P(LanguagesTest, WindowsHaveEveryTextTranslatedAndRoomForIt) {
     clickButton(tool);
     look(projectorWindow(), tool);
   }
+  lookAtWindowOf("guide_item");
+  lookAtWindowOf("shortcuts_item");
+  lookAtPresentation();
   choose("event_record_item");
   look(application().recordWindow(), "record");
   application().recordWindow().findChild<QCheckBox*>(QStringLiteral("hide_answers_box"))->click();
@@ -181,7 +269,7 @@ TEST_P(LanguagesTest, WindowsHaveEveryTextTranslatedAndRoomForIt) {
   if (!isPseudo()) {
     expect_own_mnemonics(chamberWindow().menuBar()->actions());
   }
-  EXPECT_EQ(looks_, 11);
+  EXPECT_EQ(looks_, 15);
 }
 
 TEST_P(LanguagesTest, TheWindowOfMeasurementsHasEveryTextTranslatedAndRoomForIt) {
@@ -203,8 +291,11 @@ TEST_P(LanguagesTest, TheWindowOfMeasurementsHasEveryTextTranslatedAndRoomForIt)
       EXPECT_EQ(untranslated_part(text), QString()) << text.toStdString();
     }
   }
-  lookAtDialog("velquon::MakeEventsDialog", "make events",
-               [&] { window.findChild<QAction*>(QStringLiteral("make_events_item"))->trigger(); });
+  window.findChild<QAction*>(QStringLiteral("make_events_item"))->trigger();
+  MakeEventsDialog* const dialog = window.makeEventsDialog();
+  ASSERT_TRUE(dialog != nullptr && QTest::qWaitForWindowExposed(dialog));
+  look(*dialog, "make events");
+  dialog->reject();
   if (!isPseudo()) {
     expect_own_mnemonics(window.menuBar()->actions());
   }
@@ -216,6 +307,7 @@ TEST_P(LanguagesTest, DialogsHaveEveryTextTranslatedAndRoomForIt) {
   choose("new_event_item");
   for (const auto& [item_name, dialog_class] : {std::pair{"print_item", "velquon::PrintPanel"},
                                                 {"worksheets_item", "velquon::WorksheetPanel"},
+                                                {"save_picture_item", "velquon::PicturePanel"},
                                                 {"open_item", "QFileDialog"},
                                                 {"import_item", "QFileDialog"},
                                                 {"save_item", "QFileDialog"},
@@ -225,7 +317,7 @@ TEST_P(LanguagesTest, DialogsHaveEveryTextTranslatedAndRoomForIt) {
     lookAtDialog(dialog_class, item_name, [&, name = item_name] { choose(name); });
   }
   const QTemporaryDir folder;
-  QFile file(folder.filePath(QStringLiteral("x.cwd")));
+  QFile file(folder.filePath(QStringLiteral("1")));
   ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("x") == 1);
   file.close();
   lookAtDialog("QMessageBox", "wrong format",
@@ -235,27 +327,26 @@ TEST_P(LanguagesTest, DialogsHaveEveryTextTranslatedAndRoomForIt) {
     choose("quit_item");
   });
   application().measurements().setSaved();
-  EXPECT_EQ(looks_, 10);
+  EXPECT_EQ(looks_, 11);
 }
 
-TEST_P(LanguagesTest, PagesOfWorksheetsAreTranslated) {
-  if (!isPseudo()) {
-    return;
-  }
+TEST_P(LanguagesTest, PagesOfWorksheetsAreTranslatedAndHaveRoom) {
   const WorksheetOrder order{.type = &event_types()[5], .values = {}, .seed = 3, .events = 4};
   const auto documents = make_worksheets(order, [](int) { return true; });
   const QTemporaryDir folder;
-  for (const QByteArray& document : {documents->sheets, documents->answers}) {
+  for (const auto& [document, count] :
+       {std::pair(documents->sheets, 4U), std::pair(documents->answers, 1U)}) {
     QFile file(folder.filePath(QStringLiteral("pages.pdf")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(document) == document.size());
     file.close();
-    QString text;
-    for (const PaperWord& word : words_of_pdf(file.fileName())) {
-      text += word.text + QLatin1Char(' ');
+    const auto pages = printed_words(file.fileName());
+    EXPECT_EQ(pages.size(), count);
+    for (const auto& words : pages) {
+      isPseudo() ? expect_translated(words) : expect_room(words);
     }
-    EXPECT_GT(text.count(QChar(u'«')), 15);
-    EXPECT_EQ(untranslated_part(text), QString());
-    EXPECT_FALSE(untranslated_part(title_of_pdf(file.fileName())).contains(QLatin1Char('W')));
+    if (isPseudo()) {
+      EXPECT_EQ(untranslated_part(title_of_pdf(file.fileName())).toStdString(), "");
+    }
   }
 }
 

@@ -32,7 +32,8 @@ ALLOWED = {
     "projection": DRAWN,
     "track": MODEL | {"widgets"},
     "record": MODEL | {"widgets"},
-    "app": DRAWN | {"chamber", "projection", "track", "record"},
+    "guide": {"widgets"},
+    "app": DRAWN | {"chamber", "projection", "track", "record", "guide"},
 }
 
 

@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include "tests/support/windows/waiting.h"
+#include "tests/support/windows/window_manager.h"
 
 namespace velquon::test {
 
@@ -93,6 +94,8 @@ void ApplicationFixture::clickButton(const char* name) {
 
 void ApplicationFixture::activate(QWidget& window) {
   window.activateWindow();
+  // A window that came up just now may still be given the focus.
+  ASSERT_TRUE(wait_for_window_manager());
   ASSERT_TRUE(wait_until([&] { return window.isActiveWindow(); }));
 }
 

@@ -64,14 +64,18 @@ PseudoLanguage::PseudoLanguage(const QString& file) {
 QString PseudoLanguage::translate(const char* context, const char* source, const char* /*comment*/,
                                   int count) const {
   const QString text = QString::fromUtf8(source);
-  const auto own = texts_.find(QString::fromUtf8(context));
-  const bool is_foreign = own == texts_.end() && qstrncmp(context, "velquon", 7) != 0;
-  // The names of keys are read back from the texts of shortcuts.
-  if (qstrcmp(context, "QShortcut") == 0 ||
-      (!is_foreign && (own == texts_.end() || !own->contains(text)))) {
+  // Of Qt's own texts the names of keys are read back from the texts of shortcuts.
+  const bool is_of_qt = context[0] == 'Q';
+  const bool is_known = is_of_qt ? qstrcmp(context, "QShortcut") != 0
+                                 : texts_.value(QString::fromUtf8(context)).contains(text);
+  if (!is_known) {
     return {};
   }
-  return pseudo_text(text).replace(QLatin1String("%n"), QString::number(count));
+  QStringList parts;  // of the kinds of files that a dialog offers
+  for (const QString& part : text.split(QLatin1String(";;"))) {
+    parts << pseudo_text(part);
+  }
+  return parts.join(QLatin1String(";;")).replace(QLatin1String("%n"), QString::number(count));
 }
 
 QString untranslated_part(QString text) {

@@ -3,17 +3,9 @@
 
 #pragma once
 
-#include <QWidget>
+class QWidget;
 
 namespace velquon {
-
-/// The user's guide in a window of its own.
-class GuideWindow : public QWidget {
-  Q_OBJECT
-
- public:
-  explicit GuideWindow(QWidget* parent = nullptr);
-};
 
 /// Tells what this program is, over a window.
 void show_about(QWidget* parent);

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace Ui {
+class Menus;
+}
+
+namespace velquon {
+
+class Commands;
+class PictureFiles;
+
+/// Adds what Save Picture and Copy Picture do to the table of commands. All of these must outlive the
+/// table.
+/// \param event_name gives name and number of the shown event
+void add_picture_commands(Commands& commands, const Ui::Menus& menus, PictureFiles& pictures,
+                          std::function<std::string()> event_name);
+
+}  // namespace velquon
