@@ -101,7 +101,7 @@ void PictureFiles::copyPicture() {
   const bool values = chamber_.show_values() && !chamber_.is_rotating();
   const auto picture = is_chamber ? chamber_.picture(scale, values) : projection_.picture(scale);
   if (picture) {
-    QApplication::clipboard()->setImage(picture->convertToFormat(QImage::Format_RGB32));
+    QApplication::clipboard()->setImage(*picture);
   } else {
     tellTooLarge((QSizeF(sizeOf(*view)) * scale).toSize());
   }

@@ -22,6 +22,7 @@ void write_values(QImage& picture, const std::string& values, const Camera& came
   QFont font(QStringLiteral("Helvetica"));
   font.setStyleHint(QFont::SansSerif);
   font.setPixelSize(pixels_on_screen);
+  font.setStyleStrategy(QFont::NoSubpixelAntialias);
   font.setHintingPreference(QFont::PreferNoHinting);
   const QString text = QString::fromStdString(values);
   const auto [x, y] = overlay_text_start(camera);
@@ -49,6 +50,9 @@ std::optional<QImage> chamber_picture(std::span<const PlotPoint> points, const C
   scene.setPoints(points);
   auto picture = draw_off_screen((QSizeF(chamber_width, chamber_height) * scale).toSize(),
                                  [&] { scene.draw(camera, scale, points.size(), drawn); });
+  if (picture) {
+    picture->convertTo(QImage::Format_RGB32);
+  }
   if (picture && !options.values.empty() && !is_of_screen_size) {
     write_values(*picture, options.values, camera, scale);
   }

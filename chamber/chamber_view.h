@@ -108,7 +108,7 @@ class ChamberView : public GLView, public Printable {
 
   void paint(QPainter& page) override;
 
-  /// The whole picture with as many points as are shown, drawn for a size of its own.
+  /// The whole picture with as many points as are shown, drawn for a size of its own; opaque.
   /// \param scale  pixels per view unit
   /// \param values whether it has the line of values, if there is an event
   /// \return nothing when the graphics driver makes no picture of that size

@@ -19,6 +19,8 @@ constexpr int letter_size = 13;
 LegendStyle caption_style() {
   QFont font;
   font.setPixelSize(letter_size);
+  // Letters in gray, for any screen.
+  font.setStyleStrategy(QFont::NoSubpixelAntialias);
   return {.font = font, .text = Qt::black};
 }
 

@@ -23,16 +23,16 @@ using PictureTexts = QList<std::pair<QString, QString>>;
 /// \param scale   pixels per view unit
 [[nodiscard]] QSize captioned_size(QSize picture, double scale, const PictureCaption& caption);
 
-/// A picture above its caption, which is drawn at the picture's scale; opaque.
-/// \param picture drawn with `scale` pixels per view unit
+/// A picture above its caption, which is drawn at the picture's scale.
+/// \param picture opaque, drawn with `scale` pixels per view unit
 /// \return nothing when there is no memory for it
 [[nodiscard]] std::optional<QImage> with_caption(const QImage& picture, double scale,
                                                  const PictureCaption& caption);
 
-/// A picture as a PNG file. Its physical size is that of the view on a screen of 96 dots an inch,
+/// An opaque picture as a PNG file. Its physical size is that of the view on a screen of 96 dots an inch,
 /// whatever its scale.
 /// \return nothing for a null picture
-[[nodiscard]] std::optional<QByteArray> png_file(QImage picture, double scale,
+[[nodiscard]] std::optional<QByteArray> png_file(const QImage& picture, double scale,
                                                  const PictureTexts& texts);
 
 }  // namespace velquon

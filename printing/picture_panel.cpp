@@ -47,6 +47,8 @@ PicturePanel::PicturePanel(PictureOffer offer, const PictureChoices& preset, QWi
   layout->addWidget(values);
   layout->addWidget(legend);
   layout->addWidget(makeButtons());
+  // In the dialog by now: before, Return would be for the first button, Cancel.
+  save_button_->setDefault(true);
   tellSize();
 }
 
@@ -96,11 +98,10 @@ QCheckBox* PicturePanel::makeCheck(const QString& text, bool PictureChoices::*ch
 
 QWidget* PicturePanel::makeButtons() {
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
-  auto* const save = buttons->addButton(tr("Sa&ve…"), QDialogButtonBox::AcceptRole);
-  save->setObjectName(QStringLiteral("picture_save_button"));
+  save_button_ = buttons->addButton(tr("Sa&ve…"), QDialogButtonBox::AcceptRole);
+  save_button_->setObjectName(QStringLiteral("picture_save_button"));
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  save->setDefault(true);
   return buttons;
 }
 

@@ -10,10 +10,9 @@
 #include <vector>
 
 class QCheckBox;
-class QComboBox;
 class QLabel;
 class QLayout;
-class QSpinBox;
+class QPushButton;
 
 namespace velquon {
 
@@ -58,6 +57,7 @@ class PicturePanel : public QDialog {
   PictureOffer offer_;
   PictureChoices choices_;
   QLabel* size_label_;
+  QPushButton* save_button_ = nullptr;
 };
 
 }  // namespace velquon

@@ -20,18 +20,23 @@ constexpr int letter_size = 12;
 constexpr double line_width = 1.0;
 constexpr double points_per_inch = 72.0;
 
-/// Left edge of the chamber's outline at rest.
-constexpr double outline_left = 35.0;
+// Left edges of what stands below the picture, at that of the chamber's outline at rest.
+constexpr double foot_left = 35.0;
+constexpr int caption_left = 27;  // it has a margin
 
 /// What stands below the picture; its height is whole.
 int foot_height() {
   return qRound(projection_foot_height);
 }
 
+int caption_width(const ProjectionDrawing& drawing) {
+  return drawing.picture.width() - caption_left;
+}
+
 /// Size in view units.
 QSize units_of(const ProjectionDrawing& drawing) {
-  const QSize& picture = drawing.picture;
-  return picture + QSize(0, foot_height() + caption_height(drawing.caption, picture.width()));
+  return drawing.picture +
+         QSize(0, foot_height() + caption_height(drawing.caption, caption_width(drawing)));
 }
 
 /// \param painter a view unit as its unit, y downwards
@@ -53,9 +58,9 @@ void paint(QPainter& painter, const ProjectionDrawing& drawing) {
   const QPointF foot = top_left - QPointF(0.0, picture.height());
   const double below = size.height() - picture.height();
   painter.fillRect(QRectF(foot - QPointF(0.0, below), QSizeF(picture.width(), below)), Qt::white);
-  paint_projection_foot(painter, foot + QPointF(outline_left, 0.0), drawing.projector);
+  paint_projection_foot(painter, foot + QPointF(foot_left, 0.0), drawing.projector);
   painter.restore();
-  paint_caption(painter, {0.0, picture.height() + foot_height()}, drawing.picture.width(),
+  paint_caption(painter, {caption_left, picture.height() + foot_height()}, caption_width(drawing),
                 drawing.caption);
 }
 

@@ -60,10 +60,14 @@ QSize ProjectionView::pictureSize() const {
 
 std::optional<QImage> ProjectionView::picture(double scale) const {
   const QSize size = pictureSize();
-  return draw_off_screen((QSizeF(size) * scale).toSize(), [&] {
+  auto picture = draw_off_screen((QSizeF(size) * scale).toSize(), [&] {
     scene_.draw(QRectF(QPointF(0.0, 0.0), size), scale, projector_,
                 {.marked = marked_, .colored = colored_});
   });
+  if (picture) {
+    picture->convertTo(QImage::Format_RGB32);
+  }
+  return picture;
 }
 
 void ProjectionView::paint(QPainter& page) {

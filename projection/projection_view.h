@@ -72,7 +72,8 @@ class ProjectionView : public GLView, public Printable {
 
   /// Size of the whole picture, of which a small window shows a part, view units.
   [[nodiscard]] QSize pictureSize() const;
-  /// The whole picture as it is on the screen, without the cross, drawn for a size of its own.
+  /// The whole picture as it is on the screen, without the cross, drawn for a size of its own;
+  /// opaque.
   /// \param scale pixels per view unit
   /// \return nothing when the graphics driver makes no picture of that size
   [[nodiscard]] std::optional<QImage> picture(double scale) const;

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "model/projector.h"
+#include "projection/projection_view.h"
 #include "widgets/gl_panel.h"
 
 class QAbstractButton;
@@ -17,9 +18,7 @@ class ProjectorWindow;
 
 namespace velquon {
 
-class ProjectionView;
 struct ToldEvent;
-enum class ZoomTurn : bool;
 class ViewScrollArea;
 
 /// The window of the projection view with the buttons of its planes, zooms and tools and what the

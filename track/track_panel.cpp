@@ -106,7 +106,8 @@ void TrackPanel::connectChoices() {
 void TrackPanel::makeRoomForReadings() {
   // The window keeps its size, whatever is read.
   const auto make_room = [](QLabel* label, const QString& widest) {
-    label->setMinimumWidth(label->fontMetrics().horizontalAdvance(widest));
+    label->setText(widest);
+    label->setMinimumWidth(label->sizeHint().width());
   };
   make_room(ui_->field_text, QStringLiteral("B = -0.88"));
   make_room(ui_->tape_box, QStringLiteral("D = 66.94"));

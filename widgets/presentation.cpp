@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMainWindow>
+#include <QScopedValueRollback>
 #include <QShortcut>
 #include <algorithm>
 
@@ -45,9 +46,10 @@ Presentation::Presentation(QMainWindow& window, ViewScrollArea& area,
   window.installEventFilter(this);
   area.view()->installEventFilter(this);
   connect(escape_.get(), &QShortcut::activated, this, &Presentation::endAsked);
+  // Before its size changes, which would move what was scrolled to.
+  area.present(panel_.get());
   window.setWindowState(window.windowState() | Qt::WindowFullScreen);
   coverAll();
-  area.present(panel_.get());
   area.view()->setFocus();
 }
 
@@ -87,6 +89,11 @@ bool Presentation::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Presentation::coverAll() {
+  if (placing_) {
+    // A scrolling area keeps its content larger than itself until the window fills the screen.
+    return;
+  }
+  const QScopedValueRollback placing(placing_, true);
   // From the outside; layouts give them other places time and again.
   std::for_each(covering_.rbegin(), covering_.rend(),
                 [](QWidget* widget) { widget->setGeometry(widget->parentWidget()->rect()); });

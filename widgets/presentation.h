@@ -53,7 +53,8 @@ class Presentation : public QObject {
   std::unique_ptr<QWidget> panel_;
   QPointer<QWidget> had_keys_;
   std::optional<QRect> usual_place_;  ///< none for a window that fills the screen anyway
-  std::vector<QWidget*> covering_;    ///< the area and what it lies in, from the inside
+  bool placing_ = false;
+  std::vector<QWidget*> covering_;  ///< the area and what it lies in, from the inside
   std::unique_ptr<QShortcut> escape_;
 };
 

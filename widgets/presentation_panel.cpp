@@ -124,9 +124,9 @@ void PresentationPanel::resizeEvent(QResizeEvent* event) {
   // Beside, title and legend are at the top and the readings at the foot; below, all share the width.
   constexpr std::array<int, 4> one_below_the_other{0, 0, 1, 0};
   constexpr std::array<int, 4> side_by_side{3, 4, 0, 3};
-  for (int part = 0; part < parts.count(); ++part) {
-    parts.setStretch(
-        part, (beside ? one_below_the_other : side_by_side).at(static_cast<std::size_t>(part)));
+  int part = 0;
+  for (const int stretch : beside ? one_below_the_other : side_by_side) {
+    parts.setStretch(part++, stretch);
   }
 }
 

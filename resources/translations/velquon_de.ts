@@ -366,6 +366,22 @@
         <source>Show the view in front over the whole screen; Escape ends it</source>
         <translation>Die vordere Ansicht über den ganzen Bildschirm zeigen; Escape beendet das</translation>
     </message>
+    <message>
+        <source>Show &amp;Legend</source>
+        <translation>&amp;Legende zeigen</translation>
+    </message>
+    <message>
+        <source>Axis L&amp;etters</source>
+        <translation>Achsen&amp;buchstaben</translation>
+    </message>
+    <message>
+        <source>&amp;Field Arrow</source>
+        <translation>&amp;Feldpfeil</translation>
+    </message>
+    <message>
+        <source>&amp;Colored Tracks in Projector</source>
+        <translation>Farbige &amp;Spuren im Projektor</translation>
+    </message>
 </context>
 <context>
     <name>ProjectorWindow</name>
@@ -476,14 +492,6 @@
     <message>
         <source>Record</source>
         <translation>Notieren</translation>
-    </message>
-    <message>
-        <source>Projection</source>
-        <translation>Projektion</translation>
-    </message>
-    <message>
-        <source>Part of the projection that is seen</source>
-        <translation>Sichtbarer Teil der Projektion</translation>
     </message>
 </context>
 <context>
@@ -808,7 +816,7 @@ Soll die Datei ersetzt werden?</translation>
     </message>
     <message>
         <source>You should know...</source>
-        <translation>Das sollten Sie wissen…</translation>
+        <translation>Das sollten Sie wissen...</translation>
     </message>
     <message>
         <source>The event was created with the chamber&apos;s magnetic field set to a negative value.  The controls and display will show the absolute value of the field.</source>
@@ -867,6 +875,17 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>it ended with the status %1</source>
         <translation>es endete mit dem Status %1</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::EventTelling</name>
+    <message>
+        <source>Choose an event and press New Event (%1).</source>
+        <translation>Wählen Sie ein Ereignis und drücken Sie Neues Ereignis (%1).</translation>
+    </message>
+    <message>
+        <source>There is no event yet.</source>
+        <translation>Es gibt noch kein Ereignis.</translation>
     </message>
 </context>
 <context>
@@ -1260,6 +1279,17 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::LegendStrip</name>
+    <message>
+        <source>Legend</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>Legend: %1</source>
+        <translation>Legende: %1</translation>
     </message>
 </context>
 <context>
@@ -2016,6 +2046,17 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>%1 cm</source>
         <translation>%1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::ProjectorWindow</name>
+    <message>
+        <source>Projection</source>
+        <translation>Projektion</translation>
+    </message>
+    <message>
+        <source>Part of the projection that is seen</source>
+        <translation>Sichtbarer Teil der Projektion</translation>
     </message>
 </context>
 <context>

@@ -366,6 +366,22 @@
         <source>Show the view in front over the whole screen; Escape ends it</source>
         <translation>Mostrar la vista del frente en toda la pantalla; Escape termina</translation>
     </message>
+    <message>
+        <source>Show &amp;Legend</source>
+        <translation>Mostrar la le&amp;yenda</translation>
+    </message>
+    <message>
+        <source>Axis L&amp;etters</source>
+        <translation>Letras de los e&amp;jes</translation>
+    </message>
+    <message>
+        <source>&amp;Field Arrow</source>
+        <translation>Flecha del &amp;campo</translation>
+    </message>
+    <message>
+        <source>&amp;Colored Tracks in Projector</source>
+        <translation>&amp;Trazas de color en el proyector</translation>
+    </message>
 </context>
 <context>
     <name>ProjectorWindow</name>
@@ -476,14 +492,6 @@
     <message>
         <source>Record</source>
         <translation>Anotar</translation>
-    </message>
-    <message>
-        <source>Projection</source>
-        <translation>Proyección</translation>
-    </message>
-    <message>
-        <source>Part of the projection that is seen</source>
-        <translation>Parte visible de la proyección</translation>
     </message>
 </context>
 <context>
@@ -685,11 +693,11 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>Lengths and angles are given in space and on the paper; the angle is that to the parent at the vertex.</source>
-        <translation>Las longitudes y los ángulos se dan en el espacio y sobre el papel; el ángulo es el que forma con la partícula madre en el vértice.</translation>
+        <translation>Longitudes y ángulos en el espacio y en el papel; el ángulo es con la partícula madre en el vértice.</translation>
     </message>
     <message>
         <source>Fates: decayed, left the chamber, or full: the track is cut where the event holds no more points.</source>
-        <translation>Destino: desintegrada, salió de la cámara o lleno: la traza se corta donde el suceso no admite más puntos.</translation>
+        <translation>Destino: desintegrada, salió (de la cámara) o lleno: traza cortada, el suceso no admite más puntos.</translation>
     </message>
     <message>
         <source>straight</source>
@@ -867,6 +875,17 @@ Do you want to replace it?</source>
     <message>
         <source>it ended with the status %1</source>
         <translation>terminó con el código %1</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::EventTelling</name>
+    <message>
+        <source>Choose an event and press New Event (%1).</source>
+        <translation>Elija un suceso y pulse Nuevo suceso (%1).</translation>
+    </message>
+    <message>
+        <source>There is no event yet.</source>
+        <translation>Todavía no hay ningún suceso.</translation>
     </message>
 </context>
 <context>
@@ -1260,6 +1279,17 @@ Do you want to replace it?</source>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::LegendStrip</name>
+    <message>
+        <source>Legend</source>
+        <translation>Leyenda</translation>
+    </message>
+    <message>
+        <source>Legend: %1</source>
+        <translation>Leyenda: %1</translation>
     </message>
 </context>
 <context>
@@ -2016,6 +2046,17 @@ Do you want to replace it?</source>
     <message>
         <source>%1 cm</source>
         <translation>%1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::ProjectorWindow</name>
+    <message>
+        <source>Projection</source>
+        <translation>Proyección</translation>
+    </message>
+    <message>
+        <source>Part of the projection that is seen</source>
+        <translation>Parte visible de la proyección</translation>
     </message>
 </context>
 <context>

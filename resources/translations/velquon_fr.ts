@@ -366,6 +366,22 @@
         <source>Show the view in front over the whole screen; Escape ends it</source>
         <translation>Montrer la vue au premier plan sur tout l’écran&#xa0;; Échap y met fin</translation>
     </message>
+    <message>
+        <source>Show &amp;Legend</source>
+        <translation>Afficher la &amp;légende</translation>
+    </message>
+    <message>
+        <source>Axis L&amp;etters</source>
+        <translation>L&amp;ettres des axes</translation>
+    </message>
+    <message>
+        <source>&amp;Field Arrow</source>
+        <translation>Flèche du &amp;champ</translation>
+    </message>
+    <message>
+        <source>&amp;Colored Tracks in Projector</source>
+        <translation>Traces en couleurs dans le &amp;projecteur</translation>
+    </message>
 </context>
 <context>
     <name>ProjectorWindow</name>
@@ -476,14 +492,6 @@
     <message>
         <source>Record</source>
         <translation>Noter</translation>
-    </message>
-    <message>
-        <source>Projection</source>
-        <translation>Projection</translation>
-    </message>
-    <message>
-        <source>Part of the projection that is seen</source>
-        <translation>Partie visible de la projection</translation>
     </message>
 </context>
 <context>
@@ -685,11 +693,11 @@ Voulez-vous le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Lengths and angles are given in space and on the paper; the angle is that to the parent at the vertex.</source>
-        <translation>Longueurs et angles sont donnés dans l’espace et sur le papier&#xa0;; l’angle est celui avec la particule mère au vertex.</translation>
+        <translation>Longueurs et angles dans l’espace et sur le papier&#xa0;; l’angle est celui avec la particule mère au vertex.</translation>
     </message>
     <message>
         <source>Fates: decayed, left the chamber, or full: the track is cut where the event holds no more points.</source>
-        <translation>Devenir&#xa0;: désintégrée, sortie de la chambre, ou plein&#xa0;: la trace s’arrête où l’événement n’a plus de place pour des points.</translation>
+        <translation>Devenir&#xa0;: désintégrée, sortie (de la chambre) ou plein&#xa0;: trace coupée, l’événement n’a plus de place.</translation>
     </message>
     <message>
         <source>straight</source>
@@ -867,6 +875,17 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <message>
         <source>it ended with the status %1</source>
         <translation>il s’est terminé avec le code %1</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::EventTelling</name>
+    <message>
+        <source>Choose an event and press New Event (%1).</source>
+        <translation>Choisissez un événement et pressez Nouvel événement (%1).</translation>
+    </message>
+    <message>
+        <source>There is no event yet.</source>
+        <translation>Il n’y a pas encore d’événement.</translation>
     </message>
 </context>
 <context>
@@ -1260,6 +1279,17 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::LegendStrip</name>
+    <message>
+        <source>Legend</source>
+        <translation>Légende</translation>
+    </message>
+    <message>
+        <source>Legend: %1</source>
+        <translation>Légende&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2016,6 +2046,17 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <message>
         <source>%1 cm</source>
         <translation>%1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::ProjectorWindow</name>
+    <message>
+        <source>Projection</source>
+        <translation>Projection</translation>
+    </message>
+    <message>
+        <source>Part of the projection that is seen</source>
+        <translation>Partie visible de la projection</translation>
     </message>
 </context>
 <context>

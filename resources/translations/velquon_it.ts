@@ -366,6 +366,22 @@
         <source>Show the view in front over the whole screen; Escape ends it</source>
         <translation>Mostra la vista davanti su tutto lo schermo; Esc termina</translation>
     </message>
+    <message>
+        <source>Show &amp;Legend</source>
+        <translation>Mostra la &amp;legenda</translation>
+    </message>
+    <message>
+        <source>Axis L&amp;etters</source>
+        <translation>Lettere de&amp;gli assi</translation>
+    </message>
+    <message>
+        <source>&amp;Field Arrow</source>
+        <translation>Freccia del &amp;campo</translation>
+    </message>
+    <message>
+        <source>&amp;Colored Tracks in Projector</source>
+        <translation>&amp;Tracce colorate nel proiettore</translation>
+    </message>
 </context>
 <context>
     <name>ProjectorWindow</name>
@@ -476,14 +492,6 @@
     <message>
         <source>Record</source>
         <translation>Annota</translation>
-    </message>
-    <message>
-        <source>Projection</source>
-        <translation>Proiezione</translation>
-    </message>
-    <message>
-        <source>Part of the projection that is seen</source>
-        <translation>Parte visibile della proiezione</translation>
     </message>
 </context>
 <context>
@@ -685,11 +693,11 @@ Vuoi sostituirlo?</translation>
     </message>
     <message>
         <source>Lengths and angles are given in space and on the paper; the angle is that to the parent at the vertex.</source>
-        <translation>Lunghezze e angoli sono dati nello spazio e sulla carta; l’angolo è quello con la particella madre al vertice.</translation>
+        <translation>Lunghezze e angoli nello spazio e sulla carta; l’angolo è quello con la particella madre al vertice.</translation>
     </message>
     <message>
         <source>Fates: decayed, left the chamber, or full: the track is cut where the event holds no more points.</source>
-        <translation>Sorte: decaduta, uscita dalla camera, o pieno: la traccia è tagliata dove l’evento non contiene altri punti.</translation>
+        <translation>Sorte: decaduta, uscita (dalla camera) o pieno: traccia tagliata, l’evento non contiene altri punti.</translation>
     </message>
     <message>
         <source>straight</source>
@@ -870,59 +878,70 @@ Vuoi sostituirlo?</translation>
     </message>
 </context>
 <context>
+    <name>velquon::EventTelling</name>
+    <message>
+        <source>Choose an event and press New Event (%1).</source>
+        <translation>Scegli un evento e premi Nuovo evento (%1).</translation>
+    </message>
+    <message>
+        <source>There is no event yet.</source>
+        <translation>Non c’è ancora nessun evento.</translation>
+    </message>
+</context>
+<context>
     <name>velquon::EventText</name>
     <message>
         <source>the %1 decayed</source>
         <comment>symbol of a particle</comment>
-        <translation>il %1 è decaduto</translation>
+        <translation>%1 decaduta</translation>
     </message>
     <message>
         <source>the %1 converted to a pair</source>
         <comment>symbol of a particle</comment>
-        <translation>il %1 si è convertito in una coppia</translation>
+        <translation>%1 convertita in una coppia</translation>
     </message>
     <message>
         <source>the %1 left the chamber at once</source>
         <comment>symbol of a particle</comment>
-        <translation>il %1 è uscito subito dalla camera</translation>
+        <translation>%1 uscita subito dalla camera</translation>
     </message>
     <message>
         <source>the event holds no points of the %1</source>
         <comment>symbol of a particle</comment>
-        <translation>l’evento non contiene punti del %1</translation>
+        <translation>l’evento non contiene punti di %1</translation>
     </message>
     <message>
         <source>the %1 left the chamber</source>
         <comment>symbol of a particle</comment>
-        <translation>il %1 è uscito dalla camera</translation>
+        <translation>%1 uscita dalla camera</translation>
     </message>
     <message>
         <source>the %1 is not detected</source>
         <comment>symbol of a particle</comment>
-        <translation>il %1 non è rivelato</translation>
+        <translation>%1 non rivelata</translation>
     </message>
     <message numerus="yes">
         <source>%n %1 decayed</source>
         <comment>symbol of particles</comment>
         <translation>
-            <numerusform>%n %1 è decaduto</numerusform>
-            <numerusform>%n %1 sono decaduti</numerusform>
+            <numerusform>%n %1 decaduta</numerusform>
+            <numerusform>%n %1 decadute</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n %1 converted to pairs</source>
         <comment>symbol of particles</comment>
         <translation>
-            <numerusform>%n %1 si è convertito in una coppia</numerusform>
-            <numerusform>%n %1 si sono convertiti in coppie</numerusform>
+            <numerusform>%n %1 convertita in una coppia</numerusform>
+            <numerusform>%n %1 convertite in coppie</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n %1 left the chamber at once</source>
         <comment>symbol of particles</comment>
         <translation>
-            <numerusform>%n %1 è uscito subito dalla camera</numerusform>
-            <numerusform>%n %1 sono usciti subito dalla camera</numerusform>
+            <numerusform>%n %1 uscita subito dalla camera</numerusform>
+            <numerusform>%n %1 uscite subito dalla camera</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -937,16 +956,16 @@ Vuoi sostituirlo?</translation>
         <source>%n %1 left the chamber</source>
         <comment>symbol of particles</comment>
         <translation>
-            <numerusform>%n %1 è uscito dalla camera</numerusform>
-            <numerusform>%n %1 sono usciti dalla camera</numerusform>
+            <numerusform>%n %1 uscita dalla camera</numerusform>
+            <numerusform>%n %1 uscite dalla camera</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n %1 are not detected</source>
         <comment>symbol of particles</comment>
         <translation>
-            <numerusform>%n %1 non è rivelato</numerusform>
-            <numerusform>%n %1 non sono rivelati</numerusform>
+            <numerusform>%n %1 non rivelata</numerusform>
+            <numerusform>%n %1 non rivelate</numerusform>
         </translation>
     </message>
     <message>
@@ -1260,6 +1279,17 @@ Vuoi sostituirlo?</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::LegendStrip</name>
+    <message>
+        <source>Legend</source>
+        <translation>Legenda</translation>
+    </message>
+    <message>
+        <source>Legend: %1</source>
+        <translation>Legenda: %1</translation>
     </message>
 </context>
 <context>
@@ -2016,6 +2046,17 @@ Vuoi sostituirlo?</translation>
     <message>
         <source>%1 cm</source>
         <translation>%1 cm</translation>
+    </message>
+</context>
+<context>
+    <name>velquon::ProjectorWindow</name>
+    <message>
+        <source>Projection</source>
+        <translation>Proiezione</translation>
+    </message>
+    <message>
+        <source>Part of the projection that is seen</source>
+        <translation>Parte visibile della proiezione</translation>
     </message>
 </context>
 <context>

@@ -58,6 +58,29 @@ TEST(CommandLine, GivesTheFileItsPathFromTheRoot) {
   EXPECT_EQ(parsed(words({"/tmp/event.cwd"})).options->file, QStringLiteral("/tmp/event.cwd"));
 }
 
+TEST(CommandLine, TakesALanguageThatThereIs) {
+  EXPECT_EQ(parsed({}).options->language, QString());
+  for (const char* const code : {"en", "de", "es", "fr", "it"}) {
+    EXPECT_EQ(parsed(words({"--language", code})).options->language, QLatin1String(code));
+  }
+  EXPECT_EQ(start(words({"--language", "deu"})).errors,
+            QStringLiteral("velquon: --language: 'deu' is not one of en, de, es, fr, it\n"));
+}
+
+/// Starts the program and waits for one of its windows.
+bool shows_window(const QStringList& arguments, const QStringList& variables, const char* title) {
+  RunningProgram program(VELQUON_PROGRAM, arguments, variables);
+  return wait_until([&] { return program.windowTitles().contains(QString::fromUtf8(title)); });
+}
+
+TEST(CommandLine, TheLanguageIsThatOfTheOptionOrOfTheDesktop) {
+  const auto german = words({"LC_ALL=de_AT.UTF-8", "LANGUAGE="});
+  EXPECT_TRUE(shows_window({}, german, "Projektor: Leer"));
+  EXPECT_TRUE(shows_window(words({"--language", "fr"}), german, "Projecteur\u00a0: Vide"));
+  EXPECT_TRUE(shows_window(words({"--language", "en"}), german, "Projector: Empty"));
+  EXPECT_TRUE(shows_window({}, words({"LC_ALL=pl_PL.UTF-8", "LANGUAGE="}), "Projector: Empty"));
+}
+
 class HostileArguments : public ::testing::TestWithParam<QStringList> {};
 
 TEST_P(HostileArguments, EndTheProgramWithStatus2AndOneLine) {
@@ -76,7 +99,8 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(words({"--seed"}), words({"--seed", "-1"}), words({"--seed", "4294967296"}),
                       words({"--seed", "1.5"}), words({"--seed", ""}), words({"--bogus"}),
                       words({"--bo\ngus\x1b[31m"}), words({"a.cwd", "b.cwd"}),
-                      words({"--pictures"}), words({"--pictures="}),
+                      words({"--pictures"}), words({"--pictures="}), words({"--language"}),
+                      words({"--language", "pl"}), words({"--language", ""}),
                       words({"--pictures", "folder", "a.cwd"}), words({"--seed", "1\n\x1b[31m"})));
 
 TEST(CommandLine, HelpAndVersionGoToStandardOutput) {

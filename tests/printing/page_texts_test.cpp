@@ -1,13 +1,17 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <QAbstractButton>
 #include <QDateTime>
 #include <QLocale>
 #include <algorithm>
+#include <limits>
 
+#include "printing/projection_foot.h"
 #include "tests/support/documents/documents_fixture.h"
 #include "tests/support/documents/event_bytes.h"
 #include "tests/support/documents/printing.h"
+#include "tests/support/windows/input.h"
 #include "tests/support/windows/waiting.h"
 
 namespace velquon::test {
@@ -17,6 +21,8 @@ namespace {
 constexpr double date_height = 700.0;
 constexpr double title_height = 675.0;
 constexpr double values_height = 645.0;
+constexpr double scale_height = 78.0;
+constexpr double foot_height = 54.0;
 constexpr double text_start = 120.0;
 
 const QString values_line = QStringLiteral("B = 2 kG, T = 0.5 MeV, L = 4 m");
@@ -72,8 +78,42 @@ TEST_F(PageTextsTest, AreTheDateTheTitleAndTheValuesAtTheirPlaces) {
           is_near(start_of_line(found, paper, title_height), {text_start, title_height}, 0.1));
       EXPECT_TRUE(
           is_near(start_of_line(found, paper, values_height), {text_start, values_height}, 0.1));
-      EXPECT_EQ(found.size(), 4U + 2U + 12U);
+      const std::size_t foot_words = view == static_cast<Printable*>(&projection()) ? 2U + 4U : 0U;
+      EXPECT_EQ(found.size(), 4U + 2U + 12U + foot_words);
     }
+  }
+}
+
+TEST_F(PageTextsTest, AreBelowAProjectionItsScalePlaneZoomAndTape) {
+  openEvent();
+  const auto foot = [this] {
+    const auto found = words(projection());
+    return line_at(found, a4, scale_height) + QChar(u'|') + line_at(found, a4, foot_height);
+  };
+  EXPECT_EQ(foot(), QStringLiteral("100 cm|xy plane, zoom 1"));
+  application().projectorWindow().findChild<QAbstractButton*>(QStringLiteral("yz_button"))->click();
+  application().projectorWindow().findChild<QAbstractButton*>(QStringLiteral("zoom_3"))->click();
+  drag(projection(), {100, 150}, {250, 210});
+  // 161.55 view units; a third of a centimetre each.
+  EXPECT_EQ(foot(), QStringLiteral("20 cm|yz plane, zoom 3, tape D = 53.85 cm"));
+}
+
+TEST(ScaleBarTest, IsTheLongestOfRoundLengthsThatHasRoom) {
+  struct Case {
+    double unit_cm;
+    double length_cm;
+  };
+  for (const auto& [unit_cm, length_cm] :
+       {Case{1.25, 100.0}, Case{1.0, 100.0}, Case{1.0 / 0.6, 200.0}, Case{0.999 / 0.6, 100.0},
+        Case{5.0 / 1.2, 500.0}, Case{1e-3, 0.1}, Case{1e6, 1e8}}) {
+    const ScaleBar bar = scale_bar(unit_cm, 120.0);
+    EXPECT_NEAR(bar.length_cm, length_cm, 1e-9 * length_cm) << unit_cm;
+    EXPECT_NEAR(bar.length * unit_cm, length_cm, 1e-9 * length_cm);
+    EXPECT_LE(bar.length, 120.0 + 1e-6);
+  }
+  for (const double unit_cm : {0.0, -1.0, std::numeric_limits<double>::quiet_NaN(),
+                               std::numeric_limits<double>::infinity()}) {
+    EXPECT_EQ(scale_bar(unit_cm, 120.0).length, 0.0);
   }
 }
 

@@ -122,7 +122,7 @@ bool has_gray_near(const QImage& picture, QPoint place) {
 
 /// The frame of the projection is gray; the chamber's page has one colour.
 bool shows_projection(const PdfPage& page) {
-  return page.lines.size() == 4;
+  return page.lines.size() == 4 + 3;
 }
 
 TEST_F(PrintPanelTest, PrintsTheViewWhoseWindowHasTheKeys) {

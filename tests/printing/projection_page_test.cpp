@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <QScrollBar>
+#include <QTest>
 #include <algorithm>
 #include <limits>
 #include <set>
@@ -19,6 +20,8 @@ namespace {
 
 constexpr QPointF page_offset{20.0, 100.0};
 constexpr PaperColor ink{0.0, 0.0, 0.0};
+// The chamber's outline, and the scale bar with its ends.
+constexpr std::size_t lines_of_page = 4 + 3;
 
 class ProjectionPageTest : public DocumentsFixture {
  protected:
@@ -81,7 +84,7 @@ bool joins(const PaperLine& line, QPointF a, QPointF b) {
 void expect_frame(const PdfPage& page, QPointF low, QPointF high) {
   const QPointF right(high.x(), low.y());
   const QPointF left(low.x(), high.y());
-  ASSERT_GE(page.lines.size(), 4U);
+  ASSERT_GE(page.lines.size(), lines_of_page);
   const std::array<std::pair<QPointF, QPointF>, 4> sides{
       {{low, right}, {right, high}, {high, left}, {left, low}}};
   for (const auto& [from, to] : sides) {
@@ -107,7 +110,7 @@ TEST_F(ProjectionPageTest, HasAGrayFrameAndASquareForEachPointOnEitherPaper) {
     const PdfPage page = print(paper);
     EXPECT_EQ(page.paper, paper.size);
     expect_squares(page, middles);
-    EXPECT_EQ(page.lines.size(), 4U);
+    EXPECT_EQ(page.lines.size(), lines_of_page);
     EXPECT_EQ(page.other_fills, 0);
     expect_frame(page, QPointF(35, height - 410) + page_offset + paper.origin,
                  QPointF(435, height - 10) + page_offset + paper.origin);
@@ -153,7 +156,7 @@ TEST_F(ProjectionPageTest, HasTheTapeWhenItIsOnTheScreen) {
   drag(projection(), {100, 150}, {250, 210});
   ASSERT_TRUE(projection().tape_visible());
   const PdfPage page = print();
-  ASSERT_EQ(page.lines.size(), 5U);
+  ASSERT_EQ(page.lines.size(), lines_of_page + 1);
   const QPointF start = QPointF(100, height - 150) + page_offset + a4.origin;
   const QPointF end = QPointF(250, height - 210) + page_offset + a4.origin;
   EXPECT_EQ(std::ranges::count_if(page.lines,
@@ -161,13 +164,51 @@ TEST_F(ProjectionPageTest, HasTheTapeWhenItIsOnTheScreen) {
             1);
   clickButton("zoom_1");
   EXPECT_FALSE(projection().tape_visible());
-  EXPECT_EQ(print().lines.size(), 4U);
+  EXPECT_EQ(print().lines.size(), lines_of_page);
 }
 
 TEST_F(ProjectionPageTest, HasOnlyItsFrameWithoutAnEvent) {
   const PdfPage page = print();
   EXPECT_TRUE(page.rectangles.empty());
-  EXPECT_EQ(page.lines.size(), 4U);
+  EXPECT_EQ(page.lines.size(), lines_of_page);
+}
+
+TEST_F(ProjectionPageTest, HasAScaleBarOfARoundLength) {
+  openEvent({point_at(100, 50, -20, 3)});  // in a chamber of 400 cm
+  for (const auto& [button, length] :
+       {std::pair("zoom_1", 100.0), std::pair("zoom_2", 100.0), std::pair("zoom_3", 60.0)}) {
+    SCOPED_TRACE(button);
+    clickButton(button);
+    const QPointF start = QPointF(55.0, 85.0) + a4.origin;
+    const PdfPage page = print();
+    EXPECT_EQ(std::ranges::count_if(page.lines,
+                                    [&](const PaperLine& line) {
+                                      return joins(line, start, start + QPointF(length, 0.0));
+                                    }),
+              1);
+  }
+}
+
+TEST_F(ProjectionPageTest, HasWhatACurveMeasures) {
+  openEvent({point_at(100, 50, -20, 3)});
+  clickButton("snap_button");
+  clickButton("curve_tool");
+  for (const QPoint place : {QPoint(150, 250), QPoint(250, 150), QPoint(350, 250)}) {
+    QTest::mouseClick(&projection(), Qt::LeftButton, {}, place);
+  }
+  const double height = projection().height();
+  const QPointF middle = QPointF(250, height - 250) + page_offset + a4.origin;
+  const PdfPage page = print();
+  const auto on_circle = [&](const PaperLine& line, bool measured) {
+    const QPointF from = line.from - middle;
+    return std::fabs(std::hypot(from.x(), from.y()) - 100.0) < 0.1 &&
+           is_gray(line.color) != measured;
+  };
+  for (const bool measured : {true, false}) {
+    EXPECT_GT(std::ranges::count_if(
+                  page.lines, [&](const PaperLine& line) { return on_circle(line, measured); }),
+              20);
+  }
 }
 
 TEST_F(ProjectionPageTest, LeavesOutPointsThatAreNowhere) {

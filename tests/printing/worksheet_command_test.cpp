@@ -27,6 +27,16 @@ TEST_F(WorksheetCommandTest, DefaultsAreThoseOfTheStartAndOneEvent) {
   EXPECT_EQ(files(), QStringList{QStringLiteral("sheets.pdf")}) << "no answers were asked for";
 }
 
+TEST_F(WorksheetCommandTest, PagesAreInTheLanguageThatIsChosen) {
+  const auto made = pages(words("--type lambda --language de --answers") + QStringList{answers()});
+  EXPECT_EQ(made.size(), 1U);
+  const QStringList lines = lines_of_pdf_page(sheets(), 1);
+  EXPECT_TRUE(lines.contains(QStringLiteral("B = 0.6 kG, T = 0.4 MeV, L = 5 m")));
+  EXPECT_TRUE(lines.join(u' ').contains(QStringLiteral("Einlaufendes Teilchen: Lambda")));
+  EXPECT_EQ(title_of_pdf(sheets()), QStringLiteral("Arbeitsblätter"));
+  EXPECT_EQ(title_of_pdf(answers()), QStringLiteral("Lösungen zu den Arbeitsblättern"));
+}
+
 TEST_F(WorksheetCommandTest, WithoutASeedTheClockGivesOne) {
   const auto seed_line = [&] {
     static_cast<void>(pages(words("--type pi-")));

@@ -6,10 +6,12 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
 #include <QWheelEvent>
+#include <stdexcept>
 
 #include "tests/track/track_rig.h"
 
@@ -22,6 +24,25 @@ using test::TrackRig;
 
 QString accessible_name(QWidget* widget) {
   return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+}
+
+QComboBox& popup_of(const TrackRig& rig, const char* name) {
+  auto* const popup = rig.panel->findChild<QComboBox*>(QLatin1String(name));
+  if (popup == nullptr) {
+    throw std::runtime_error(name);
+  }
+  return *popup;
+}
+
+/// The controls of the choices with their menu items in the order of what they offer.
+struct Choices {
+  const char* popup;
+  std::vector<QAction*> items;
+};
+std::vector<Choices> choices_of(const TrackRig& rig) {
+  return {{"particle_popup", {rig.electron_item, rig.positron_item}},
+          {"direction_popup", {rig.LtoR_item, rig.RtoL_item}},
+          {"velocity_popup", {rig.v_item, rig.two_v_item, rig.three_v_item}}};
 }
 
 TEST(TrackPanel, HasTheControlsByTheirNames) {
@@ -62,7 +83,11 @@ TEST(TrackPanel, TellsScreenReadersWhatItsControlsAre) {
 TEST(TrackPanel, IsWalkedThroughByTheTabKey) {
   TrackRig rig;
   rig.activate();
-  const std::vector<QWidget*> order{rig.slider, rig.panel->inject_button(),
+  const std::vector<QWidget*> order{rig.slider,
+                                    &popup_of(rig, "particle_popup"),
+                                    &popup_of(rig, "direction_popup"),
+                                    &popup_of(rig, "velocity_popup"),
+                                    rig.panel->inject_button(),
                                     rig.panel->clear_button()};
   order.front()->setFocus();
   for (QWidget* widget : order) {
@@ -114,6 +139,68 @@ TEST(TrackPanel, ItsButtonsStandForTheMenuItems) {
   EXPECT_TRUE(rig.model.simulation().clear_signal());
   rig.clear_item->setEnabled(false);
   EXPECT_FALSE(rig.panel->clear_button()->isEnabled());
+}
+
+TEST(TrackPanel, ItsChoicesFollowTheMenuAndTheMenuThem) {
+  TrackRig rig;
+  rig.activate();
+  for (const auto& [name, items] : choices_of(rig)) {
+    QComboBox& popup = popup_of(rig, name);
+    ASSERT_EQ(popup.count(), static_cast<int>(items.size())) << name;
+    for (int i = 0; i < popup.count(); ++i) {
+      QAction* const item = items.at(static_cast<std::size_t>(i));
+      EXPECT_EQ(popup.itemText(i), item->text().remove(u'&'));
+      item->trigger();
+      EXPECT_EQ(popup.currentIndex(), i) << name;
+    }
+    for (int i = 0; i < popup.count(); ++i) {
+      popup.setFocus();
+      QTest::keyClick(&popup, i == 0 ? Qt::Key_Home : Qt::Key_Down);
+      for (int other = 0; other < popup.count(); ++other) {
+        EXPECT_EQ(items.at(static_cast<std::size_t>(other))->isChecked(), other == i) << name;
+      }
+    }
+  }
+  EXPECT_EQ(rig.model.particle(), TrackParticle::e_plus);
+  EXPECT_EQ(rig.model.direction(), TrackDirection::right_to_left);
+  EXPECT_EQ(rig.model.speed(), 3);
+  EXPECT_EQ(rig.model.simulation().settings.charge, 1.0);
+}
+
+TEST(TrackPanel, ItsChoicesRestWhenThoseOfTheMenuDo) {
+  TrackRig rig;
+  const auto expect_enabled = [&rig](bool enabled) {
+    for (const auto& [name, items] : choices_of(rig)) {
+      EXPECT_EQ(popup_of(rig, name).isEnabled(), enabled) << name;
+      EXPECT_EQ(items.front()->isEnabled(), enabled) << name;
+    }
+  };
+  expect_enabled(false);
+  rig.activate();
+  expect_enabled(true);
+  popup_of(rig, "direction_popup").setFocus();
+  rig.injectAndHold();
+  expect_enabled(false);
+  EXPECT_EQ(rig.window->focusWidget(), rig.view);
+  while (rig.view->is_tracking()) {
+    rig.step(1);
+  }
+  expect_enabled(true);
+  EXPECT_EQ(rig.window->focusWidget(), &popup_of(rig, "direction_popup"));
+}
+
+TEST(TrackPanel, NumbersHaveUnitsBesideThem) {
+  TrackRig rig;
+  rig.activate();
+  const auto unit = [&rig](const char* name) {
+    return rig.panel->findChild<QLabel*>(QLatin1String(name))->text();
+  };
+  EXPECT_EQ(unit("field_unit"), QStringLiteral("B₀"));
+  EXPECT_EQ(unit("tape_unit"), QString());
+  rig.model.press({100.0, 100.0});
+  rig.model.drag({130.0, 140.0});
+  EXPECT_EQ(rig.panel->tape_box()->text(), QStringLiteral("D =  5.00"));
+  EXPECT_EQ(unit("tape_unit"), QStringLiteral("units"));
 }
 
 TEST(TrackPanel, TheKeysComeBackToInjectAndDoNotGoOnToClear) {

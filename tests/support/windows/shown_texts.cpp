@@ -106,7 +106,7 @@ std::vector<Room> rooms_in(const QWidget& widget) {
 std::vector<const QWidget*> visible_in(const QWidget& window) {
   std::vector<const QWidget*> found{&window};
   for (const QWidget* const widget : window.findChildren<QWidget*>()) {
-    if (widget->isVisible() && widget->window() == &window) {
+    if (widget->isVisible() && widget->window() == window.window()) {
       found.push_back(widget);
     }
   }

@@ -15,7 +15,7 @@ struct ShownText {
   QString text;
 };
 
-/// The texts that a window gives to a person: of its visible controls, its menus and headers, the tool
+/// The texts that a window, or a part of one, gives to a person: of its visible controls, its menus and headers, the tool
 /// tips, and the names and descriptions for who listens.
 std::vector<ShownText> texts_in(const QWidget& window);
 

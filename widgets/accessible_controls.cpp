@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "widgets/accessible_value_slider.h"
+#include "widgets/accessible_controls.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
 
+#include "widgets/gl_view.h"
 #include "widgets/value_slider.h"
 
 namespace velquon {
@@ -25,9 +26,16 @@ class AccessibleValueSlider : public QAccessibleWidget, public QAccessibleValueI
   }
 
   [[nodiscard]] QString text(QAccessible::Text kind) const override {
-    return kind == QAccessible::Value
-               ? QStringLiteral("%1 %2").arg(slider_->doubleValue()).arg(slider_->unit())
-               : QAccessibleWidget::text(kind);
+    const QString value = QStringLiteral("%1 %2").arg(slider_->doubleValue()).arg(slider_->unit());
+    switch (kind) {
+      case QAccessible::Value:
+        return value;
+      case QAccessible::Description:
+        // The value that goes over the bus is a number without a unit.
+        return QStringLiteral("%1. %2").arg(value, QAccessibleWidget::text(kind));
+      default:
+        return QAccessibleWidget::text(kind);
+    }
   }
 
   [[nodiscard]] QVariant currentValue() const override { return slider_->doubleValue(); }
@@ -41,13 +49,18 @@ class AccessibleValueSlider : public QAccessibleWidget, public QAccessibleValueI
 };
 
 QAccessibleInterface* make_accessible(const QString& /*key*/, QObject* object) {
-  auto* const slider = qobject_cast<ValueSlider*>(object);
-  return slider != nullptr ? new AccessibleValueSlider(slider) : nullptr;
+  if (auto* const slider = qobject_cast<ValueSlider*>(object)) {
+    return new AccessibleValueSlider(slider);
+  }
+  if (auto* const view = qobject_cast<GLView*>(object)) {
+    return new QAccessibleWidget(view, QAccessible::Graphic);
+  }
+  return nullptr;
 }
 
 }  // namespace
 
-void install_accessible_value_sliders() {
+void install_accessible_controlss() {
   QAccessible::installFactory(make_accessible);
 }
 

@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: The Velquon developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The views on a screen of any ratio of pixels: the same picture in finer pixels, and the mouse where
+// it is seen. To be run at each ratio; the screen needs room for both windows.
+
+#include <GL/gl.h>
+
+#include <QOpenGLFramebufferObject>
+
+#include "render/chamber_scene.h"
+#include "render/overlay_text.h"
+#include "tests/support/windows/application_fixture.h"
+#include "tests/support/windows/matrices.h"
+#include "tests/support/windows/pictures.h"
+#include "tests/support/windows/real_input.h"
+#include "tests/support/windows/screen_view.h"
+#include "tests/support/windows/waiting.h"
+
+namespace velquon::test {
+
+namespace {
+
+class AnyScreenTest : public ApplicationFixture {
+ protected:
+  void SetUp() override {
+    ApplicationFixture::SetUp();
+    ratio_ = chamber().devicePixelRatioF();
+    const QByteArray wanted = qgetenv("VELQUON_TEST_RATIO");
+    ASSERT_EQ(ratio_, wanted.isEmpty() ? 1.0 : wanted.toDouble());
+    ASSERT_EQ(projection().size(), QSize(470, 420)) << "the screen is too small";
+  }
+
+  /// Drags the X server's mouse from one pixel of a view to another, counted from its upper left one.
+  void dragOnScreen(const QWidget& view, QPoint from, QPoint to) {
+    const ScreenArea area = screen_area_of(view);
+    const auto move = [&](QPoint pixel) {
+      return QStringLiteral("mousemove %1 %2 sleep 0.05 ")
+          .arg(area.x + pixel.x())
+          .arg(area.y + pixel.y());
+    };
+    const RealInput input(move(from) + QStringLiteral("mousedown 1 sleep 0.05 ") +
+                          move((from + to) / 2) + move(to) + QStringLiteral("mouseup 1"));
+    EXPECT_TRUE(wait_until([&] { return input.isOver(); }));
+    run_loop_for(100);
+  }
+  /// A place given in view units from the upper left corner, in pixels.
+  [[nodiscard]] QPoint pixel(double x, double y) const {
+    return {qRound(x * ratio_), qRound(y * ratio_)};
+  }
+  [[nodiscard]] double ratio() const { return ratio_; }
+
+  /// The smallest rectangle around the values line with one pixel a view unit.
+  [[nodiscard]] QRect lineOfValuesUnscaled() {
+    chamber().makeCurrent();
+    QOpenGLFramebufferObject target(chamber_width, chamber_height);
+    target.bind();
+    glViewport(0, 0, chamber_width, chamber_height);
+    glClear(GL_COLOR_BUFFER_BIT);
+    OverlayText().draw(chamber().values_text(), 1.0, velquon::Camera());
+    const QImage picture = target.toImage().convertToFormat(QImage::Format_RGB32);
+    target.release();
+    chamber().doneCurrent();
+    return extent_of(pixels_of(picture, white));
+  }
+
+ private:
+  double ratio_ = 0.0;
+};
+
+/// Lengths of the runs of a colour along a column.
+std::vector<int> runs_along(const QImage& picture, int column, int from, int to, QRgb color) {
+  std::vector<int> runs;
+  int run = 0;
+  for (int y = from; y < to; ++y) {
+    if (picture.pixel(column, y) == color) {
+      ++run;
+    } else if (run > 0) {
+      runs.push_back(run);
+      run = 0;
+    }
+  }
+  return runs;
+}
+
+}  // namespace
+
+TEST_F(AnyScreenTest, ThePictureFillsItsFramebufferAndTheScreenShowsIt) {
+  const std::array points{point_at(300.0, -100.0, 200.0, 3), point_at(-250.0, 150.0, 100.0, 4),
+                          point_at(100.0, 250.0, -150.0, 6)};
+  hideAxesAndValues();
+  showEvent(points);
+  for (GLView* const view :
+       {static_cast<GLView*>(&chamber()), static_cast<GLView*>(&projection())}) {
+    const QImage picture = picture_of(*view);
+    EXPECT_NEAR(picture.width(), view->width() * ratio(), 0.5);
+    EXPECT_NEAR(picture.height(), view->height() * ratio(), 0.5);
+    EXPECT_TRUE(screen_comes_to_show(*view, picture));
+  }
+  const QImage picture = picture_of(chamber());
+  for (const PlotPoint& point : points) {
+    const QPointF place =
+        resting_camera().pixel({point.coords[0], point.coords[1], point.coords[2]}) * ratio();
+    EXPECT_TRUE(has_color_near(picture, place, color_of_code(point.code), 1.0)) << point.code;
+  }
+  // The projected middle of the chamber, (35 + 200, 10 + 200) from the top.
+  showEvent(std::array{point_at(0.0, 0.0, 0.0, 3)});
+  EXPECT_TRUE(
+      has_color_near(picture_of(projection()), QPointF(235.0, 210.0) * ratio(), white, 1.0));
+}
+
+TEST_F(AnyScreenTest, LinesAndDotsAreInProportion) {
+  hideAxesAndValues();
+  const QImage edges = picture_of(chamber());
+  const QPointF middle = resting_camera().pixel({-400.0, 400.0, 100.0}) * ratio();
+  int width = 0;
+  for (int across = -6; across <= 6; ++across) {
+    width += color_at(edges, middle + QPointF(across, 0.0)) == edge_blue ? 1 : 0;
+  }
+  EXPECT_NEAR(width, ratio(), 0.5);
+  // The left side of the projected frame is dots and gaps of a view unit, rounded to pixels.
+  const QImage frame = picture_of(projection());
+  std::vector<int> dots;
+  for (int x = qRound(33.0 * ratio()); x <= qRound(37.0 * ratio()); ++x) {
+    const auto runs = runs_along(frame, x, qRound(40.0 * ratio()), qRound(380.0 * ratio()), white);
+    dots = runs.size() > dots.size() ? runs : dots;
+  }
+  ASSERT_GT(dots.size(), 100U);
+  const int usual = std::max(qRound(ratio()), 1);
+  const auto as_usual = std::ranges::count(dots, usual);
+  EXPECT_GE(as_usual + 2, std::ssize(dots));
+  EXPECT_NEAR(static_cast<double>(dots.size()), 340.0 * ratio() / (2.0 * usual), 2.0);
+}
+
+TEST_F(AnyScreenTest, TheValuesLineIsAsLargeAndWhereItIsOnAnyScreen) {
+  chamber().set_show_axes(false);
+  showEvent({});
+  const QRect unscaled = lineOfValuesUnscaled();
+  const QRect shown = extent_of(pixels_of(picture_of(chamber()), white));
+  ASSERT_GT(unscaled.width(), 100);
+  EXPECT_NEAR(shown.width(), unscaled.width() * ratio(), ratio());
+  EXPECT_NEAR(shown.height(), unscaled.height() * ratio(), ratio());
+  EXPECT_NEAR(shown.x(), unscaled.x() * ratio(), ratio() + 1.0);
+  EXPECT_NEAR(shown.y(), unscaled.y() * ratio(), ratio() + 1.0);
+}
+
+TEST_F(AnyScreenTest, TheMouseMeasuresThePixelsThatItPointsAt) {
+  activate(projectorWindow());
+  const QPoint from = pixel(101.3, 57.9);
+  const QPoint to = pixel(298.6, 333.3);
+  dragOnScreen(projection(), from, to);
+  const QImage picture = picture_of(projection());
+  EXPECT_TRUE(has_color_near(picture, from, red, 1.0));
+  EXPECT_TRUE(has_color_near(picture, to, red, 1.0));
+  const QRect tape = extent_of(pixels_of(picture, red));
+  EXPECT_NEAR(tape.left(), from.x(), 1.0 + ratio() / 2.0);
+  EXPECT_NEAR(tape.bottom(), to.y(), 1.0 + ratio() / 2.0);
+  const QPoint way = to - from;
+  EXPECT_NEAR(projection().tapeLength() / projection().scaler() * ratio(),
+              std::hypot(way.x(), way.y()), 1.0);
+}
+
+TEST_F(AnyScreenTest, TheGrabToolMovesThePictureByThePixelsOfTheMouse) {
+  activate(projectorWindow());
+  clickButton("grab_tool");
+  const ProjectionMapping before = projection().mapping();
+  const QPoint from = pixel(100.0, 100.0);
+  const QPoint to = pixel(163.0, 141.0);
+  dragOnScreen(projection(), from, to);
+  EXPECT_NEAR((projection().mapping().offset_across - before.offset_across) * ratio(),
+              to.x() - from.x(), 1.0);
+  EXPECT_NEAR((projection().mapping().offset_up - before.offset_up) * ratio(), to.y() - from.y(),
+              1.0);
+}
+
+TEST_F(AnyScreenTest, TheCursorHasTheSizeOfSixteenUnits) {
+  const QCursor cursor = projection().cursor();
+  EXPECT_EQ(cursor.pixmap().width(), qRound(16.0 * ratio()));
+  EXPECT_EQ(cursor.hotSpot(), QPoint(qRound(7.0 * ratio()), qRound(7.0 * ratio())));
+}
+
+}  // namespace velquon::test
