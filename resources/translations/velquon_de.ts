@@ -2224,7 +2224,7 @@ Soll die Datei ersetzt werden?</translation>
     </message>
     <message>
         <source>Stop the turntable</source>
-        <translation>Den Drehteller anhalten</translation>
+        <translation>Die Drehung anhalten</translation>
     </message>
     <message>
         <source>Escape</source>

@@ -9,26 +9,26 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QDoubleSpinBox>
 #include <QFile>
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QMenuBar>
-#include <QRegularExpression>
 #include <QSet>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBrowser>
 #include <QToolButton>
 
+#include "app/desktop.h"
 #include "app/desktop_dialogs.h"
 #include "app/event_documents.h"
-#include "printing/worksheets.h"
 #include "record/make_events_dialog.h"
 #include "record/measurements_window.h"
 #include "record/record_window.h"
-#include "tests/support/documents/event_bytes.h"
+#include "tests/support/documents/environment.h"
 #include "tests/support/documents/modal.h"
-#include "tests/support/documents/other_program.h"
-#include "tests/support/documents/pdf_page.h"
 #include "tests/support/windows/application_fixture.h"
 #include "tests/support/windows/pseudo_language.h"
 #include "tests/support/windows/shown_texts.h"
@@ -39,8 +39,6 @@
 namespace velquon::test {
 
 namespace {
-
-const QString pseudo = QStringLiteral("pseudo");
 
 /// Hears which texts of Qt itself are looked up and have no translation.
 class MissingOfQt : public QTranslator {
@@ -67,18 +65,34 @@ class MissingOfQt : public QTranslator {
   mutable QSet<QString> missing_;
 };
 
+/// What is typed with Alt for a title; null without one.
+QChar mnemonic(const QString& title) {
+  const QKeySequence key = QKeySequence::mnemonic(title);
+  return key.isEmpty() ? QChar() : QChar(key[0].key());
+}
+
+void expect_own_mnemonics(const QList<QAction*>& titles_of_menu) {
+  QString taken;
+  for (const QAction* const action : titles_of_menu) {
+    if (!action->isSeparator()) {
+      const QChar key = mnemonic(action->text());
+      EXPECT_FALSE(key.isNull() || taken.contains(key)) << action->text().toStdString();
+      taken += key;
+    }
+    if (action->menu() != nullptr) {
+      expect_own_mnemonics(action->menu()->actions());
+    }
+  }
+}
+
 /// The whole program in a language, with the dialogs of a desktop.
 class LanguagesTest : public ApplicationFixture, public ::testing::WithParamInterface<const char*> {
  protected:
   void SetUp() override {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const QString code = QLatin1String(GetParam());
-    if (code == pseudo) {
-      pseudo_language_ =
-          std::make_unique<PseudoLanguage>(QStringLiteral(TRANSLATIONS "/velquon_de.ts"));
-      QCoreApplication::installTranslator(pseudo_language_.get());
-    } else {
-      language_ = std::make_unique<ShownLanguage>(code);
+    language_ = std::make_unique<TestedLanguage>(code);
+    if (!isPseudo()) {
       missing_ = std::make_unique<MissingOfQt>(code);
       QCoreApplication::installTranslator(missing_.get());
       EXPECT_TRUE(missing_->isKnown());
@@ -86,7 +100,7 @@ class LanguagesTest : public ApplicationFixture, public ::testing::WithParamInte
     ApplicationFixture::SetUp();
   }
   [[nodiscard]] UserDialogs& dialogs() override { return desktop_dialogs_; }
-  [[nodiscard]] bool isPseudo() const { return pseudo_language_ != nullptr; }
+  [[nodiscard]] bool isPseudo() const { return language_->isPseudo(); }
 
   /// Expects the texts of a window to be translated and to have room.
   void look(const QWidget& window, const std::string& state = {}) {
@@ -119,7 +133,9 @@ class LanguagesTest : public ApplicationFixture, public ::testing::WithParamInte
   }
 
   /// Looks at the window that an item opens in front of the others, and closes it.
-  void lookAtWindowOf(const char* item_name) {
+  void lookAtWindowOf(
+      const char* item_name,
+      const std::function<void(QWidget&)>& more = [](QWidget& /*window*/) {}) {
     const QWidget* const before = QApplication::activeWindow();
     choose(item_name);
     ASSERT_TRUE(wait_until([&] {
@@ -127,6 +143,7 @@ class LanguagesTest : public ApplicationFixture, public ::testing::WithParamInte
     })) << item_name;
     QWidget* const window = QApplication::activeWindow();
     look(*window, item_name);
+    more(*window);
     QTest::keyClick(window, Qt::Key_Escape);
     EXPECT_TRUE(wait_until([&] { return QApplication::activeWindow() == before; })) << item_name;
   }
@@ -162,195 +179,116 @@ class LanguagesTest : public ApplicationFixture, public ::testing::WithParamInte
     application().measurements().add(std::move(rows));
   }
 
+  void walkThroughTheWindows() {
+    lookAtViews("at the start");
+    choose("lambda_item");
+    choose("new_event_item");
+    lookAtViews("with an event");
+    for (const char* const tool : {"grab_tool", "curve_tool", "angle_tool"}) {
+      clickButton(tool);
+      look(projectorWindow(), tool);
+    }
+    lookAtWindowOf("guide_item", [this](QWidget& guide) {
+      const auto* const page = guide.findChild<QTextBrowser*>();
+      ASSERT_NE(page, nullptr);
+      EXPECT_EQ(page->source().path().toStdString(),
+                isPseudo() ? "/docs/guide.md" : std::string("/docs/") + GetParam() + "/guide.md");
+    });
+    lookAtWindowOf("shortcuts_item");
+    lookAtPresentation();
+    choose("event_record_item");
+    look(application().recordWindow(), "record");
+    application().recordWindow().findChild<QCheckBox*>(QStringLiteral("hide_answers_box"))->click();
+    look(application().recordWindow(), "answers hidden");
+    choose("activate_item");
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&application().trackWindow()));
+    look(application().trackWindow(), "track");
+    lookAtViews("while the track window is active");
+    choose("activate_item");
+  }
+
+  void walkThroughTheMeasurements() {
+    choose("measurements_item");
+    MeasurementsWindow& window = application().measurementsWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    look(window, "empty");
+    application().recordReadings();
+    look(window, "nothing to record");
+    measureEverything();
+    for (int fit = 0; fit < 3; ++fit) {
+      window.findChild<QComboBox*>(QStringLiteral("fit_popup"))->setCurrentIndex(fit);
+      look(window, "fit " + std::to_string(fit));
+    }
+    const QAbstractItemModel& table = *window.table().model();
+    for (int row = 0; isPseudo() && row < table.rowCount(); ++row) {
+      for (int column = 0; column < table.columnCount(); ++column) {
+        const QString text = table.index(row, column).data().toString();
+        EXPECT_EQ(untranslated_part(text), QString()) << text.toStdString();
+      }
+    }
+    window.findChild<QAction*>(QStringLiteral("make_events_item"))->trigger();
+    MakeEventsDialog* const dialog = window.makeEventsDialog();
+    ASSERT_TRUE(dialog != nullptr && QTest::qWaitForWindowExposed(dialog));
+    look(*dialog, "make events");
+    dialog->reject();
+    application().measurements().setSaved();
+  }
+
+  void walkThroughTheDialogs() {
+    choose("new_event_item");
+    for (const auto& [item_name, dialog_class] : {std::pair{"print_item", "velquon::PrintPanel"},
+                                                  {"worksheets_item", "velquon::WorksheetPanel"},
+                                                  {"save_picture_item", "velquon::PicturePanel"},
+                                                  {"open_item", "QFileDialog"},
+                                                  {"import_item", "QFileDialog"},
+                                                  {"save_item", "QFileDialog"},
+                                                  {"export_points_item", "QFileDialog"},
+                                                  {"export_record_item", "QFileDialog"},
+                                                  {"about_item", "QMessageBox"}}) {
+      lookAtDialog(dialog_class, item_name, [&, name = item_name] { choose(name); });
+    }
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("1")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("x") == 1);
+    file.close();
+    lookAtDialog("QMessageBox", "wrong format",
+                 [&] { application().documents().application_openFile(file.fileName()); });
+    lookAtDialog("QMessageBox", "unsaved", [&] {
+      measureEverything();
+      choose("quit_item");
+    });
+    application().measurements().setSaved();
+  }
+
   int looks_ = 0;
 
  private:
   DesktopDialogs desktop_dialogs_;
-  std::unique_ptr<PseudoLanguage> pseudo_language_;
-  std::unique_ptr<ShownLanguage> language_;
+  std::unique_ptr<TestedLanguage> language_;
   std::unique_ptr<MissingOfQt> missing_;
 };
 
-/// What is typed with Alt for a title; null without one.
-QChar mnemonic(const QString& title) {
-  const QKeySequence key = QKeySequence::mnemonic(title);
-  return key.isEmpty() ? QChar() : QChar(key[0].key());
-}
-
-void expect_own_mnemonics(const QList<QAction*>& titles_of_menu) {
-  QString taken;
-  for (const QAction* const action : titles_of_menu) {
-    if (!action->isSeparator()) {
-      const QChar key = mnemonic(action->text());
-      EXPECT_FALSE(key.isNull() || taken.contains(key)) << action->text().toStdString();
-      taken += key;
-    }
-    if (action->menu() != nullptr) {
-      expect_own_mnemonics(action->menu()->actions());
-    }
-  }
-}
-
-/// A word on a page and the place that it takes, points from the upper left corner.
-struct PrintedWord {
-  QString text;
-  QRectF box;
-};
-
-/// The words of a PDF file, page by page.
-std::vector<std::vector<PrintedWord>> printed_words(const QString& path) {
-  const QString listing =
-      run_program("pdftotext", {QStringLiteral("-bbox"), path, QStringLiteral("-")}).output;
-  static const QRegularExpression word(
-      QStringLiteral("<word xMin=\"(.*)\" yMin=\"(.*)\" xMax=\"(.*)\" yMax=\"(.*)\">(.*)</word>"));
-  std::vector<std::vector<PrintedWord>> pages;
-  for (const QString& line : listing.split(QLatin1Char('\n'))) {
-    if (line.contains(QLatin1String("<page "))) {
-      pages.emplace_back();
-    } else if (const QRegularExpressionMatch match = word.match(line); match.hasMatch()) {
-      const QPointF from(match.captured(1).toDouble(), match.captured(2).toDouble());
-      const QPointF to(match.captured(3).toDouble(), match.captured(4).toDouble());
-      pages.back().push_back({match.captured(5), QRectF(from, to)});
-    }
-  }
-  return pages;
-}
-
-/// Expects words to lie between the side margins of an A4 page and none over another.
-void expect_room(const std::vector<PrintedWord>& words) {
-  constexpr QRectF between_margins(35.0, 0.0, 595.0 - 70.0, 842.0);
-  constexpr QMarginsF touching(0.5, 3.0, 0.5, 3.0);
-  for (std::size_t i = 0; i < words.size(); ++i) {
-    EXPECT_TRUE(between_margins.contains(words[i].box)) << words[i].text.toStdString();
-    for (std::size_t k = 0; k < i; ++k) {
-      const QRectF core = words[i].box.marginsRemoved(touching);
-      EXPECT_FALSE(core.intersects(words[k].box.marginsRemoved(touching)))
-          << words[k].text.toStdString() << " and " << words[i].text.toStdString();
-    }
-  }
-}
-
-/// Expects each text of a page to be translated. One that is longer than its place lacks its end.
-void expect_translated(const std::vector<PrintedWord>& words) {
-  QString all;
-  for (const PrintedWord& word : words) {
-    all += word.text + QLatin1Char(' ');
-  }
-  const QStringList texts = all.split(QChar(u'«'));
-  EXPECT_GT(texts.size(), 5);
-  for (qsizetype i = 0; i < texts.size(); ++i) {
-    const QString behind =
-        i == 0 || texts[i].contains(QChar(u'»')) ? texts[i].section(QChar(u'»'), -1) : QString();
-    EXPECT_EQ(untranslated_part(behind).toStdString(), "");
-  }
-}
-
-TEST_P(LanguagesTest, WindowsHaveEveryTextTranslatedAndRoomForIt) {
-  lookAtViews("at the start");
-  choose("lambda_item");
-  choose("new_event_item");
-  lookAtViews("with an event");
-  for (const char* const tool : {"grab_tool", "curve_tool", "angle_tool"}) {
-    clickButton(tool);
-    look(projectorWindow(), tool);
-  }
-  lookAtWindowOf("guide_item");
-  lookAtWindowOf("shortcuts_item");
-  lookAtPresentation();
-  choose("event_record_item");
-  look(application().recordWindow(), "record");
-  application().recordWindow().findChild<QCheckBox*>(QStringLiteral("hide_answers_box"))->click();
-  look(application().recordWindow(), "answers hidden");
-  choose("activate_item");
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&application().trackWindow()));
-  look(application().trackWindow(), "track");
-  lookAtViews("while the track window is active");
-  choose("activate_item");
+TEST_P(LanguagesTest, EveryTextIsTranslatedAndHasRoom) {
+  walkThroughTheWindows();
+  walkThroughTheMeasurements();
+  walkThroughTheDialogs();
   if (!isPseudo()) {
     expect_own_mnemonics(chamberWindow().menuBar()->actions());
+    expect_own_mnemonics(application().measurementsWindow().menuBar()->actions());
   }
-  EXPECT_EQ(looks_, 15);
-}
-
-TEST_P(LanguagesTest, TheWindowOfMeasurementsHasEveryTextTranslatedAndRoomForIt) {
-  choose("measurements_item");
-  MeasurementsWindow& window = application().measurementsWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-  look(window, "empty");
-  application().recordReadings();
-  look(window, "nothing to record");
-  measureEverything();
-  for (int fit = 0; fit < 3; ++fit) {
-    window.findChild<QComboBox*>(QStringLiteral("fit_popup"))->setCurrentIndex(fit);
-    look(window, "fit " + std::to_string(fit));
-  }
-  const QAbstractItemModel& table = *window.table().model();
-  for (int row = 0; isPseudo() && row < table.rowCount(); ++row) {
-    for (int column = 0; column < table.columnCount(); ++column) {
-      const QString text = table.index(row, column).data().toString();
-      EXPECT_EQ(untranslated_part(text), QString()) << text.toStdString();
-    }
-  }
-  window.findChild<QAction*>(QStringLiteral("make_events_item"))->trigger();
-  MakeEventsDialog* const dialog = window.makeEventsDialog();
-  ASSERT_TRUE(dialog != nullptr && QTest::qWaitForWindowExposed(dialog));
-  look(*dialog, "make events");
-  dialog->reject();
-  if (!isPseudo()) {
-    expect_own_mnemonics(window.menuBar()->actions());
-  }
-  application().measurements().setSaved();
-  EXPECT_EQ(looks_, 6);
-}
-
-TEST_P(LanguagesTest, DialogsHaveEveryTextTranslatedAndRoomForIt) {
-  choose("new_event_item");
-  for (const auto& [item_name, dialog_class] : {std::pair{"print_item", "velquon::PrintPanel"},
-                                                {"worksheets_item", "velquon::WorksheetPanel"},
-                                                {"save_picture_item", "velquon::PicturePanel"},
-                                                {"open_item", "QFileDialog"},
-                                                {"import_item", "QFileDialog"},
-                                                {"save_item", "QFileDialog"},
-                                                {"export_points_item", "QFileDialog"},
-                                                {"export_record_item", "QFileDialog"},
-                                                {"about_item", "QMessageBox"}}) {
-    lookAtDialog(dialog_class, item_name, [&, name = item_name] { choose(name); });
-  }
-  const QTemporaryDir folder;
-  QFile file(folder.filePath(QStringLiteral("1")));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("x") == 1);
-  file.close();
-  lookAtDialog("QMessageBox", "wrong format",
-               [&] { application().documents().application_openFile(file.fileName()); });
-  lookAtDialog("QMessageBox", "unsaved", [&] {
-    measureEverything();
-    choose("quit_item");
-  });
-  application().measurements().setSaved();
-  EXPECT_EQ(looks_, 11);
-}
-
-TEST_P(LanguagesTest, PagesOfWorksheetsAreTranslatedAndHaveRoom) {
-  const WorksheetOrder order{.type = &event_types()[5], .values = {}, .seed = 3, .events = 4};
-  const auto documents = make_worksheets(order, [](int) { return true; });
-  const QTemporaryDir folder;
-  for (const auto& [document, count] :
-       {std::pair(documents->sheets, 4U), std::pair(documents->answers, 1U)}) {
-    QFile file(folder.filePath(QStringLiteral("pages.pdf")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(document) == document.size());
-    file.close();
-    const auto pages = printed_words(file.fileName());
-    EXPECT_EQ(pages.size(), count);
-    for (const auto& words : pages) {
-      isPseudo() ? expect_translated(words) : expect_room(words);
-    }
-    if (isPseudo()) {
-      EXPECT_EQ(untranslated_part(title_of_pdf(file.fileName())).toStdString(), "");
-    }
-  }
+  EXPECT_EQ(looks_, 32);
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, LanguagesTest, ::testing::Values("pseudo", "de", "es", "fr", "it"));
+
+TEST(LanguageChoice, NumbersKeepTheirPoint) {
+  const EnvironmentVariable german("LC_ALL", "de_DE.UTF-8");
+  QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+  ASSERT_EQ(QDoubleSpinBox().textFromValue(2.5), QStringLiteral("2,50"));
+  finish_desktop();
+  const ShownLanguage language(QStringLiteral("de"));
+  EXPECT_EQ(QDoubleSpinBox().textFromValue(2.5), QStringLiteral("2.50"));
+}
 
 TEST(LanguageChoice, IsTheFirstOneThatThereIs) {
   struct Case {

@@ -3,6 +3,7 @@
 
 #include "tests/support/windows/pseudo_language.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
@@ -76,6 +77,16 @@ QString PseudoLanguage::translate(const char* context, const char* source, const
     parts << pseudo_text(part);
   }
   return parts.join(QLatin1String(";;")).replace(QLatin1String("%n"), QString::number(count));
+}
+
+TestedLanguage::TestedLanguage(const QString& code) {
+  if (code == QLatin1String("pseudo")) {
+    // Any of the files has all texts.
+    pseudo_ = std::make_unique<PseudoLanguage>(QStringLiteral(TRANSLATIONS "/velquon_de.ts"));
+    QCoreApplication::installTranslator(pseudo_.get());
+  } else {
+    shown_ = std::make_unique<ShownLanguage>(code);
+  }
 }
 
 QString untranslated_part(QString text) {

@@ -7,6 +7,9 @@
 #include <QSet>
 #include <QString>
 #include <QTranslator>
+#include <memory>
+
+#include "app/languages.h"
 
 namespace velquon::test {
 
@@ -24,6 +27,19 @@ class PseudoLanguage : public QTranslator {
 
  private:
   QHash<QString, QSet<QString>> texts_;  ///< of the program, by their contexts
+};
+
+/// A language in which windows and pages come while this object lives.
+class TestedLanguage {
+ public:
+  /// \param code "pseudo" or one of the program's languages
+  explicit TestedLanguage(const QString& code);
+
+  [[nodiscard]] bool isPseudo() const { return pseudo_ != nullptr; }
+
+ private:
+  std::unique_ptr<PseudoLanguage> pseudo_;
+  std::unique_ptr<ShownLanguage> shown_;
 };
 
 /// What of a text comes from no translation, for a person to read: words of three letters or more

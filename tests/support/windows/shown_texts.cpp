@@ -16,6 +16,7 @@
 #include <QSpinBox>
 #include <QTabBar>
 #include <QToolButton>
+#include <QTreeWidget>
 
 namespace velquon::test {
 
@@ -123,6 +124,17 @@ void add_menu(std::vector<ShownText>& texts, const QList<QAction*>& actions) {
   }
 }
 
+void add_rows(std::vector<ShownText>& texts, const QAbstractItemModel& rows,
+              const QModelIndex& parent) {
+  for (int row = 0; row < rows.rowCount(parent); ++row) {
+    for (int column = 0; column < rows.columnCount(parent); ++column) {
+      const QModelIndex cell = rows.index(row, column, parent);
+      texts.push_back({"row " + std::to_string(row), cell.data().toString()});
+      add_rows(texts, rows, cell);
+    }
+  }
+}
+
 }  // namespace
 
 std::vector<ShownText> texts_in(const QWidget& window) {
@@ -135,6 +147,11 @@ std::vector<ShownText> texts_in(const QWidget& window) {
     for (const QString& text :
          {widget->toolTip(), widget->accessibleName(), widget->accessibleDescription()}) {
       texts.push_back({place, text});
+    }
+    // Headings of the guide's pages are in the language of the pages.
+    const auto* const tree = qobject_cast<const QTreeWidget*>(widget);
+    if (tree != nullptr && !tree->inherits("velquon::GuideContents")) {
+      add_rows(texts, *tree->model(), {});
     }
     if (const auto* const popup = qobject_cast<const QComboBox*>(widget)) {
       for (int i = 0; i < popup->count(); ++i) {
