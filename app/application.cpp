@@ -269,10 +269,15 @@ void Application::addPresentation() {
     return legend_lines(legend_of(*model_.shown()->tracks, model_.answersShown()), coloring);
   };
   presentations_->add(
-      {.window = chamber_window_.get(), .area = chamber_window_->area(), .texts = [this, legend] {
-         return PresentedTexts{.title = chamber_window_->title(),
-                               .legend = legend(TrackColoring::by_code)};
-       }});
+      {.window = chamber_window_.get(),
+       .area = chamber_window_->area(),
+       .texts =
+           [this, legend] {
+             return PresentedTexts{.title = chamber_window_->title(),
+                                   .legend = legend(TrackColoring::by_code)};
+           },
+       // An Escape that ends a replay ends nothing else.
+       .takes_key = [this] { return chamber_window_->view()->handlesLateInput(); }});
   presentations_->add({.window = projector_window_.get(),
                        .area = projector_window_->area(),
                        .texts = [this, legend] {

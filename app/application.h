@@ -91,8 +91,8 @@ class Application : public QObject {
   std::unique_ptr<Menus> menus_;
   std::unique_ptr<ChamberWindow> chamber_window_;
   std::unique_ptr<ProjectorWindow> projector_window_;
-  std::unique_ptr<TrackWindow> track_window_;    ///< made when first asked for
-  std::unique_ptr<RecordWindow> record_window_;  ///< likewise
+  std::unique_ptr<TrackWindow> track_window_;                ///< made when first asked for
+  std::unique_ptr<RecordWindow> record_window_;              ///< likewise
   std::unique_ptr<MeasurementsWindow> measurements_window_;  ///< likewise
   std::unique_ptr<ChamberController> controller_;
   std::unique_ptr<EventDocuments> documents_;

@@ -97,7 +97,10 @@ void PictureFiles::copyPicture() {
     return;
   }
   const bool is_chamber = *view == View::chamber;
-  const double scale = is_chamber ? chamber_.devicePixelRatioF() : projection_.devicePixelRatioF();
+  const auto ratio_of = [](const GLView& seen) {
+    return seen.devicePixelRatioF() * seen.magnification();
+  };
+  const double scale = is_chamber ? ratio_of(chamber_) : ratio_of(projection_);
   const bool values = chamber_.show_values() && !chamber_.is_rotating();
   const auto picture = is_chamber ? chamber_.picture(scale, values) : projection_.picture(scale);
   if (picture) {

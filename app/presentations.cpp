@@ -49,9 +49,15 @@ void Presentations::present(std::size_t index) {
   // The one before ends behind the one that is there already.
   presentation_ =
       std::make_unique<Presentation>(*presentable.window, *presentable.area, std::move(panel));
-  connect(presentation_.get(), &Presentation::endAsked, this, &Presentations::end,
-          Qt::QueuedConnection);
+  connect(presentation_.get(), &Presentation::endAsked, this, &Presentations::endFromLoop);
   refresh();
+}
+
+void Presentations::endFromLoop() {
+  const auto& takes_key = presentables_[in_front_].takes_key;
+  if (!takes_key || !takes_key()) {
+    QMetaObject::invokeMethod(this, &Presentations::end, Qt::QueuedConnection);
+  }
 }
 
 void Presentations::refresh() const {

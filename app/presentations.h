@@ -22,6 +22,9 @@ struct Presentable {
   ViewScrollArea* area = nullptr;
   /// What is to be told beside the view now.
   std::function<PresentedTexts()> texts{};
+  /// Whether a key that is being handled is meant for something else than the presentation; null for
+  /// never.
+  std::function<bool()> takes_key{};
 };
 
 /// Presents the view that is in front over the whole screen. When another of the windows comes to the
@@ -55,6 +58,7 @@ class Presentations : public QObject {
  private:
   void cameToFront(std::size_t index);
   void present(std::size_t index);
+  void endFromLoop();
 
   std::vector<Presentable> presentables_;
   std::size_t in_front_ = 0;  ///< which had the keys last

@@ -106,6 +106,9 @@ class ChamberView : public GLView, public Printable {
   /// click from the time of a replay.
   void replay();
 
+  /// Whether the key or button that is being handled was pressed while a replay ran.
+  [[nodiscard]] bool handlesLateInput() const { return late_input_.is_handled(); }
+
   void paint(QPainter& page) override;
 
   /// The whole picture with as many points as are shown, drawn for a size of its own; opaque.

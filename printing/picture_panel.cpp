@@ -97,8 +97,10 @@ QCheckBox* PicturePanel::makeCheck(const QString& text, bool PictureChoices::*ch
 }
 
 QWidget* PicturePanel::makeButtons() {
-  auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+  auto* const buttons = new QDialogButtonBox;
   save_button_ = buttons->addButton(tr("Sa&ve…"), QDialogButtonBox::AcceptRole);
+  // Last, or the Tab key would not reach it.
+  buttons->addButton(QDialogButtonBox::Cancel);
   save_button_->setObjectName(QStringLiteral("picture_save_button"));
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -77,9 +77,11 @@ QLayout* PrintPanel::makePaperRow() {
 }
 
 QWidget* PrintPanel::makeButtons() {
-  auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+  auto* const buttons = new QDialogButtonBox;
   pdf_button_ = buttons->addButton(tr("Save as P&DF…"), QDialogButtonBox::ActionRole);
   print_button_ = buttons->addButton(tr("P&rint…"), QDialogButtonBox::ActionRole);
+  // Last, or the Tab key would not reach it.
+  buttons->addButton(QDialogButtonBox::Cancel);
   pdf_button_->setObjectName(QStringLiteral("pdf_button"));
   print_button_->setObjectName(QStringLiteral("print_button"));
   print_button_->setEnabled(false);

@@ -102,9 +102,11 @@ void WorksheetPanel::addNumbers(QFormLayout& form) {
 }
 
 QWidget* WorksheetPanel::makeButtons() {
-  auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+  auto* const buttons = new QDialogButtonBox;
   save_button_ = named(buttons->addButton(tr("Sa&ve as PDF…"), QDialogButtonBox::AcceptRole),
                        "worksheet_save_button");
+  // Last, or the Tab key would not reach it.
+  buttons->addButton(QDialogButtonBox::Cancel);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   return buttons;

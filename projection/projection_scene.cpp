@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <iterator>
 
 #include "projection/tool_drawing.h"
@@ -21,14 +22,17 @@ namespace {
 constexpr double half_square = 0.5;
 constexpr double half_marked_square = 1.5;
 
-/// \param dot length of a dot and of a gap, device pixels
-void draw_dotted_frame(const ProjectedFrame& frame, int dot) {
+/// \param ratio device pixels per view unit
+void draw_dotted_frame(const ProjectedFrame& frame, double ratio) {
   const auto& [low, high] = frame;
   glEnable(GL_LINE_STIPPLE);
-  glLineStipple(dot, 0xAAAA);
-  const auto corner = [](double x, double y) {
-    return Corner{static_cast<float>(x), static_cast<float>(y), 0.0F};
+  // A dot and a gap have the same whole number of device pixels.
+  glLineStipple(std::max(qRound(ratio), 1), 0xAAAA);
+  // From one whole pixel to another: of dots that begin in the middle of pixels OpenGL may draw none.
+  const auto to_pixel = [ratio](double place) {
+    return static_cast<float>(std::round(place * ratio) / ratio);
   };
+  const auto corner = [&](double x, double y) { return Corner{to_pixel(x), to_pixel(y), 0.0F}; };
   draw_line_loop(std::array{corner(low.x, low.y), corner(high.x, low.y), corner(high.x, high.y),
                             corner(low.x, high.y)});
   glDisable(GL_LINE_STIPPLE);
@@ -66,7 +70,7 @@ void ProjectionScene::draw(const QRectF& seen, double ratio, const Projector& pr
 void ProjectionScene::drawTracks(double ratio, const ProjectionMapping& mapping,
                                  const ProjectionOptions& options) const {
   glColor3f(1.0F, 1.0F, 1.0F);
-  draw_dotted_frame(mapping.frame(), std::max(qRound(ratio), 1));
+  draw_dotted_frame(mapping.frame(), ratio);
   for (std::size_t point = 0; point < display_points_.size(); ++point) {
     drawSquare(point, half_square, mapping, options.colored);
   }

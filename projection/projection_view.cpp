@@ -55,7 +55,7 @@ void ProjectionView::setTool(ProjectorTool tool) {
 }
 
 QSize ProjectionView::pictureSize() const {
-  return {std::max(projection_width, width()), qRound(pictureHeight())};
+  return {std::max(projection_width, qRound(visibleRect().width())), qRound(pictureHeight())};
 }
 
 std::optional<QImage> ProjectionView::picture(double scale) const {

@@ -77,10 +77,12 @@ MakeEventsDialog::MakeEventsDialog(std::size_t type, const ChamberValues& values
       seed_box_(number_box(0.0, 4'294'967'295.0, 0, QString(), 1.0F, this)),
       sampled_popup_(new QComboBox(this)),
       progress_(new QProgressBar(this)),
-      buttons_(new QDialogButtonBox(QDialogButtonBox::Cancel, this)),
+      buttons_(new QDialogButtonBox(this)),
       make_button_(buttons_->addButton(tr("&Make"), QDialogButtonBox::AcceptRole)) {
   setObjectName(QStringLiteral("make_events_dialog"));
   setWindowTitle(tr("Make Events"));
+  // After the other button, or the Tab key would not reach it.
+  buttons_->addButton(QDialogButtonBox::Cancel);
   layOut(type);
   connect(random_box_, &QCheckBox::toggled, this,
           [this](bool is_random) { seed_box_->setEnabled(!is_random); });

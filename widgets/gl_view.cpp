@@ -88,7 +88,10 @@ bool GLView::makeContextCurrent() {
 }
 
 QPointF GLView::locationOf(const QMouseEvent& event) const {
-  const QPointF place = event.position();
+  // In a widget Qt tells the place in whole widget pixels; in its window, to the screen's own pixel.
+  const QPointF rounded = event.position();
+  const QPointF fine = event.scenePosition() - QPointF(mapTo(window(), QPoint(0, 0)));
+  const QPointF place = (fine - rounded).manhattanLength() <= 1.0 ? fine : rounded;
   return visible_origin_ + QPointF(place.x(), height() - place.y()) / magnification_;
 }
 

@@ -13,6 +13,7 @@
 #include "tests/support/windows/application_fixture.h"
 #include "tests/support/windows/waiting.h"
 #include "widgets/contrast.h"
+#include "widgets/legend_strip.h"
 #include "widgets/value_slider.h"
 
 namespace velquon::test {
@@ -178,6 +179,36 @@ TEST_P(PaletteTest, TheMarkOfAChosenItemIsToldFromNone) {
     const QImage with = picture_on_screen(menu).copy(place);
     menu.close();
     EXPECT_GT(pixels_told_apart(without, with), 15) << name;
+  }
+}
+
+TEST_P(PaletteTest, LegendAndStatusLineCanBeReadAndTheirChipsSeen) {
+  constexpr double least_for_letters = 4.5;
+  choose("new_event_item");
+  const QColor window = QApplication::palette().color(QPalette::Window);
+  for (const char* const name :
+       {"chamber_legend", "projector_legend", "chamber_status", "projector_status"}) {
+    auto& strip = control<QWidget>(name);
+    const QImage seen = picture_on_screen(strip);
+    double best = 0.0;
+    for (int y = 0; y < seen.height(); ++y) {
+      for (int x = 0; x < seen.width(); ++x) {
+        best = std::max(best, contrast(seen.pixelColor(x, y), window));
+      }
+    }
+    EXPECT_GE(best, least_for_letters) << name;
+    EXPECT_GT(pixels_standing_out(seen, seen.rect(), window), 40) << name;
+  }
+  // The frame of a chip stands out from the window, and what is in it from the black there.
+  const auto& legend = control<LegendStrip>("chamber_legend");
+  const QImage seen = picture_on_screen(control<QWidget>("chamber_legend"));
+  for (const LegendLine& line : legend.lines()) {
+    EXPECT_GE(contrast(*line.color, Qt::black), least_contrast);
+    bool is_there = false;
+    for (int x = 0; x < seen.width(); ++x) {
+      is_there |= seen.pixelColor(x, seen.height() / 2) == *line.color;
+    }
+    EXPECT_TRUE(is_there) << line.symbol.toStdString();
   }
 }
 

@@ -12,6 +12,7 @@
 #include "tests/support/windows/input.h"
 #include "tests/support/windows/matrices.h"
 #include "tests/support/windows/pictures.h"
+#include "tests/support/windows/real_input.h"
 #include "tests/support/windows/screen_view.h"
 #include "tests/support/windows/track_window_fixture.h"
 #include "tests/support/windows/waiting.h"
@@ -199,6 +200,16 @@ TEST_F(PresentationTest, SpaceStopsTheTurntableAndEscapeLeavesItTurning) {
   QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Escape);
   waitUntilOver(chamberWindow(), chamber(), usual);
   EXPECT_TRUE(chamber().is_rotating());
+}
+
+TEST_F(PresentationTest, AnEscapeThatEndsAReplayEndsNothingElse) {
+  showEvent(std::vector<PlotPoint>(300, point_));
+  present(chamberWindow(), chamber());
+  const RealInput input(QStringLiteral("sleep 0.6 key Escape"));
+  choose("replay_item");
+  EXPECT_TRUE(wait_until([&] { return input.isOver() && chamber().point_number() == 300; }));
+  run_loop_for(200);
+  EXPECT_TRUE(item("presentation_item").isChecked());
 }
 
 TEST_F(PresentationTest, AnotherViewThatComesToTheFrontIsPresentedInItsPlace) {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "widgets/contrast.h"
 #include "wording/names.h"
 
 namespace velquon::test {
@@ -76,6 +77,18 @@ TEST(LegendTextTest, ItCanBeSpoken) {
   EXPECT_EQ(spoken_legend(entries, TrackColoring::white),
             QStringLiteral("Negative pion; Negative muon"));
   EXPECT_EQ(spoken_legend({}, TrackColoring::by_code), QString());
+}
+
+TEST(LegendTextTest, ColoursOfTracksStandOutFromBlackAndBlueHasItsSymbol) {
+  for (const std::int16_t code : std::array<std::int16_t, 5>{2, 3, 4, 5, 7}) {
+    const auto line = legend_lines(legend_of(of_codes({code}), true), TrackColoring::by_code)[0];
+    EXPECT_GE(contrast(*line.color, Qt::black), least_contrast) << code;
+  }
+  // Blue is that of the table and darker than that; no chain gives it to a track.
+  const auto blue = legend_lines(legend_of(of_codes({6}), true), TrackColoring::by_code)[0];
+  EXPECT_LT(contrast(*blue.color, Qt::black), least_contrast);
+  EXPECT_FALSE(blue.symbol.isEmpty());
+  EXPECT_EQ(blue.name, QStringLiteral("Blue"));
 }
 
 }  // namespace velquon::test

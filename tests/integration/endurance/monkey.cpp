@@ -77,7 +77,8 @@ int Monkey::play(int seconds) {
     while (QWidget* const popup = QApplication::activePopupWidget()) {
       popup->close();
     }
-    QCoreApplication::quit();
+    // Not quit: the windows would be asked, and stay.
+    QCoreApplication::exit();
   });
   end.start(seconds * 1000);
   while (!over_) {
@@ -155,16 +156,19 @@ QWidget* Monkey::target() {
 }
 
 void Monkey::clickOrDrag() {
-  const QPointer<QWidget> widget = target();
-  if (widget == nullptr) {
+  QWidget* const chosen = target();
+  if (chosen == nullptr) {
     return;
   }
+  // What is done to it may be its end.
+  const QPointer<QWidget> widget = chosen;
+  const QSize size = chosen->size();
   const auto place = [&] {
-    return QPoint(chance_.below(widget->width()), chance_.below(widget->height()));
+    return QPoint(chance_.below(size.width()), chance_.below(size.height()));
   };
   const Qt::MouseButton button = chance_.oneOf(buttons);
   const Qt::KeyboardModifiers held = chance_.oneIn(5) ? chance_.oneOf(modifiers) : Qt::NoModifier;
-  note(QStringLiteral("mouse on ") + name_of(*widget));
+  note(QStringLiteral("mouse on ") + name_of(*chosen));
   QTest::mousePress(widget, button, held, place());
   for (int i = chance_.below(4); i > 0 && widget != nullptr; --i) {
     QTest::mouseMove(widget, place());
