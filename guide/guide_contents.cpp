@@ -5,6 +5,8 @@
 
 #include <QHeaderView>
 #include <QSignalBlocker>
+#include <QStyle>
+#include <algorithm>
 
 namespace velquon {
 
@@ -28,6 +30,13 @@ GuideContents::GuideContents(QWidget* parent) : QTreeWidget(parent) {
   connect(this, &QTreeWidget::currentItemChanged, this, &GuideContents::choose);
   // A heading that is the current one already is gone to again.
   connect(this, &QTreeWidget::itemClicked, this, &GuideContents::choose);
+}
+
+int GuideContents::roomForHeadings() const {
+  constexpr int least = 230;
+  constexpr int most = 400;
+  const int beside = 2 * style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+  return std::clamp(sizeHintForColumn(0) + beside, least, most);
 }
 
 void GuideContents::setPages(const std::vector<GuidePage>& pages) {

@@ -18,6 +18,8 @@ class GuideContents : public QTreeWidget {
   explicit GuideContents(QWidget* parent = nullptr);
 
   void setPages(const std::vector<GuidePage>& pages);
+  /// Width that shows the headings in full, within limits.
+  [[nodiscard]] int roomForHeadings() const;
   /// Marks the page that is shown, without choosing it.
   /// \param page an index of the pages
   void showPage(std::size_t page);

@@ -10,6 +10,7 @@
 #include <QSplitter>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "guide/guide_browser.h"
 #include "guide/guide_contents.h"
@@ -28,9 +29,6 @@ GuideWindow::GuideWindow(QWidget* parent)
   sides->addWidget(contents_);
   sides->addWidget(browser_);
   sides->setStretchFactor(1, 1);
-  constexpr int contents_width = 230;
-  constexpr int page_width = 640;
-  sides->setSizes({contents_width, page_width});
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
@@ -41,6 +39,9 @@ GuideWindow::GuideWindow(QWidget* parent)
   addTextSizes(*bar);
   addSearch(*bar);
   contents_->setPages(pages_);
+  constexpr int page_width = 640;
+  const int contents_width = contents_->roomForHeadings();
+  sides->setSizes({contents_width, page_width});
   connect(contents_, &GuideContents::chosen, this, &GuideWindow::goTo);
   connect(browser_, &QTextBrowser::sourceChanged, this, [this](const QUrl& url) {
     contents_->showPage(page_at(pages_, url));
@@ -107,7 +108,9 @@ void GuideWindow::addSearch(QToolBar& bar) {
                                 QKeySequence::keyBindings(QKeySequence::FindNext));
   found_ = new QLabel;
   // Room for what is told, so that nothing moves while words are typed.
-  found_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("  %1 of %2  ").arg(999).arg(999)));
+  found_->setMinimumWidth(
+      std::max(fontMetrics().horizontalAdvance(tr("  %1 of %2  ").arg(999).arg(999)),
+               fontMetrics().horizontalAdvance(tr("  not found  "))));
   bar.addWidget(found_);
 
   connect(words_, &QLineEdit::textChanged, this, &GuideWindow::search);

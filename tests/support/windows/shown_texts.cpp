@@ -75,6 +75,18 @@ std::vector<Room> rooms_of(const QMenuBar& bar) {
   return rooms;
 }
 
+/// The rows of a tree that are unfolded.
+std::vector<Room> rooms_of(const QTreeWidget& tree) {
+  std::vector<Room> rooms;
+  for (QTreeWidgetItem* item = tree.topLevelItem(0); item != nullptr; item = tree.itemBelow(item)) {
+    const QRect place = tree.visualItemRect(item);
+    constexpr int margins = 4;
+    rooms.push_back({item->text(0), tree.viewport()->width() - place.left(),
+                     tree.fontMetrics().horizontalAdvance(item->text(0)) + margins});
+  }
+  return rooms;
+}
+
 /// The texts of a control and their room.
 std::vector<Room> rooms_in(const QWidget& widget) {
   if (const auto* const label = qobject_cast<const QLabel*>(&widget)) {
@@ -97,6 +109,9 @@ std::vector<Room> rooms_in(const QWidget& widget) {
   }
   if (const auto* const header = qobject_cast<const QHeaderView*>(&widget)) {
     return rooms_of(*header);
+  }
+  if (widget.inherits("velquon::GuideContents")) {
+    return rooms_of(static_cast<const QTreeWidget&>(widget));
   }
   if (const auto* const bar = qobject_cast<const QMenuBar*>(&widget)) {
     return rooms_of(*bar);
@@ -141,16 +156,17 @@ std::vector<ShownText> texts_in(const QWidget& window) {
   std::vector<ShownText> texts{{"title", window.windowTitle()}};
   for (const QWidget* const widget : visible_in(window)) {
     const std::string place = place_of(*widget);
-    for (const Room& room : rooms_in(*widget)) {
+    // Headings of the guide's pages are in the language of the pages.
+    const bool are_headings = widget->inherits("velquon::GuideContents");
+    for (const Room& room : are_headings ? std::vector<Room>() : rooms_in(*widget)) {
       texts.push_back({place, room.text});
     }
     for (const QString& text :
          {widget->toolTip(), widget->accessibleName(), widget->accessibleDescription()}) {
       texts.push_back({place, text});
     }
-    // Headings of the guide's pages are in the language of the pages.
     const auto* const tree = qobject_cast<const QTreeWidget*>(widget);
-    if (tree != nullptr && !tree->inherits("velquon::GuideContents")) {
+    if (tree != nullptr && !are_headings) {
       add_rows(texts, *tree->model(), {});
     }
     if (const auto* const popup = qobject_cast<const QComboBox*>(widget)) {
