@@ -235,6 +235,8 @@ class LanguagesTest : public ApplicationFixture, public ::testing::WithParamInte
   }
 
   void walkThroughTheDialogs() {
+    // One with points to export.
+    choose("piminus_item");
     choose("new_event_item");
     for (const auto& [item_name, dialog_class] : {std::pair{"print_item", "velquon::PrintPanel"},
                                                   {"worksheets_item", "velquon::WorksheetPanel"},

@@ -77,7 +77,7 @@ void expect_translated(const std::vector<PrintedWord>& words) {
 class WorksheetLanguagesTest : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(WorksheetLanguagesTest, EveryTextIsTranslatedAndHasRoom) {
-  const TestedLanguage language(QLatin1String(GetParam()));
+  const TestedLanguage language{QLatin1String(GetParam())};
   const WorksheetOrder order{.type = &event_types()[5], .values = {}, .seed = 3, .events = 4};
   const auto documents = make_worksheets(order, [](int) { return true; });
   const QTemporaryDir folder;

@@ -16,6 +16,8 @@ QuietEnding run_without_display(const char* program, const QStringList& argument
   environment.remove(QStringLiteral("DISPLAY"));
   environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
   environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+  // Pages in English, whoever starts the tests.
+  environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
   process.setProcessEnvironment(environment);
   process.start(QString::fromUtf8(program), arguments);
   EXPECT_TRUE(process.waitForFinished(120'000) && process.exitStatus() == QProcess::NormalExit);
