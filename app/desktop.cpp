@@ -23,7 +23,7 @@ void finish_desktop() {
   // A desktop's locale would put a comma into the values, in every language, and end the reading of "2.5" at the point.
   std::setlocale(LC_NUMERIC, "C");
   QLocale::setDefault(QLocale::c());
-  install_accessible_controlss();
+  install_accessible_controls();
   QIcon icon;
   for (const int size : {16, 32, 48}) {
     icon.addFile(QStringLiteral(":/icons/velquon-%1.png").arg(size));

@@ -36,9 +36,9 @@ void add_marks(Lines& lines, std::span<const Place> places) {
   constexpr double half_side = 3.0;
   for (const Place place : places) {
     const Place first = place + Place{-half_side, -half_side};
-    lines.push_back({{first, place + Place{half_side, -half_side},
-                      place + Place{half_side, half_side}, place + Place{-half_side, half_side},
-                      first}});
+    lines.push_back(
+        {{first, place + Place{half_side, -half_side}, place + Place{half_side, half_side},
+          place + Place{-half_side, half_side}, first}});
   }
 }
 

@@ -60,7 +60,7 @@ QAccessibleInterface* make_accessible(const QString& /*key*/, QObject* object) {
 
 }  // namespace
 
-void install_accessible_controlss() {
+void install_accessible_controls() {
   QAccessible::installFactory(make_accessible);
 }
 
