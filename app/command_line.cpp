@@ -88,7 +88,7 @@ ParsedCommandLine parse_command_line(const QStringList& arguments) {
   QCommandLineParser parser;
   parser.setApplicationDescription(
       QStringLiteral("Shows particle decays in a detector chamber in a magnetic field."));
-  const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("guide")},
+  const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
                                 QStringLiteral("Print this help."));
   const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
                                    QStringLiteral("Print the version."));

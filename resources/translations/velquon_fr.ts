@@ -2541,7 +2541,7 @@ Voulez-vous le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Momentum</source>
-        <translation>Quantité de mouvement</translation>
+        <translation>Qté de mouvement</translation>
     </message>
     <message>
         <source>MeV/c</source>

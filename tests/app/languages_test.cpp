@@ -58,7 +58,9 @@ class TextsOfQt : public QTranslator {
   [[nodiscard]] bool areKnown() const { return known_; }
   /// Whether a shown text is one of Qt's that should be another in this language.
   [[nodiscard]] bool isLeftInEnglish(const QString& text) const {
-    return translations_.value(text, text) != text;
+    // Words of the program's own that Qt has as well.
+    static const QStringList own{QStringLiteral("OK"), QStringLiteral("Zoom")};
+    return !own.contains(text) && translations_.value(text, text) != text;
   }
 
  private:
