@@ -25,7 +25,7 @@ QString language_for(const QStringList& preferred) {
   return language_codes().constFirst();
 }
 
-ShownLanguage::ShownLanguage(const QString& code) {
+ShownLanguage::ShownLanguage(const QString& code) : languages_before_(qgetenv("LANGUAGE")) {
   const QString shown = code.isEmpty() ? language_for(QLocale::system().uiLanguages()) : code;
   // The C library's reasons for failures come in the same language, where it has it.
   qputenv("LANGUAGE", shown.toLatin1());
@@ -37,6 +37,10 @@ ShownLanguage::ShownLanguage(const QString& code) {
   if (own_.load(QStringLiteral(":/i18n/velquon_") + shown)) {
     QCoreApplication::installTranslator(&own_);
   }
+}
+
+ShownLanguage::~ShownLanguage() {
+  qputenv("LANGUAGE", languages_before_);
 }
 
 }  // namespace velquon

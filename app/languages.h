@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QByteArray>
 #include <QStringList>
 #include <QTranslator>
 
@@ -22,8 +23,14 @@ class ShownLanguage {
  public:
   /// \param code one of language_codes(), or empty for the desktop's language
   explicit ShownLanguage(const QString& code);
+  ~ShownLanguage();
+  ShownLanguage(const ShownLanguage&) = delete;
+  ShownLanguage& operator=(const ShownLanguage&) = delete;
+  ShownLanguage(ShownLanguage&&) = delete;
+  ShownLanguage& operator=(ShownLanguage&&) = delete;
 
  private:
+  QByteArray languages_before_;  ///< in which the C library tells reasons
   QTranslator of_qt_;
   QTranslator own_;
 };
