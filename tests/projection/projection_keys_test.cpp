@@ -242,7 +242,8 @@ TEST_F(ProjectionKeysTest, TheViewIsInTheTabOrderAndShowsItsCrossThere) {
 }
 
 TEST_F(ProjectionKeysTest, WhatIsMeasuredIsTold) {
-  EXPECT_EQ(spoken(), QStringLiteral("Set both ends of the tape."));
+  // Before anything is measured the event is told first.
+  EXPECT_EQ(spoken().toStdString(), "There is no event yet. Set both ends of the tape.");
   key(Qt::Key_Up);
   key(Qt::Key_Return);
   for (int pixels = 1; pixels <= 10; ++pixels) {
@@ -251,7 +252,7 @@ TEST_F(ProjectionKeysTest, WhatIsMeasuredIsTold) {
               QStringLiteral("length %1 cm").arg(1.25 * pixels, 0, 'f', 2).toStdString());
   }
   key(Qt::Key_A);
-  EXPECT_EQ(spoken(), QStringLiteral("Set the vertex."));
+  EXPECT_EQ(spoken().toStdString(), "There is no event yet. Set the vertex.");
   const auto label = QAccessible::queryAccessibleInterface(&control<QLabel>("readings_text"));
   EXPECT_EQ(label->text(QAccessible::Name), QStringLiteral("Set the vertex."));
 }

@@ -81,7 +81,7 @@ TEST_F(ProjectionScreenTest, FollowsTheScrollBars) {
   const QPointF mark(130.3, 210.3);
   const QPointF tape_middle(175.0, 150.0);
   ASSERT_TRUE(has_color_near(picture_of(projection()), mark, white, 1.0));
-  projectorWindow().resize(projectorWindow().width(), 340);
+  projectorWindow().resize(projectorWindow().width(), 400);
   auto& across = *projectorWindow().area()->horizontalScrollBar();
   auto& down = *projectorWindow().area()->verticalScrollBar();
   ASSERT_TRUE(wait_until([&] { return across.maximum() > 0 && down.maximum() > 50; }));

@@ -56,7 +56,8 @@ class RecordWindowTest : public RecordWindowFixture {
     for (std::size_t i = 0; i < wanted.size(); ++i) {
       const auto parent = static_cast<std::size_t>(wanted[i].parent);
       EXPECT_EQ(found[i]->parent(), wanted[i].parent < 0 ? nullptr : found[parent]);
-      EXPECT_EQ(found[i]->text(0).toStdString(), wanted[i].name);
+      EXPECT_EQ(found[i]->text(0).toStdString(),
+                std::string(wanted[i].name) + ' ' + std::string(wanted[i].symbol));
       EXPECT_EQ(found[i]->text(1).toStdString(), wanted[i].fate);
       expectNumber(*found[i], 2, wanted[i].momentum);
       expectNumber(*found[i], 3, wanted[i].transverse_momentum);

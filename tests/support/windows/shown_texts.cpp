@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -91,6 +92,10 @@ std::vector<Room> rooms_of(const QTreeWidget& tree) {
 std::vector<Room> rooms_in(const QWidget& widget) {
   if (const auto* const label = qobject_cast<const QLabel*>(&widget)) {
     return {room_of(*label)};
+  }
+  if (const auto* const box = qobject_cast<const QCheckBox*>(&widget)) {
+    // The style lets what a layout gives a check box begin a pixel within its frame.
+    return {{box->text(), box->width() + 1, box->sizeHint().width()}};
   }
   if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget)) {
     return {{button->text(), button->width(), button->sizeHint().width()}};
