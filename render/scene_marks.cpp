@@ -109,7 +109,10 @@ void draw_field_arrow(const Camera& camera, double field_kG) {
         {{x + across_x, y + across_y, head_z}, tip, {x - across_x, y - across_y, head_z}}});
   }
   constexpr float beyond_tip = 50.0F;
-  draw_letter(letter_B(), {x, y, along * (half_length + beyond_tip)}, camera);
+  const float letter_z = along * (half_length + beyond_tip);
+  draw_letter(letter_B(),
+              {static_cast<double>(x), static_cast<double>(y), static_cast<double>(letter_z)},
+              camera);
 }
 
 }  // namespace velquon
