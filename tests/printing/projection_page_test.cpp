@@ -182,7 +182,7 @@ TEST_F(ProjectionPageTest, HasAScaleBarOfARoundLength) {
     const QPointF start = QPointF(55.0, 85.0) + a4.origin;
     const PdfPage page = print();
     EXPECT_EQ(std::ranges::count_if(page.lines,
-                                    [&](const PaperLine& line) {
+                                    [&, length = length](const PaperLine& line) {
                                       return joins(line, start, start + QPointF(length, 0.0));
                                     }),
               1);
