@@ -81,7 +81,6 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   add_chamber_commands(*commands_, items, *controller_, *chamber_window_->view());
   addTrackCommands();
   addWindowCommands();
-  addPresentation();
   help_->addTo(*commands_);
   controller_->awakeFromNib();
   numbering_ = std::make_unique<EventNumbering>(model_);
@@ -90,6 +89,8 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   telling_->setSeed(seed);
   telling_->setBeginKey(items.new_event_item->shortcut());
   telling_->refresh();
+  // Hears of changes after those that bring the windows' texts up to date.
+  addPresentation();
   commands_->refresh();
 }
 
@@ -268,20 +269,27 @@ void Application::addPresentation() {
   const auto legend = [this](TrackColoring coloring) {
     return legend_lines(legend_of(*model_.shown()->tracks, model_.answersShown()), coloring);
   };
+  // A picture without tracks does not tell that there is an event.
+  const auto title = [this](const GLPanel& window) {
+    const ShownEvent& event = *model_.shown();
+    const bool is_empty = event.has_event && event.points().empty();
+    return is_empty ? window.title() + QLatin1Char('\n') + chamber_window_->shownStatus()
+                    : window.title();
+  };
   presentations_->add(
       {.window = chamber_window_.get(),
        .area = chamber_window_->area(),
        .texts =
-           [this, legend] {
-             return PresentedTexts{.title = chamber_window_->title(),
+           [this, legend, title] {
+             return PresentedTexts{.title = title(*chamber_window_),
                                    .legend = legend(TrackColoring::by_code)};
            },
        // An Escape that ends a replay ends nothing else.
        .takes_key = [this] { return chamber_window_->view()->handlesLateInput(); }});
   presentations_->add({.window = projector_window_.get(),
                        .area = projector_window_->area(),
-                       .texts = [this, legend] {
-                         return PresentedTexts{.title = projector_window_->title(),
+                       .texts = [this, legend, title] {
+                         return PresentedTexts{.title = title(*projector_window_),
                                                .legend = legend(coloring_of_projector(model_)),
                                                .readings = projector_window_->shownReadings()};
                        }});

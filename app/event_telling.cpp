@@ -19,6 +19,13 @@ EventTelling::EventTelling(ChamberModel& model, const EventNumbering& numbering,
   model_.changed.add([this] { refresh(); });
 }
 
+void EventTelling::setSeed(std::optional<std::uint32_t> seed) {
+  seed_ = seed;
+  const QString longest = long_status(seed);
+  chamber_window_.makeRoomForStatus(longest);
+  projector_window_.makeRoomForStatus(longest);
+}
+
 void EventTelling::refresh() {
   const ChamberPreferences& preferences = model_.preferences();
   State state{.event = model_.shown(),

@@ -29,7 +29,7 @@ class EventTelling : public QObject {
                ProjectorWindow& projector_window);
 
   /// The seed that was given for this run; it is told.
-  void setSeed(std::optional<std::uint32_t> seed) { seed_ = seed; }
+  void setSeed(std::optional<std::uint32_t> seed);
   /// The key of New Event.
   void setBeginKey(const QKeySequence& key) { begin_key_ = key; }
 

@@ -3,6 +3,8 @@
 
 #include "app/presentations.h"
 
+#include <algorithm>
+
 #include "widgets/gl_panel.h"
 #include "widgets/presentation.h"
 
@@ -22,7 +24,7 @@ void Presentations::toggle() {
     end();
     return;
   }
-  present(in_front_);
+  present(toPresent());
   Q_EMIT changed();
 }
 
@@ -30,6 +32,18 @@ void Presentations::end() {
   presentation_.reset();
   panel_ = nullptr;
   Q_EMIT changed();
+}
+
+std::size_t Presentations::toPresent() const {
+  const auto is_on_screen = [](const Presentable& presentable) {
+    return presentable.window->isVisible();
+  };
+  if (is_on_screen(presentables_.at(in_front_))) {
+    return in_front_;
+  }
+  // The one that had the keys last is closed.
+  const auto found = std::ranges::find_if(presentables_, is_on_screen);
+  return found == presentables_.end() ? 0 : static_cast<std::size_t>(found - presentables_.begin());
 }
 
 void Presentations::cameToFront(std::size_t index) {
@@ -40,6 +54,7 @@ void Presentations::cameToFront(std::size_t index) {
 }
 
 void Presentations::present(std::size_t index) {
+  in_front_ = index;
   const Presentable& presentable = presentables_[index];
   if (!presentable.window->isActiveWindow()) {
     presentable.window->makeKeyAndOrderFront();

@@ -40,8 +40,8 @@ class Presentations : public QObject {
   Presentations(Presentations&&) = delete;
   Presentations& operator=(Presentations&&) = delete;
 
-  /// Adds a window, which must outlive this object. The first is presented when none has been in
-  /// front.
+  /// Adds a window, which must outlive this object. The first is presented when none is on the
+  /// screen.
   void add(const Presentable& presentable);
 
   [[nodiscard]] bool isOn() const { return presentation_ != nullptr; }
@@ -56,12 +56,13 @@ class Presentations : public QObject {
   void changed();
 
  private:
+  [[nodiscard]] std::size_t toPresent() const;
   void cameToFront(std::size_t index);
   void present(std::size_t index);
   void endFromLoop();
 
   std::vector<Presentable> presentables_;
-  std::size_t in_front_ = 0;  ///< which had the keys last
+  std::size_t in_front_ = 0;  ///< which had the keys last, or is presented
   std::unique_ptr<Presentation> presentation_;
   PresentationPanel* panel_ = nullptr;  ///< of the presentation
 };

@@ -65,7 +65,7 @@ ChamberWindow::ChamberWindow(ChamberModel& model)
   ui_->chamber_area->setView(view_, {chamber_width, chamber_height});
   ui_->chamber_focus_line->watch(view_);
   ui_->chamber_legend->setRoomFor(usual_legend(TrackColoring::by_code), chamber_width);
-  ui_->chamber_status->setRoomFor(long_status(), chamber_width);
+  makeRoomForStatus(long_status());
   give_room_for(*ui_->magfield_text, QStringLiteral("B = 10.000 kG"));
   give_room_for(*ui_->sides_text, QStringLiteral("L = 10.000 m"));
   give_room_for(*ui_->kinetic_energy_text, QStringLiteral("T = 10000.0 MeV"));
@@ -89,6 +89,14 @@ void ChamberWindow::tell(const ToldEvent& event) {
 
 void ChamberWindow::showLegend(bool show) {
   ui_->chamber_legend->setVisible(show);
+}
+
+void ChamberWindow::makeRoomForStatus(const QString& longest) {
+  ui_->chamber_status->setRoomFor(longest, chamber_width);
+}
+
+QString ChamberWindow::shownStatus() const {
+  return ui_->chamber_status->text();
 }
 
 void ChamberWindow::keyPressEvent(QKeyEvent* event) {

@@ -41,6 +41,9 @@ class ChamberWindow : public GLPanel {
   /// Tells the shown event beside the picture and, to who cannot see it, in words.
   void tell(const ToldEvent& event);
   void showLegend(bool show);
+  /// Makes the status line as high as a text takes in it.
+  void makeRoomForStatus(const QString& longest);
+  [[nodiscard]] QString shownStatus() const;
 
  protected:
   /// Escape and Space stop the turntable where it is, unless what has the focus takes them.

@@ -82,7 +82,7 @@ ProjectorWindow::ProjectorWindow(Projector& projector)
   ui_->projector_area->setView(view_, {projection_width, projection_height});
   ui_->projector_focus_line->watch(view_);
   ui_->projector_legend->setRoomFor(usual_legend(TrackColoring::by_code), projection_width);
-  ui_->projector_status->setRoomFor(long_status(), projection_width);
+  makeRoomForStatus(long_status());
   connectButtons();
   connectKeys();
   projector_.changed.add([this] { showReading(); });
@@ -174,6 +174,10 @@ void ProjectorWindow::tell(const ToldEvent& event) {
 
 void ProjectorWindow::showLegend(bool show) {
   ui_->projector_legend->setVisible(show);
+}
+
+void ProjectorWindow::makeRoomForStatus(const QString& longest) {
+  ui_->projector_status->setRoomFor(longest, projection_width);
 }
 
 void ProjectorWindow::describePicture() {

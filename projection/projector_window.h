@@ -38,6 +38,8 @@ class ProjectorWindow : public GLPanel {
   /// something measured to tell.
   void tell(const ToldEvent& event);
   void showLegend(bool show);
+  /// Makes the status line as high as a text takes in it.
+  void makeRoomForStatus(const QString& longest);
   /// What the window says that the chosen tool reads, a line each.
   [[nodiscard]] QString shownReadings() const;
 

@@ -27,7 +27,7 @@ std::vector<LegendLine> usual_legend(TrackColoring coloring) {
   return legend_lines(entries, coloring);
 }
 
-QString long_status() {
+QString long_status(std::optional<std::uint32_t> seed) {
   constexpr std::uint64_t number = 999;
   ShownEvent event;
   auto tracks = std::make_shared<EventTracks>();
@@ -37,7 +37,7 @@ QString long_status() {
       .tracks = {},
       .unseen = {{.particle = &particle_kind(pdg::neutron), .fate = Fate::undetected, .count = 1},
                  {.particle = &particle_kind(pdg::photon), .fate = Fate::escaped, .count = 2}}};
-  return status_text(event, words, {.number = number});
+  return status_text(event, words, {.number = number, .seed = seed});
 }
 
 }  // namespace velquon

@@ -4,6 +4,8 @@
 #pragma once
 
 #include <QString>
+#include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "wording/event_text.h"
@@ -28,6 +30,7 @@ struct ToldEvent {
 /// The legend of a chain of three particles.
 [[nodiscard]] std::vector<LegendLine> usual_legend(TrackColoring coloring);
 /// A status text with as much to tell as there is of one event.
-[[nodiscard]] QString long_status();
+/// \param seed of the run, where it is told
+[[nodiscard]] QString long_status(std::optional<std::uint32_t> seed = std::nullopt);
 
 }  // namespace velquon

@@ -11,6 +11,7 @@
 #include "app/event_telling.h"
 #include "chamber/chamber_settings.h"
 #include "projection/projection_view.h"
+#include "render/camera.h"
 #include "tests/support/windows/application_fixture.h"
 #include "tests/support/windows/pictures.h"
 #include "tests/support/windows/waiting.h"
@@ -18,6 +19,7 @@
 #include "widgets/focus_line.h"
 #include "widgets/legend_strip.h"
 #include "widgets/status_line.h"
+#include "wording/told_event.h"
 
 namespace velquon::test {
 
@@ -91,6 +93,25 @@ TEST_F(EventTellingTest, ANewEventIsToldInBothWindows) {
   EXPECT_FALSE(projectorLegend().lines()[0].color.has_value());
   EXPECT_TRUE(chamber().accessibleDescription().contains(QStringLiteral("Negative pion, red: ")));
   EXPECT_TRUE(projection().accessibleDescription().contains(QStringLiteral("Negative pion: ")));
+}
+
+TEST_F(EventTellingTest, TheStatusLineHasRoomForTheSeedInLettersOfAnySize) {
+  const QString longest = long_status(seed());
+  EXPECT_TRUE(longest.contains(QString::number(seed())));
+  for (const auto& [name, width] : {std::pair("chamber_status", chamber_width),
+                                    std::pair("projector_status", projection_width)}) {
+    auto& line = control<StatusLine>(name);
+    const QMargins around = line.contentsMargins();
+    for (int height = 10; height <= 24; ++height) {
+      QFont letters = line.font();
+      letters.setPixelSize(height);
+      line.setFont(letters);
+      const QRect room(0, 0, width - around.left() - around.right(), 0);
+      const QRect needed = line.fontMetrics().boundingRect(room, Qt::TextWordWrap, longest);
+      EXPECT_GE(line.sizeHint().height() - around.top() - around.bottom(), needed.height())
+          << name << ", " << height;
+    }
+  }
 }
 
 TEST_F(EventTellingTest, AnEventThatIsShownAgainHasItsNumberAgain) {

@@ -9,6 +9,8 @@
 #include <QScrollBar>
 #include <QTest>
 
+#include "chamber/chamber_settings.h"
+#include "record/record_window.h"
 #include "tests/support/windows/input.h"
 #include "tests/support/windows/matrices.h"
 #include "tests/support/windows/pictures.h"
@@ -238,6 +240,39 @@ TEST_F(PresentationTest, TheTrackComesAndGoesWithTheSizesThatWindowsHadBefore) {
   activateTrack();
   EXPECT_FALSE(trackWindow().isFullScreen());
   EXPECT_EQ(view().size(), QSize(490, 456));
+}
+
+TEST_F(PresentationTest, AWindowThatIsClosedIsNotPresented) {
+  choose("event_record_item");
+  const RecordWindow& record = application().recordWindow();
+  ASSERT_TRUE(wait_until([&] { return record.isActiveWindow(); }));
+  activateTrack();
+  choose("activate_item");
+  // The keys are back in a window that has no view.
+  ASSERT_TRUE(wait_until([&] { return record.isActiveWindow(); }));
+  choose("presentation_item");
+  waitUntilPresented(chamberWindow(), chamber());
+  EXPECT_FALSE(trackWindow().isVisible());
+  EXPECT_EQ(told(chamberWindow(), "presentation_title"), chamberWindow().title());
+}
+
+TEST_F(PresentationTest, AnEventWithoutTracksIsToldInItsPlace) {
+  present(chamberWindow(), chamber());
+  choose("lambda_item");
+  controller().settings().setSidesControl(50.0F);
+  controller().settings().setEnergyControl(9000.0F);
+  const QString no_track = QStringLiteral("No visible track: ");
+  constexpr int most_events = 200;
+  bool is_empty = false;
+  for (int i = 0; i < most_events && !is_empty; ++i) {
+    choose("new_event_item");
+    is_empty = application().model().shown()->points().empty();
+    EXPECT_EQ(told(chamberWindow(), "presentation_title").contains(no_track), is_empty);
+  }
+  EXPECT_TRUE(is_empty);
+  choose("projector_window_item");
+  waitUntilPresented(projectorWindow(), projection());
+  EXPECT_TRUE(told(projectorWindow(), "presentation_title").contains(no_track));
 }
 
 TEST_F(PresentationTest, ATrackGoesOnWhileItIsMagnified) {
