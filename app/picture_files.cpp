@@ -14,6 +14,8 @@
 #include "printing/whole_file.h"
 #include "projection/projection_view.h"
 #include "render/camera.h"
+#include "widgets/gl_panel.h"
+#include "widgets/model_text.h"
 #include "widgets/user_dialogs.h"
 #include "wording/legend_text.h"
 
@@ -111,8 +113,10 @@ void PictureFiles::copyPicture() {
 }
 
 QString PictureFiles::titleOf(View view) const {
-  return view == View::chamber ? chamber_.window()->windowTitle()
-                               : projection_.window()->windowTitle();
+  // Qt's own title of a window doubles what stands for a mark.
+  const QWidget* const window = view == View::chamber ? chamber_.window() : projection_.window();
+  const auto* const panel = qobject_cast<const GLPanel*>(window);
+  return panel != nullptr ? panel->title() : window->windowTitle();
 }
 
 QSize PictureFiles::sizeOf(View view) const {
@@ -179,9 +183,10 @@ PictureTexts PictureFiles::textsOf(View view, const std::string& event_name) con
                       QString::fromStdString(chamber_.values_text()));
     texts.emplaceBack(QStringLiteral("Event"), QString::fromStdString(event_name));
   }
-  // An event of a file has no seed.
-  if (controller_.model().shown()->tracks->type) {
-    texts.emplaceBack(QStringLiteral("Seed"), QString::number(controller_.model().seed()));
+  // An event of a file has no seed; where answers are hidden the seed would give them away.
+  const ChamberModel& model = controller_.model();
+  if (model.shown()->tracks->type && model.answersShown()) {
+    texts.emplaceBack(QStringLiteral("Seed"), QString::number(model.seed()));
   }
   return texts;
 }
@@ -205,7 +210,8 @@ std::optional<QByteArray> PictureFiles::bytesOf(View view, const PictureChoices&
 
 QString PictureFiles::askForName(View view, PictureFormat format) {
   const QString suffix = suffix_of(format);
-  const QString event = QFileInfo(controller_.shownName()).completeBaseName();
+  const QString event =
+      QFileInfo(event_name_text(controller_.model().shown()->name)).completeBaseName();
   const QString suggestion =
       view == View::chamber ? tr("%1 Chamber").arg(event) : tr("%1 Projector").arg(event);
   const QString filter = tr("%1 files (*.%2)").arg(suffix.toUpper(), suffix);

@@ -82,7 +82,13 @@ void GuideBrowser::wheelEvent(QWheelEvent* event) {
   }
   // Qt's own would leave the steps unknown.
   event->accept();
-  enlarge(event->angleDelta().y() > 0 ? 1 : -1);
+  // A touchpad turns by parts of a notch.
+  turned_ += event->angleDelta().y();
+  const int steps = turned_ / QWheelEvent::DefaultDeltasPerStep;
+  turned_ -= steps * QWheelEvent::DefaultDeltasPerStep;
+  if (steps != 0) {
+    enlarge(steps);
+  }
 }
 
 void GuideBrowser::changeEvent(QEvent* event) {

@@ -39,6 +39,7 @@ class GuideBrowser : public QTextBrowser {
   void fitPictures();
 
   int steps_ = 0;
+  int turned_ = 0;  ///< of the wheel, towards the next step
 };
 
 }  // namespace velquon

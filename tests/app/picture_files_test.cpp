@@ -301,6 +301,19 @@ TEST_F(PictureFilesTest, ThePngTellsOfTheEventAndOfItsSizeOnPaper) {
   EXPECT_FALSE(saved(chamberWindow(), plain_picture).textKeys().contains(QStringLiteral("Seed")));
 }
 
+TEST_F(PictureFilesTest, ThePngDoesNotGiveAwayHiddenAnswersByTheSeed) {
+  makeEvent(lambda_type);
+  ChamberModel& model = application().model();
+  ChamberPreferences preferences = model.preferences();
+  preferences.hide_answers = true;
+  model.setPreferences(preferences);
+  const QImage hidden = saved(chamberWindow(), plain_picture);
+  EXPECT_FALSE(hidden.textKeys().contains(QStringLiteral("Seed")));
+  model.revealAnswers();
+  const QImage revealed = saved(chamberWindow(), plain_picture);
+  EXPECT_TRUE(revealed.textKeys().contains(QStringLiteral("Seed")));
+}
+
 TEST_F(PictureFilesTest, ACopyIsThePictureOnTheScreenWithoutTheCrossOfTheKeys) {
   EXPECT_EQ(copied(chamberWindow()), picture_of(chamber()));
   chamber().set_show_values(false);

@@ -156,10 +156,16 @@ TEST_F(GuideWindowTest, TextGrowsAndShrinksByKeysAndByTheWheel) {
   EXPECT_DOUBLE_EQ(browser().font().pointSizeF(), usual + 2.0);
   press(Qt::Key_Minus, Qt::ControlModifier);
   EXPECT_DOUBLE_EQ(browser().font().pointSizeF(), usual + 1.0);
-  const QPoint middle = browser().viewport()->rect().center();
-  QWheelEvent turn(middle, browser().viewport()->mapToGlobal(middle), {}, {0, 120}, Qt::NoButton,
-                   Qt::ControlModifier, Qt::NoScrollPhase, false);
-  QApplication::sendEvent(browser().viewport(), &turn);
+  const auto turn_wheel = [&](QPoint angle) {
+    const QPoint middle = browser().viewport()->rect().center();
+    QWheelEvent turn(middle, browser().viewport()->mapToGlobal(middle), {}, angle, Qt::NoButton,
+                     Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(browser().viewport(), &turn);
+  };
+  turn_wheel({0, 80});
+  turn_wheel({120, 0});
+  EXPECT_DOUBLE_EQ(browser().font().pointSizeF(), usual + 1.0);
+  turn_wheel({0, 40});
   EXPECT_DOUBLE_EQ(browser().font().pointSizeF(), usual + 2.0);
   press(Qt::Key_0, Qt::ControlModifier);
   EXPECT_DOUBLE_EQ(browser().font().pointSizeF(), usual);
