@@ -35,7 +35,7 @@ bool HeldKeys::nativeEventFilter(const QByteArray& kind, void* message, qintptr*
     repeats_ = false;
   } else if (type == XCB_KEY_PRESS) {
     // The server reads its clock for the release and again for the press.
-    constexpr std::uint32_t one_moment = 2;  // milliseconds
+    constexpr std::uint32_t one_moment = 25;  // milliseconds
     repeats_ = key->detail == released_key_ && key->time - released_at_ <= one_moment;
   }
   return false;

@@ -13,15 +13,21 @@ PagePreview::PagePreview(PrintView& view, QWidget* parent) : QWidget(parent), vi
 
 void PagePreview::setPaper(QSizeF paper) {
   paper_ = paper;
-  drawPicture();
+  stale_ = true;
+  update();
 }
 
 void PagePreview::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  drawPicture();
+  stale_ = true;
 }
 
 void PagePreview::paintEvent(QPaintEvent* /*event*/) {
+  // Not before: a page takes a tenth of a second, and a panel that comes up changes its sizes.
+  if (stale_) {
+    stale_ = false;
+    drawPicture();
+  }
   QPainter painter(this);
   const QSizeF shown = picture_.deviceIndependentSize();
   const QPointF corner((width() - shown.width()) / 2.0, (height() - shown.height()) / 2.0);
@@ -44,7 +50,6 @@ void PagePreview::drawPicture() {
     page.end();
     picture_.setDevicePixelRatio(ratio);
   }
-  update();
 }
 
 }  // namespace velquon

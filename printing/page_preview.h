@@ -20,7 +20,7 @@ class PagePreview : public QWidget {
 
   /// \param paper points
   void setPaper(QSizeF paper);
-  /// The paper with the page; null while there is no room.
+  /// The paper with the page as last painted on the screen; null before, and while there is no room.
   [[nodiscard]] const QImage& picture() const { return picture_; }
 
  protected:
@@ -33,6 +33,7 @@ class PagePreview : public QWidget {
   PrintView& view_;
   QSizeF paper_;
   QImage picture_;
+  bool stale_ = true;  ///< the picture is not of this paper or size
 };
 
 }  // namespace velquon

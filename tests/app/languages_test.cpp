@@ -205,7 +205,7 @@ class LanguagesTest : public ApplicationFixture, public ::testing::WithParamInte
     application().recordWindow().findChild<QCheckBox*>(QStringLiteral("hide_answers_box"))->click();
     look(application().recordWindow(), "answers hidden");
     choose("activate_item");
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&application().trackWindow()));
+    ASSERT_TRUE(wait_until_exposed(&application().trackWindow()));
     look(application().trackWindow(), "track");
     lookAtViews("while the track window is active");
     choose("activate_item");
@@ -214,7 +214,7 @@ class LanguagesTest : public ApplicationFixture, public ::testing::WithParamInte
   void walkThroughTheMeasurements() {
     choose("measurements_item");
     MeasurementsWindow& window = application().measurementsWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    ASSERT_TRUE(wait_until_exposed(&window));
     look(window, "empty");
     application().recordReadings();
     look(window, "nothing to record");
@@ -232,7 +232,7 @@ class LanguagesTest : public ApplicationFixture, public ::testing::WithParamInte
     }
     window.findChild<QAction*>(QStringLiteral("make_events_item"))->trigger();
     MakeEventsDialog* const dialog = window.makeEventsDialog();
-    ASSERT_TRUE(dialog != nullptr && QTest::qWaitForWindowExposed(dialog));
+    ASSERT_TRUE(dialog != nullptr && wait_until_exposed(dialog));
     look(*dialog, "make events");
     dialog->reject();
     application().measurements().setSaved();

@@ -7,7 +7,6 @@
 #include <QContextMenuEvent>
 #include <QDialog>
 #include <QMenuBar>
-#include <QTest>
 #include <QTimer>
 #include <QToolBar>
 #include <csignal>
@@ -247,8 +246,8 @@ TEST_F(WindowsTest, AClosedWindowKeepsItsPicture) {
   handle_waiting_events();
   choose("projector_window_item");
   choose("chamber_window_item");
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&chamberWindow()));
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&projectorWindow()));
+  ASSERT_TRUE(wait_until_exposed(&chamberWindow()));
+  ASSERT_TRUE(wait_until_exposed(&projectorWindow()));
   EXPECT_EQ(differing_pixels(picture_of(chamber()), chamber_before), 0);
   EXPECT_EQ(differing_pixels(picture_of(projection()), projection_before), 0);
   EXPECT_GT(pixels_of(chamber_before, edge_blue).size(), 500U);
@@ -259,7 +258,7 @@ TEST_F(WindowsTest, AnEventMadeWhileTheProjectorIsHiddenIsThereWhenItComesBack) 
   const std::array points{point_at(10.6, 20.6, 0.0, 3)};
   showEvent(points);
   choose("projector_window_item");
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&projectorWindow()));
+  ASSERT_TRUE(wait_until_exposed(&projectorWindow()));
   // 0.5 (20.6 + 470) across; 420 - 0.5 (420 + 10.6) from the bottom.
   EXPECT_TRUE(wait_until([&] {
     return color_at(picture_of(projection()), {245.3, 215.3}) == white;

@@ -3,7 +3,6 @@
 
 // What the chamber view draws, pixel by pixel against places worked out from its viewpoint.
 
-#include <QTest>
 #include <cstdlib>
 #include <optional>
 #include <random>
@@ -253,7 +252,7 @@ TEST_F(ChamberPictureTest, ANewContextShowsTheEventFromTheRestingViewpoint) {
   area->move(0, 0);
   area->show();
   other_window.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&other_window));
+  ASSERT_TRUE(wait_until_exposed(&other_window));
   handle_waiting_events();
   EXPECT_EQ(differing_pixels(picture_of(chamber()), resting), 0);
   area->setParent(home);

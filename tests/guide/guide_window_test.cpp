@@ -28,7 +28,7 @@ class GuideWindowTest : public testing::Test {
   void SetUp() override {
     window_.show();
     window_.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+    ASSERT_TRUE(wait_until_active(&window_));
   }
 
   GuideBrowser& browser() { return *window_.findChild<GuideBrowser*>(); }

@@ -94,6 +94,7 @@ TEST_F(AnswersTest, AreGivenWithinAFifthOfASecond) {
       {"a new event", [&] { choose("new_event_item"); }},
       {"the print panel", [&] { openDialog("print_item"); }},
       {"a large event", [&] { showLargeEvent(); }},
+      {"the print panel of it", [&] { openDialog("print_item"); }},
       {"the turntable", [&] { choose("rotate_item"); }},
       {"the record", [&] { choose("event_record_item"); }},
       {"a thousand measurements", [&] { addMeasurements(1000); }},

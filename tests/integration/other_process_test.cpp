@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 #include <cerrno>
 #include <random>
 
@@ -110,9 +109,8 @@ TEST_F(OtherProcessTest, KilledWhileItSavesLeavesAWholeFile) {
     const QByteArray left = read(file);
     EXPECT_TRUE(left == large || left == small) << left.size() << " bytes";
     // A rename that was under way when the program was killed comes to its end.
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-      return names() == QStringList{QStringLiteral("event.cwd")};
-    })) << names().join(u' ').toStdString();
+    EXPECT_TRUE(wait_until([&] { return names() == QStringList{QStringLiteral("event.cwd")}; }))
+        << names().join(u' ').toStdString();
   }
 }
 

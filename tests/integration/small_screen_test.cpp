@@ -226,7 +226,7 @@ TEST_F(SmallScreenTest, AViewTooNarrowAtFirstStartsScrolledToItsPointToo) {
                                 static_cast<QWidget*>(&narrow.projectorWindow())}) {
     window->resize(400, 340);
     window->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
+    ASSERT_TRUE(wait_until_exposed(window));
   }
   EXPECT_EQ(narrow.chamberWindow().view()->visibleRect().topLeft(), QPointF(10.0, 30.0));
   EXPECT_EQ(narrow.projectorWindow().view()->visibleRect().topLeft(), QPointF(10.0, 30.0));

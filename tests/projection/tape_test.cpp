@@ -225,7 +225,7 @@ TEST_F(TapeTest, SurvivesTheWindowGoingAndComingBack) {
   drag(projection(), {100, 100}, {200, 100});
   projectorWindow().close();
   choose("projector_window_item");
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&projectorWindow()));
+  ASSERT_TRUE(wait_until_exposed(&projectorWindow()));
   EXPECT_TRUE(has_line(picture_of(projection()), {100.0, 100.0}, {200.0, 100.0}, red));
 }
 

@@ -30,7 +30,7 @@ class MakeEventsTest : public MeasurementsFixture {
     openMeasurements();
     run("make_events_item");
     ASSERT_NE(dialog(), nullptr);
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog()));
+    ASSERT_TRUE(wait_until_exposed(dialog()));
   }
   MakeEventsDialog* dialog() { return window().makeEventsDialog(); }
   template <typename Widget>

@@ -32,7 +32,7 @@ MeasurementTable rows_of(Quantity quantity, const std::vector<double>& values,
 
 void MeasurementsFixture::openMeasurements() {
   choose("measurements_item");
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window()));
+  ASSERT_TRUE(wait_until_exposed(&window()));
   ASSERT_TRUE(wait_until([this] { return window().isActiveWindow(); }));
   handle_waiting_events();
 }

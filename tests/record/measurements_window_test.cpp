@@ -120,7 +120,7 @@ TEST_F(MeasurementsWindowTest, RecordingElsewhereShowsTheWindowAndLeavesTheKeys)
   activate(projectorWindow());
   layTape(QPoint(100, 200), QPoint(200, 200));
   application().recordReadings();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window()));
+  ASSERT_TRUE(wait_until_exposed(&window()));
   run_loop_for(200);
   EXPECT_TRUE(projectorWindow().isActiveWindow());
   EXPECT_EQ(rows(), 1);
@@ -132,7 +132,7 @@ TEST_F(MeasurementsWindowTest, RecordingElsewhereDoesNotCoverTheWindowInWhichOne
   layTape(QPoint(100, 200), QPoint(200, 200));
   window().move(projectorWindow().pos());
   application().recordReadings();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window()));
+  ASSERT_TRUE(wait_until_exposed(&window()));
   EXPECT_TRUE(screen_comes_to_show(projection(), picture_of(projection())));
 }
 

@@ -13,7 +13,7 @@ namespace velquon::test {
 
 void RecordWindowFixture::openRecord() {
   choose("event_record_item");
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&recordWindow()));
+  ASSERT_TRUE(wait_until_exposed(&recordWindow()));
   ASSERT_TRUE(wait_until([this] { return recordWindow().isActiveWindow(); }));
   // Beside the other windows, so that these are seen.
   recordWindow().move(20, 760);

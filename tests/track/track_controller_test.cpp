@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <string>
 
+#include "tests/support/windows/waiting.h"
 #include "tests/track/track_rig.h"
 
 // The track window's states and what they do to the menus.
@@ -18,6 +19,8 @@ namespace velquon {
 namespace {
 
 using test::TrackRig;
+using test::wait_until;
+using test::wait_until_active;
 
 QString title_of(const QAction* item) {
   return item->text().remove(QLatin1Char('&'));
@@ -153,7 +156,7 @@ TEST(TrackController, TheScreenSpeedSetsThePeriodOfTheNextRun) {
   TrackRig rig;
   rig.activate();
   rig.inject_item->trigger();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return rig.view->trackTimer() != nullptr; }));
+  ASSERT_TRUE(wait_until([&] { return rig.view->trackTimer() != nullptr; }));
   EXPECT_EQ(rig.view->trackTimer()->interval(), 10);
   EXPECT_EQ(rig.view->trackTimer()->timerType(), Qt::PreciseTimer);
   EXPECT_FALSE(rig.view->trackTimer()->isSingleShot());
@@ -191,7 +194,7 @@ TEST(TrackController, TheWindowActivatesOnlyWhenItBecomesKey) {
   EXPECT_TRUE(rig.window->isVisible());
   EXPECT_FALSE(rig.controller->activated());
   EXPECT_EQ(title_of(rig.activate_item), QStringLiteral("Activate"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return rig.controller->activated(); }));
+  EXPECT_TRUE(wait_until([&] { return rig.controller->activated(); }));
 }
 
 TEST(TrackController, LosingTheKeyboardOrBecomingKeyAgainChangesNothing) {
@@ -212,8 +215,8 @@ TEST(TrackController, AnotherWindowInFrontLeavesItActive) {
   QWidget other;
   other.show();
   other.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !rig.window->isActiveWindow(); }));
+  ASSERT_TRUE(wait_until_active(&other));
+  ASSERT_TRUE(wait_until([&] { return !rig.window->isActiveWindow(); }));
   EXPECT_TRUE(rig.controller->activated());
   EXPECT_TRUE(rig.window->isVisible());
   EXPECT_FALSE(rig.menus.new_event_item->isEnabled());
@@ -397,7 +400,7 @@ TEST(TrackController, ShortcutsObeyTheStateToo) {
   QTest::keyClick(rig.window, Qt::Key_J, Qt::ControlModifier);
   ASSERT_TRUE(rig.view->is_tracking());
   rig.model.setTimerSecs(1000.0);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return rig.view->trackTimer() != nullptr; }));
+  ASSERT_TRUE(wait_until([&] { return rig.view->trackTimer() != nullptr; }));
   const QTimer* timer = rig.view->trackTimer();
   rig.step(3);
   const std::int32_t points = rig.model.simulation().show_points();

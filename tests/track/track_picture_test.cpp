@@ -12,6 +12,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "tests/support/windows/waiting.h"
 #include "tests/track/track_rig.h"
 
 // What the view draws, read from its pixels.
@@ -20,6 +21,7 @@ namespace velquon {
 namespace {
 
 using test::TrackRig;
+using test::wait_until;
 
 constexpr int entry_height = 228;
 constexpr double pixel = 1.5;  // how far a line's pixels may lie from it
@@ -218,7 +220,7 @@ TEST_F(TrackPicture, AResizeShowsTheWholeTrack) {
   rig.step(300);
   const QSize before = rig.view->size();
   rig.window->resize(rig.window->size() + QSize(60, 40));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return rig.view->size() == before + QSize(60, 40); }));
+  ASSERT_TRUE(wait_until([&] { return rig.view->size() == before + QSize(60, 40); }));
   rig.view->display();
   expectLine(0, 300);
   rig.step(5);

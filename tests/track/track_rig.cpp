@@ -5,12 +5,12 @@
 
 #include <QEvent>
 #include <QGuiApplication>
-#include <QTest>
 #include <QTimer>
 #include <QWindow>
 #include <stdexcept>
 
 #include "app/track_commands.h"
+#include "tests/support/windows/waiting.h"
 
 namespace velquon::test {
 
@@ -92,23 +92,22 @@ void TrackRig::makeMenus() {
 
 void TrackRig::activate() {
   activate_item->trigger();
-  insist(QTest::qWaitForWindowExposed(window) && QTest::qWaitForWindowActive(window) &&
-             QTest::qWaitFor([this] { return controller->activated() && view->passes() > 0; }),
+  insist(wait_until_exposed(window) && wait_until_active(window) &&
+             wait_until([this] { return controller->activated() && view->passes() > 0; }),
          "the track window did not become active");
 }
 
 void TrackRig::deactivate() {
   activate_item->trigger();
   // The window manager takes a while to give the keyboard to somebody else.
-  insist(
-      QTest::qWaitFor([this] { return QGuiApplication::focusWindow() != window->windowHandle(); }),
-      "the hidden track window still has the keyboard");
+  insist(wait_until([this] { return QGuiApplication::focusWindow() != window->windowHandle(); }),
+         "the hidden track window still has the keyboard");
 }
 
 void TrackRig::injectAndHold() {
   model.setTimerSecs(1000.0);
   inject_item->trigger();
-  insist(QTest::qWaitFor(
+  insist(wait_until(
              [this] { return view->trackTimer() != nullptr && view->trackTimer()->isActive(); }),
          "the run did not start");
   view->trackTimer()->stop();
@@ -125,9 +124,9 @@ void TrackRig::stepHidden(int count) {
   step(count);
   const int before = view->passes();
   window->show();
-  insist(QTest::qWaitForWindowExposed(window) &&
-             QTest::qWaitFor([this, before] { return view->passes() > before; }),
-         "the hidden window was not drawn when it came back");
+  insist(
+      wait_until_exposed(window) && wait_until([this, before] { return view->passes() > before; }),
+      "the hidden window was not drawn when it came back");
 }
 
 void TrackRig::injectAndCircle(int straight_steps, double field, int steps) {
@@ -139,7 +138,7 @@ void TrackRig::injectAndCircle(int straight_steps, double field, int steps) {
 }
 
 bool TrackRig::waitForEnd() const {
-  return QTest::qWaitFor(
+  return wait_until(
       [this] { return view->trackTimer() != nullptr && !view->trackTimer()->isActive(); },
       patience);
 }

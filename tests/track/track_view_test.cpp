@@ -12,6 +12,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "tests/support/windows/waiting.h"
 #include "tests/track/track_rig.h"
 
 // The view's runs: timer, injection, cursors, and what was there before the timer.
@@ -20,6 +21,7 @@ namespace velquon {
 namespace {
 
 using test::TrackRig;
+using test::wait_until;
 
 class TrackView : public ::testing::Test {
  protected:
@@ -137,7 +139,7 @@ TEST_F(TrackView, ASecondInjectionStartsOverWithOneTimer) {
   rig.RtoL_item->trigger();
   rig.view->injectParticle();
   rig.view->injectParticle();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return rig.model.simulation().stepping().old_x == 490.0; }));
+  ASSERT_TRUE(wait_until([&] { return rig.model.simulation().stepping().old_x == 490.0; }));
   EXPECT_EQ(rig.model.simulation().stepping().istep, 1);
   QTest::qWait(20);
   EXPECT_EQ(rig.view->findChildren<QTimer*>().size(), 0);
@@ -149,7 +151,7 @@ TEST_F(TrackView, DeactivatedDuringARunItsParticleFliesOnUntilItLeaves) {
   rig.activate();
   rig.faster_item->trigger();
   rig.inject_item->trigger();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return rig.model.simulation().show_points() > 5; }));
+  ASSERT_TRUE(wait_until([&] { return rig.model.simulation().show_points() > 5; }));
   rig.deactivate();
   EXPECT_FALSE(rig.window->isVisible());
   EXPECT_FALSE(rig.view->is_tracking());
@@ -274,7 +276,7 @@ TEST_F(TrackView, DeletedInTheMiddleOfARunItLeavesNothingBehind) {
   rig.activate();
   rig.faster_item->trigger();
   rig.inject_item->trigger();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return rig.model.simulation().show_points() > 5; }));
+  ASSERT_TRUE(wait_until([&] { return rig.model.simulation().show_points() > 5; }));
   delete rig.view;
   QTest::qWait(50);  // as long as several firings of its timer
   EXPECT_EQ(rig.panel->findChild<NewTrackView*>(), nullptr);

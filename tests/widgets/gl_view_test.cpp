@@ -64,7 +64,7 @@ class GLViewTest : public testing::Test {
   void SetUp() override {
     view_.move(100, 100);
     view_.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view_));
+    ASSERT_TRUE(wait_until_exposed(&view_));
     view_.raise();
     ASSERT_TRUE(wait_until([this] { return isSeen(blue); }));
   }

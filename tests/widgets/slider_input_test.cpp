@@ -346,7 +346,7 @@ TEST_F(SliderInputTest, RangesAreChosenByMouse) {
   QApplication::setDoubleClickInterval(0);
   QTest::mouseClick(&ranges(), Qt::LeftButton);
   QAbstractItemView& list = *ranges().view();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(list.window()));
+  ASSERT_TRUE(wait_until_exposed(list.window()));
   handle_waiting_events();
   QApplication::setDoubleClickInterval(usual_interval);
   const QRect row = list.visualRect(list.model()->index(2, 0));

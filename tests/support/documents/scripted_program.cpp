@@ -7,7 +7,6 @@
 //   scripted_program print {chamber|projection} EVENT PDF
 
 #include <QApplication>
-#include <QTest>
 #include <cstdio>
 
 #include "app/application.h"
@@ -21,6 +20,7 @@
 #include "tests/support/documents/event_bytes.h"
 #include "tests/support/documents/printing.h"
 #include "tests/support/documents/recording_dialogs.h"
+#include "tests/support/windows/waiting.h"
 
 namespace velquon::test {
 
@@ -49,8 +49,8 @@ int save_again_and_again(Application& application, RecordingDialogs& dialogs, co
 int print(Application& application, const QString& view, const QString& event,
           const QString& page) {
   application.showWindows();
-  const bool on_screen = QTest::qWaitForWindowExposed(&application.chamberWindow()) &&
-                         QTest::qWaitForWindowExposed(&application.projectorWindow());
+  const bool on_screen = wait_until_exposed(&application.chamberWindow()) &&
+                         wait_until_exposed(&application.projectorWindow());
   if (!on_screen || !application.documents().readAndDisplayFile(event)) {
     return 1;
   }

@@ -67,8 +67,8 @@ void ApplicationFixture::SetUp() {
   chamber_ = &control<ChamberView>("chamber_view");
   projection_ = &control<ProjectionView>("projection_view");
   application_->showWindows();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&chamberWindow()));
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&projectorWindow()));
+  ASSERT_TRUE(wait_until_exposed(&chamberWindow()));
+  ASSERT_TRUE(wait_until_exposed(&projectorWindow()));
   activate(chamberWindow());
   ASSERT_TRUE(wait_until([this] { return chamber_->passes() > 0 && projection_->passes() > 0; }));
 }
@@ -103,7 +103,7 @@ void ApplicationFixture::activateAnotherProgram() {
   another_program_ = std::make_unique<QWidget>();
   another_program_->setGeometry(500, 700, 200, 100);
   another_program_->show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(another_program_.get()));
+  ASSERT_TRUE(wait_until_exposed(another_program_.get()));
   activate(*another_program_);
 }
 

@@ -3,7 +3,6 @@
 
 #include "tests/support/windows/track_window_fixture.h"
 
-#include <QTest>
 #include <QTimer>
 
 #include "tests/support/windows/waiting.h"
@@ -22,7 +21,7 @@ void TrackWindowFixture::activateTrack() {
 }
 
 void TrackWindowFixture::waitUntilActive() {
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&trackWindow()));
+  ASSERT_TRUE(wait_until_exposed(&trackWindow()));
   ASSERT_TRUE(wait_until([this] {
     return trackWindow().isActiveWindow() && trackWindow().controller().activated() &&
            view().passes() > 0;

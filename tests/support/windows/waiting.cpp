@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QTest>
 #include <QTimer>
 
 namespace velquon::test {
@@ -28,6 +29,14 @@ bool wait_until(const std::function<bool()>& condition, int milliseconds) {
   give_up.start(milliseconds);
   loop.exec();
   return holds || condition();
+}
+
+bool wait_until_exposed(QWidget* window) {
+  return QTest::qWaitForWindowExposed(window, longest_wait);
+}
+
+bool wait_until_active(QWidget* window) {
+  return QTest::qWaitForWindowActive(window, longest_wait);
 }
 
 void run_loop_for(int milliseconds) {

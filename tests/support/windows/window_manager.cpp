@@ -3,10 +3,15 @@
 
 #include "tests/support/windows/window_manager.h"
 
+#include <xcb/xcb.h>
+
+#include <QAbstractNativeEventFilter>
 #include <QGuiApplication>
 #include <chrono>
 #include <memory>
 #include <thread>
+
+#include "tests/support/windows/waiting.h"
 
 // The X library's names are common words, so it comes last.
 #include <X11/Xatom.h>
@@ -18,7 +23,6 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr milliseconds longest_wait{15'000};
 constexpr milliseconds pause{1};
 
 struct CloseDisplay {
@@ -52,35 +56,74 @@ void ask_for_frame(Display* display, Window window) {
   XSync(display, False);
 }
 
-/// What the server has sent the program so far reaches its event queue.
-void sync_program() {
-  auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  XSync(x11->display(), False);
+Display* display_of_program() {
+  return qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->display();
 }
+
+/// A message that the program sends itself by way of the server: it comes after all that the server
+/// sent the program before.
+class MessageToSelf : public QAbstractNativeEventFilter {
+ public:
+  MessageToSelf()
+      : window_(XCreateSimpleWindow(display_, DefaultRootWindow(display_), 0, 0, 1, 1, 0, 0, 0)) {
+    QCoreApplication::instance()->installNativeEventFilter(this);
+    XEvent message{};
+    message.xclient.type = ClientMessage;
+    message.xclient.window = window_;
+    message.xclient.message_type = XInternAtom(display_, "_VELQUON_TEST_MESSAGE", False);
+    message.xclient.format = 32;
+    XSendEvent(display_, window_, False, NoEventMask, &message);
+    XFlush(display_);
+  }
+  ~MessageToSelf() override { XDestroyWindow(display_, window_); }
+  MessageToSelf(const MessageToSelf&) = delete;
+  MessageToSelf& operator=(const MessageToSelf&) = delete;
+  MessageToSelf(MessageToSelf&&) = delete;
+  MessageToSelf& operator=(MessageToSelf&&) = delete;
+
+  [[nodiscard]] bool has_come() const { return has_come_; }
+
+  bool nativeEventFilter(const QByteArray& /*kind*/, void* message, qintptr* /*result*/) override {
+    constexpr unsigned sent_by_program = 0x80;
+    const auto* const event = static_cast<const xcb_client_message_event_t*>(message);
+    const auto type = event->response_type & ~sent_by_program;
+    has_come_ = has_come_ || (type == XCB_CLIENT_MESSAGE && event->window == window_);
+    return false;
+  }
+
+ private:
+  Display* display_ = display_of_program();
+  Window window_;
+  bool has_come_ = false;
+};
 
 }  // namespace
 
+bool handle_what_server_sent() {
+  const MessageToSelf message;
+  return wait_until([&] { return message.has_come(); });
+}
+
 bool wait_for_window_manager() {
-  sync_program();
+  XSync(display_of_program(), False);
   const std::unique_ptr<Display, CloseDisplay> display(XOpenDisplay(nullptr));
   if (display == nullptr) {
     return false;
   }
   const Window root = DefaultRootWindow(display.get());
   if (!has_property(display.get(), root, "_NET_SUPPORTING_WM_CHECK")) {
-    return true;
+    return handle_what_server_sent();
   }
   const Window window = XCreateSimpleWindow(display.get(), root, 0, 0, 1, 1, 0, 0, 0);
   ask_for_frame(display.get(), window);
-  const auto end = std::chrono::steady_clock::now() + longest_wait;
+  const auto end = std::chrono::steady_clock::now() + milliseconds(longest_wait);
   while (!has_property(display.get(), window, "_NET_FRAME_EXTENTS")) {
     if (std::chrono::steady_clock::now() > end) {
       return false;
     }
     std::this_thread::sleep_for(pause);
   }
-  sync_program();
-  return true;
+  return handle_what_server_sent();
 }
 
 }  // namespace velquon::test
