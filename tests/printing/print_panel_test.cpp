@@ -392,6 +392,7 @@ TEST_F(PrintPanelTest, ShowsThePageBeforeItIsPrinted) {
     auto& papers = *panel.findChild<QComboBox*>(QStringLiteral("paper_popup"));
     for (const Paper& paper : {letter, a4}) {
       papers.setCurrentIndex(papers.findData(paper.id));
+      const QImage seen = preview.grab().toImage().convertToFormat(QImage::Format_RGB32);
       const QImage& page = preview.picture();
       const double scale = page.width() / paper.size.width();
       EXPECT_GT(scale, 0.5);
@@ -402,7 +403,6 @@ TEST_F(PrintPanelTest, ShowsThePageBeforeItIsPrinted) {
       EXPECT_TRUE(has_gray_near(page, {x, y}));
       EXPECT_EQ(page.pixel(x - 8, y), qRgb(255, 255, 255));
       // It is what the panel shows.
-      const QImage seen = preview.grab().toImage().convertToFormat(QImage::Format_RGB32);
       const QPoint corner((seen.width() - page.width()) / 2, (seen.height() - page.height()) / 2);
       EXPECT_TRUE(has_gray_near(seen, corner + QPoint(x, y)));
     }

@@ -4,6 +4,7 @@
 #include "tests/support/windows/application_fixture.h"
 
 #include <QAbstractButton>
+#include <QDeadlineTimer>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
@@ -93,10 +94,13 @@ void ApplicationFixture::clickButton(const char* name) {
 }
 
 void ApplicationFixture::activate(QWidget& window) {
-  window.activateWindow();
-  // A window that came up just now may still be given the focus.
-  ASSERT_TRUE(wait_for_window_manager());
-  ASSERT_TRUE(wait_until([&] { return window.isActiveWindow(); }));
+  const QDeadlineTimer end(longest_wait);
+  do {
+    window.activateWindow();
+    // A window that came up just now may still be given the focus.
+    ASSERT_TRUE(wait_for_window_manager());
+  } while (!window.isActiveWindow() && !end.hasExpired());
+  ASSERT_TRUE(window.isActiveWindow()) << window.windowTitle().toStdString();
 }
 
 void ApplicationFixture::activateAnotherProgram() {
