@@ -36,6 +36,7 @@
 #include "track/track_panel.h"
 #include "track/track_window.h"
 #include "ui_menus.h"
+#include "widgets/screen_ratio.h"
 #include "widgets/screen_room.h"
 #include "wording/legend_text.h"
 
@@ -52,6 +53,7 @@ TrackColoring coloring_of_projector(const ChamberModel& model) {
 Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs)
     : model_(seed),
       screen_room_(std::make_unique<ScreenRoom>()),
+      screen_ratio_(std::make_unique<ScreenRatio>()),
       menus_(std::make_unique<Menus>()),
       chamber_window_(std::make_unique<ChamberWindow>(model_)),
       projector_window_(std::make_unique<ProjectorWindow>(projector_)),

@@ -31,6 +31,7 @@ class PictureFiles;
 class Presentations;
 class ProjectorWindow;
 class RecordWindow;
+class ScreenRatio;
 class ScreenRoom;
 class TrackWindow;
 class UserDialogs;
@@ -88,6 +89,7 @@ class Application : public QObject {
   TrackModel track_model_;
   Measurements measurements_;
   std::unique_ptr<ScreenRoom> screen_room_;
+  std::unique_ptr<ScreenRatio> screen_ratio_;
   std::unique_ptr<Menus> menus_;
   std::unique_ptr<ChamberWindow> chamber_window_;
   std::unique_ptr<ProjectorWindow> projector_window_;

@@ -27,9 +27,8 @@ QSize whole_size(const QWidget& window) {
   return window.size().grownBy(frame_of(window));
 }
 
-bool is_window_or_dialog(const QWidget& widget) {
-  const bool has_own_size = !widget.isMaximized() && !widget.isFullScreen();
-  return has_own_size && (widget.windowType() == Qt::Window || widget.windowType() == Qt::Dialog);
+bool has_own_size(const QWidget& window) {
+  return !window.isMaximized() && !window.isFullScreen();
 }
 
 void fit(QWidget& window) {
@@ -49,6 +48,10 @@ void fit(QWidget& window) {
 }
 
 }  // namespace
+
+bool is_window_or_dialog(const QWidget& widget) {
+  return widget.windowType() == Qt::Window || widget.windowType() == Qt::Dialog;
+}
 
 QSize room_on_screen(const QWidget& window) {
   return window.screen()->availableGeometry().marginsRemoved(frame_of(window)).size();
@@ -89,7 +92,7 @@ ScreenRoom::ScreenRoom() {
 bool ScreenRoom::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Show && !event->spontaneous()) {
     auto* const widget = qobject_cast<QWidget*>(watched);
-    if (widget != nullptr && is_window_or_dialog(*widget)) {
+    if (widget != nullptr && is_window_or_dialog(*widget) && has_own_size(*widget)) {
       fit(*widget);
     }
   }

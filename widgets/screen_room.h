@@ -10,6 +10,9 @@
 
 namespace velquon {
 
+/// Whether a widget is a window or a dialog with a frame, not a menu or a tool tip.
+[[nodiscard]] bool is_window_or_dialog(const QWidget& widget);
+
 /// The largest size a window can have so that it and its frame are within the part of its screen
 /// that panels leave free. A frame that is not there yet is taken to be a usual one.
 [[nodiscard]] QSize room_on_screen(const QWidget& window);

@@ -1,38 +1,17 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Pictures of the views in files and on the clipboard.
+// Pictures of the views in files.
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QClipboard>
-#include <QComboBox>
-#include <QDir>
-#include <QLabel>
-#include <QMimeData>
-#include <QSpinBox>
-#include <QTableView>
-#include <QTest>
-#include <QTextBrowser>
-#include <QTreeWidgetItem>
 #include <QXmlStreamReader>
 #include <ctime>
 
 #include "printing/picture_file.h"
-#include "printing/picture_panel.h"
-#include "record/measurement_columns.h"
-#include "record/measurements_window.h"
-#include "record/record_tree.h"
-#include "record/record_window.h"
-#include "tests/support/documents/documents_fixture.h"
-#include "tests/support/documents/event_bytes.h"
-#include "tests/support/documents/modal.h"
+#include "tests/app/picture_files_fixture.h"
 #include "tests/support/documents/pdf_page.h"
-#include "tests/support/file_size_limit.h"
 #include "tests/support/sanitizers.h"
 #include "tests/support/windows/input.h"
 #include "tests/support/windows/pictures.h"
-#include "tests/support/windows/screen_view.h"
 #include "tests/support/windows/waiting.h"
 
 namespace velquon::test {
@@ -41,79 +20,8 @@ namespace {
 
 constexpr int lambda_type = 5;
 
-const PictureChoices plain_picture{.scale = 1, .values = false, .legend = false};
-
-/// Chooses in the panel as a person does.
-void choose_in(QWidget& panel, const PictureChoices& choices) {
-  auto& scale = *panel.findChild<QSpinBox*>(QStringLiteral("picture_scale_box"));
-  scale.selectAll();
-  QTest::keyClicks(&scale, QString::number(choices.scale));
-  for (const auto& [name, on] : {std::pair("picture_values_check", choices.values),
-                                 std::pair("picture_legend_check", choices.legend)}) {
-    auto& check = *panel.findChild<QCheckBox*>(QLatin1String(name));
-    if (check.isEnabled() && check.isChecked() != on) {
-      QTest::mouseClick(&check, Qt::LeftButton, {}, QPoint(8, check.height() / 2));
-    }
-  }
-  if (auto* const formats = panel.findChild<QComboBox*>(QStringLiteral("picture_format_popup"))) {
-    QTest::keyClick(formats, "PSP"[static_cast<int>(choices.format)]);
-    formats->setCurrentIndex(static_cast<int>(choices.format));
-  }
-}
-
-class PictureFilesTest : public DocumentsFixture {
+class PictureFilesTest : public PictureFilesFixture {
  protected:
-  void SetUp() override {
-    DocumentsFixture::SetUp();
-    showTracks();
-  }
-  /// An event of a file, with a point of each colour.
-  void showTracks() {
-    ASSERT_TRUE(
-        documents().readAndDisplayFile(write(QStringLiteral("event.cwd"), event_file(spiral(60)))));
-  }
-  /// Saves a picture of a window's view by its shortcut and the panel.
-  /// \return what the panel told of its size
-  QString save(QWidget& window, const PictureChoices& choices, const QString& name) {
-    activate(window);
-    dialogs().answer = path(name);
-    QString told;
-    EXPECT_TRUE(with_dialogs(
-        [&] {
-          QTest::keyClick(window.windowHandle(), Qt::Key_S,
-                          Qt::ControlModifier | Qt::ShiftModifier);
-        },
-        {{"velquon::PicturePanel", [&](QWidget& panel) {
-            choose_in(panel, choices);
-            told = panel.findChild<QLabel*>(QStringLiteral("picture_size_label"))->text();
-            QTest::keyClick(&panel, Qt::Key_Return);
-          }}}));
-    return told;
-  }
-  QImage saved(QWidget& window, const PictureChoices& choices) {
-    const QString name = QStringLiteral("picture.png");
-    const QString told = save(window, choices, name);
-    EXPECT_TRUE(dialogs().alerts.empty());
-    const QImage file(path(name));
-    QImage picture = file.convertToFormat(QImage::Format_RGB32);
-    EXPECT_EQ(told, QStringLiteral("%1 × %2 pixels").arg(picture.width()).arg(picture.height()));
-    return picture;
-  }
-  QImage copied(QWidget& window) {
-    activate(window);
-    QApplication::clipboard()->clear();
-    QTest::keyClick(window.windowHandle(), Qt::Key_C, Qt::ControlModifier);
-    return QApplication::clipboard()->image();
-  }
-  /// Chooses all in a window's focus and copies it.
-  /// \return the text on the clipboard
-  static QString textCopiedIn(QWidget& window) {
-    QApplication::clipboard()->clear();
-    QTest::keyClick(window.windowHandle(), Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(window.windowHandle(), Qt::Key_C, Qt::ControlModifier);
-    EXPECT_FALSE(QApplication::clipboard()->mimeData()->hasImage());
-    return QApplication::clipboard()->text();
-  }
   /// Lays a curve through three places.
   void layCurve() {
     clickButton("snap_button");
@@ -121,9 +29,6 @@ class PictureFilesTest : public DocumentsFixture {
     for (const QPoint place : {QPoint(150, 250), QPoint(250, 150), QPoint(350, 250)}) {
       QTest::mouseClick(&projection(), Qt::LeftButton, {}, place);
     }
-  }
-  QStringList files() {
-    return QDir(folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
   }
 };
 
@@ -314,18 +219,6 @@ TEST_F(PictureFilesTest, ThePngDoesNotGiveAwayHiddenAnswersByTheSeed) {
   EXPECT_TRUE(revealed.textKeys().contains(QStringLiteral("Seed")));
 }
 
-TEST_F(PictureFilesTest, ACopyIsThePictureOnTheScreenWithoutTheCrossOfTheKeys) {
-  EXPECT_EQ(copied(chamberWindow()), picture_of(chamber()));
-  chamber().set_show_values(false);
-  EXPECT_EQ(copied(chamberWindow()), picture_of(chamber()));
-  const QImage without_cross = picture_of(projection());
-  activate(projectorWindow());
-  projection().setFocus();
-  QTest::keyClick(&projection(), Qt::Key_Left);
-  ASSERT_FALSE(pixels_of(picture_of(projection()), yellow).empty());
-  EXPECT_EQ(copied(projectorWindow()), without_cross);
-}
-
 TEST_F(PictureFilesTest, TheSvgIsTheProjectionInLines) {
   clickButton("tape_tool");
   drag(projection(), {100, 150}, {250, 210});
@@ -374,96 +267,6 @@ TEST_F(PictureFilesTest, ADrawingEndsAtItsPictureWhateverTheZoom) {
   EXPECT_GT(ink_in(page, QRectF(395.0, foot, 10.0, 420.0)), 0) << "the first point";
   EXPECT_EQ(ink_in(page, QRectF(395.0, 0.0, 10.0, foot)), 0) << "the second";
   EXPECT_GT(ink_in(page, QRectF(0.0, 0.0, 300.0, foot)), 100) << "the words";
-}
-
-TEST_F(PictureFilesTest, WhatCannotBeWrittenIsToldAndLeavesNoHalfFile) {
-  const QString old = write(QStringLiteral("picture.png"), "old");
-  const QStringList before = files();
-  {
-    const velquon::test::FileSizeLimit limit(1000);
-    save(chamberWindow(), plain_picture, QStringLiteral("picture.png"));
-  }
-  save(chamberWindow(), plain_picture, QStringLiteral("missing/picture.png"));
-  const auto not_saved = [](const QString& file, const char* reason) {
-    return RecordingDialogs::Alert{
-        QStringLiteral("Not saved"),
-        QStringLiteral("Velquon can't write the file %1: %2.").arg(file, QLatin1String(reason))};
-  };
-  EXPECT_EQ(dialogs().alerts, (std::vector{not_saved(old, "File too large"),
-                                           not_saved(path(QStringLiteral("missing/picture.png")),
-                                                     "No such file or directory")}));
-  EXPECT_EQ(read(old), "old");
-  EXPECT_EQ(files(), before);
-}
-
-TEST_F(PictureFilesTest, NothingIsWrittenWhenOneGivesUp) {
-  const QStringList before = files();
-  save(chamberWindow(), plain_picture, {});
-  dialogs().answer = path(QStringLiteral("picture.png"));
-  dialogs().questions.clear();
-  EXPECT_TRUE(with_dialogs([&] { choose("save_picture_item"); },
-                           {{"velquon::PicturePanel",
-                             [](QWidget& panel) { QTest::keyClick(&panel, Qt::Key_Escape); }}}));
-  EXPECT_TRUE(dialogs().questions.empty());
-  EXPECT_EQ(files(), before);
-}
-
-TEST_F(PictureFilesTest, AsksForAFileOfTheChosenFormatNamedAfterTheEvent) {
-  save(projectorWindow(), {.format = PictureFormat::svg}, QStringLiteral("a.svg"));
-  save(chamberWindow(), plain_picture, QStringLiteral("a.png"));
-  const RecordingDialogs::Question drawing{
-      QStringLiteral("Save Picture"), QStringLiteral("SVG files (*.svg)"),
-      QStringLiteral("event Projector"), QStringLiteral("svg")};
-  const RecordingDialogs::Question picture{QStringLiteral("Save Picture"),
-                                           QStringLiteral("PNG files (*.png)"),
-                                           QStringLiteral("event Chamber"), QStringLiteral("png")};
-  EXPECT_EQ(dialogs().questions, (std::vector{drawing, picture}));
-}
-
-TEST_F(PictureFilesTest, CanBeChosenWhileAViewIsInFront) {
-  const auto can_be_chosen = [this] {
-    return item("save_picture_item").isEnabled() && item("copy_picture_item").isEnabled();
-  };
-  EXPECT_TRUE(can_be_chosen());
-  choose("activate_item");
-  ASSERT_TRUE(wait_until([&] { return !can_be_chosen(); }));
-  EXPECT_FALSE(item("save_picture_item").isEnabled());
-  EXPECT_FALSE(item("copy_picture_item").isEnabled());
-}
-
-TEST_F(PictureFilesTest, CtrlCInATextFieldCopiesItsText) {
-  activate(chamberWindow());
-  QTest::mouseDClick(&control<QWidget>("magfield_text"), Qt::LeftButton);
-  ASSERT_TRUE(wait_until([] {
-    return QApplication::focusWidget() != nullptr &&
-           QApplication::focusWidget()->inherits("QAbstractSpinBox");
-  }));
-  EXPECT_EQ(textCopiedIn(chamberWindow()), QStringLiteral("2"));
-}
-
-TEST_F(PictureFilesTest, CtrlCInATableOrInTheGuideCopiesItsText) {
-  makeEvent(lambda_type);
-  choose("event_record_item");
-  RecordWindow& record = application().recordWindow();
-  ASSERT_TRUE(wait_until([&] { return record.isActiveWindow(); }));
-  record.tree().setFocus();
-  record.tree().setCurrentItem(record.tree().topLevelItem(0));
-  EXPECT_EQ(textCopiedIn(record), record.tree().topLevelItem(0)->text(0));
-  Measurement row;
-  row.value = 12.5;
-  application().measurements().add({row});
-  choose("measurements_item");
-  MeasurementsWindow& measured = application().measurementsWindow();
-  ASSERT_TRUE(wait_until([&] { return measured.isActiveWindow(); }));
-  QTableView& table = measured.table();
-  table.setFocus();
-  table.selectAll();
-  table.setCurrentIndex(table.model()->index(0, static_cast<int>(MeasurementColumn::value)));
-  EXPECT_TRUE(textCopiedIn(measured).contains(QStringLiteral("12.5")));
-  choose("guide_item");
-  ASSERT_TRUE(wait_until(
-      [] { return qobject_cast<QTextBrowser*>(QApplication::focusWidget()) != nullptr; }));
-  EXPECT_TRUE(textCopiedIn(*QApplication::activeWindow()).contains(QStringLiteral("Velquon")));
 }
 
 #if !VELQUON_ADDRESS_SANITIZER

@@ -2,23 +2,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The views on a screen of any ratio of pixels: the same picture in finer pixels, and the mouse where
-// it is seen. To be run at each ratio; the screen needs room for both windows.
+// it is seen. To be run at each ratio, also one that the screen gets only after the windows have come
+// up; the screen needs room for both windows.
 
-#include <GL/gl.h>
-
-#include <QOpenGLFramebufferObject>
+#include <QFile>
 #include <algorithm>
 #include <cmath>
+#include <csignal>
 
 #include "render/chamber_scene.h"
-#include "render/overlay_text.h"
 #include "tests/support/windows/application_fixture.h"
 #include "tests/support/windows/input.h"
 #include "tests/support/windows/matrices.h"
 #include "tests/support/windows/pictures.h"
+#include "tests/support/windows/placement.h"
 #include "tests/support/windows/real_input.h"
 #include "tests/support/windows/screen_view.h"
+#include "tests/support/windows/values_line.h"
 #include "tests/support/windows/waiting.h"
+#include "tests/support/windows/window_manager.h"
+#include "track/track_window.h"
 
 namespace velquon::test {
 
@@ -43,12 +46,44 @@ class AnyScreenTest : public ApplicationFixture {
  protected:
   void SetUp() override {
     ApplicationFixture::SetUp();
-    ratio_ = chamber().devicePixelRatioF();
-    const QByteArray wanted = qgetenv("VELQUON_TEST_RATIO");
-    ASSERT_EQ(ratio_, wanted.isEmpty() ? 1.0 : wanted.toDouble());
+    const QByteArray named = qgetenv("VELQUON_TEST_RATIO");
+    ratio_ = named.isEmpty() ? 1.0 : named.toDouble();
+    if (canChangeRatio()) {
+      ASSERT_NO_FATAL_FAILURE(changeRatio(ratio_));
+    }
+    ASSERT_EQ(chamber().devicePixelRatioF(), ratio_);
     // With a broken ratio a window may come out a unit smaller.
     const QSize short_of = QSize(470, 420) - projection().size();
     ASSERT_LE(std::max(short_of.width(), short_of.height()), 1) << "the screen is too small";
+  }
+
+  void TearDown() override {
+    if (canChangeRatio()) {
+      changeRatio(1.0);
+    }
+    ApplicationFixture::TearDown();
+  }
+
+  /// Whether the ratio can change while the program runs.
+  [[nodiscard]] static bool canChangeRatio() {
+    return qEnvironmentVariableIsSet("VELQUON_SCREEN_SETTINGS");
+  }
+  /// Gives the screen another ratio, as its settings do, and waits until both views have it.
+  void changeRatio(double ratio) {
+    constexpr double dots_per_inch = 96.0;
+    constexpr double setting_units = 1024.0;
+    QFile settings(qEnvironmentVariable("VELQUON_SCREEN_SETTINGS"));
+    ASSERT_TRUE(settings.open(QIODevice::WriteOnly));
+    settings.write("Xft/DPI " + QByteArray::number(qRound(dots_per_inch * setting_units * ratio)) +
+                   '\n');
+    settings.close();
+    ASSERT_EQ(kill(qEnvironmentVariableIntValue("VELQUON_SCREEN_SETTER"), SIGHUP), 0);
+    for (const GLView* const view :
+         {static_cast<const GLView*>(&chamber()), static_cast<const GLView*>(&projection())}) {
+      ASSERT_TRUE(wait_until([&] { return view->devicePixelRatioF() == ratio; }));
+    }
+    // The window manager gives the windows their new pixels.
+    ASSERT_TRUE(wait_for_window_manager());
   }
 
   /// Drags the X server's mouse from one pixel of a view to another, counted from its upper left one.
@@ -86,20 +121,6 @@ class AnyScreenTest : public ApplicationFixture {
       dots = runs.size() > dots.size() ? runs : dots;
     }
     return dots;
-  }
-
-  /// The smallest rectangle around the values line with one pixel a view unit.
-  [[nodiscard]] QRect lineOfValuesUnscaled() {
-    chamber().makeCurrent();
-    QOpenGLFramebufferObject target(chamber_width, chamber_height);
-    target.bind();
-    glViewport(0, 0, chamber_width, chamber_height);
-    glClear(GL_COLOR_BUFFER_BIT);
-    OverlayText().draw(chamber().values_text(), 1.0, velquon::Camera());
-    const QImage picture = target.toImage().convertToFormat(QImage::Format_RGB32);
-    target.release();
-    chamber().doneCurrent();
-    return extent_of(pixels_of(picture, white));
   }
 
  private:
@@ -165,7 +186,7 @@ TEST_F(AnyScreenTest, BothSidesOfTheProjectedFrameAreDotsAndGapsOfAViewUnitWhere
 TEST_F(AnyScreenTest, TheValuesLineIsAsLargeAndWhereItIsOnAnyScreen) {
   chamber().set_show_axes(false);
   showEvent({});
-  const QRect unscaled = lineOfValuesUnscaled();
+  const QRect unscaled = extent_of(pixels_of(values_line_unscaled(chamber()), white));
   const QRect shown = extent_of(pixels_of(picture_of(chamber()), white));
   ASSERT_GT(unscaled.width(), 100);
   EXPECT_NEAR(shown.width(), unscaled.width() * ratio(), ratio());
@@ -203,6 +224,23 @@ TEST_F(AnyScreenTest, TheGrabToolMovesThePictureByThePixelsOfTheMouse) {
               to.x() - from.x(), 1.0);
   EXPECT_NEAR((projection().mapping().offset_up - before.offset_up) * ratio(), to.y() - from.y(),
               1.0);
+}
+
+TEST_F(AnyScreenTest, EveryWindowAndDialogOpensWithinIt) {
+  expect_on_screen(chamberWindow());
+  expect_on_screen(projectorWindow());
+  choose("activate_item");
+  expect_on_screen(application().trackWindow());
+  choose("activate_item");
+  activate(chamberWindow());
+  choose("new_event_item");
+  for (const char* const item : window_items) {
+    expect_window_on_screen([&] { choose(item); });
+  }
+  for (const char* const item : dialog_items) {
+    activate(chamberWindow());
+    expect_dialog_on_screen([&] { choose(item); });
+  }
 }
 
 TEST_F(AnyScreenTest, TheCursorHasTheSizeOfSixteenUnits) {

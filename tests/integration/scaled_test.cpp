@@ -4,16 +4,12 @@
 // The chamber view on a screen with two pixels a view unit: the picture is the same, in finer
 // pixels. A program of its own, as the ratio is settled before the windows.
 
-#include <GL/gl.h>
-
-#include <QOpenGLFramebufferObject>
-
 #include "render/chamber_scene.h"
-#include "render/overlay_text.h"
 #include "tests/support/windows/application_fixture.h"
 #include "tests/support/windows/matrices.h"
 #include "tests/support/windows/pictures.h"
 #include "tests/support/windows/screen_view.h"
+#include "tests/support/windows/values_line.h"
 
 namespace velquon::test {
 
@@ -30,20 +26,6 @@ class ScaledTest : public ApplicationFixture {
   }
 
   [[nodiscard]] QPointF pixel(const Place& place) const { return camera_.pixel(place) * ratio; }
-
-  /// The values line as it is with one pixel a view unit.
-  [[nodiscard]] QImage lineOfValuesUnscaled() {
-    chamber().makeCurrent();
-    QOpenGLFramebufferObject target(chamber_width, chamber_height);
-    target.bind();
-    glViewport(0, 0, chamber_width, chamber_height);
-    glClear(GL_COLOR_BUFFER_BIT);
-    OverlayText().draw(chamber().values_text(), 1.0, velquon::Camera());
-    QImage picture = target.toImage().convertToFormat(QImage::Format_RGB32);
-    target.release();
-    chamber().doneCurrent();
-    return picture;
-  }
 
  private:
   const Camera camera_ = resting_camera();
@@ -82,7 +64,7 @@ TEST_F(ScaledTest, LinesAreTwoPixelsWide) {
 TEST_F(ScaledTest, EachPixelOfTheValuesLineIsASquareOfPixels) {
   chamber().set_show_axes(false);
   showEvent({});
-  const auto unscaled = pixels_of(lineOfValuesUnscaled(), white);
+  const auto unscaled = pixels_of(values_line_unscaled(chamber()), white);
   const QImage picture = picture_of(chamber());
   const auto scaled = pixels_of(picture, white);
   ASSERT_GT(unscaled.size(), 100U);
