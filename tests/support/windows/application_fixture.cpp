@@ -100,7 +100,10 @@ void ApplicationFixture::activate(QWidget& window) {
     // A window that came up just now may still be given the focus.
     ASSERT_TRUE(wait_for_window_manager());
   } while (!window.isActiveWindow() && !end.hasExpired());
-  ASSERT_TRUE(window.isActiveWindow()) << window.windowTitle().toStdString();
+  const QWidget* const active = QApplication::activeWindow();
+  ASSERT_TRUE(window.isActiveWindow())
+      << window.windowTitle().toStdString() << (window.isVisible() ? "" : ", hidden")
+      << "; active: " << (active != nullptr ? active->windowTitle().toStdString() : "none");
 }
 
 void ApplicationFixture::activateAnotherProgram() {
