@@ -101,7 +101,7 @@ bool save_picture(GLView& view, const QString& path) {
 }
 
 QString picture_name(const EventType& type, const QString& view) {
-  QString name = QString::fromUtf8(type.name.data(), static_cast<qsizetype>(type.name.size()));
+  QString name = QString::fromUtf8(type.name);
   return name.toLower().replace(QLatin1Char(' '), QLatin1Char('-')) + QLatin1Char('-') + view +
          QStringLiteral(".png");
 }

@@ -22,10 +22,6 @@ namespace {
 const QString sheets_key = QStringLiteral("worksheets");
 const QString answers_key = QStringLiteral("answers");
 
-QString text_of(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 ReadWorksheetOptions refused(const QString& reason) {
   return {std::nullopt, reason};
 }
@@ -62,9 +58,10 @@ QList<QCommandLineOption> worksheet_options() {
       {answers_key, QStringLiteral("With --worksheets: leave their answers in a PDF file."),
        QStringLiteral("FILE.pdf")}};
   for (const OrderEntry& entry : order_entries()) {
-    options << QCommandLineOption(text_of(entry.key),
-                                  QStringLiteral("With --worksheets: %1.").arg(text_of(entry.help)),
-                                  text_of(entry.placeholder));
+    options << QCommandLineOption(
+        QString::fromUtf8(entry.key),
+        QStringLiteral("With --worksheets: %1.").arg(QString::fromUtf8(entry.help)),
+        QString::fromUtf8(entry.placeholder));
   }
   return options;
 }
@@ -86,10 +83,10 @@ ReadWorksheetOptions read_worksheet_options(const QCommandLineParser& parser,
   WorksheetRequest request{
       .order = {}, .sheets = parser.value(sheets_key), .answers = parser.value(answers_key)};
   for (const OrderEntry& entry : order_entries()) {
-    const QString key = text_of(entry.key);
+    const QString key = QString::fromUtf8(entry.key);
     if (parser.isSet(key) && !entry.take(request.order, parser.value(key).toStdString())) {
       return refused(QStringLiteral("--%1: '%2' is not %3")
-                         .arg(key, parser.value(key), text_of(entry.wanted)));
+                         .arg(key, parser.value(key), QString::fromUtf8(entry.wanted)));
     }
   }
   if (request.order.type == nullptr) {

@@ -66,8 +66,7 @@ constexpr std::array<const char*, 3> notes{
 };
 
 QString symbol_of(int number) {
-  const std::string_view symbol = particle_kind(number).symbol;
-  return QString::fromUtf8(symbol.data(), static_cast<qsizetype>(symbol.size()));
+  return QString::fromUtf8(particle_kind(number).symbol);
 }
 
 QString number_or_dash(const std::optional<double>& value) {

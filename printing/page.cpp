@@ -5,9 +5,15 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QPen>
 #include <QString>
 
 namespace velquon {
+
+QPen page_pen() {
+  constexpr double line_width = 1.0;
+  return {Qt::black, line_width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
+}
 
 void print_text(QPainter& page, QPointF place, const QString& text) {
   page.save();

@@ -8,6 +8,7 @@
 #include <QSizeF>
 
 class QPainter;
+class QPen;
 class QString;
 
 namespace velquon {
@@ -16,6 +17,11 @@ namespace velquon {
 inline constexpr QSizeF page_size(500.0, 720.0);
 /// The part of a page that is a picture's; date, title and values stand above.
 inline constexpr QRectF page_picture(0.0, 0.0, 500.0, 640.0);
+
+inline constexpr double points_per_inch = 72.0;
+
+/// The pen for all lines of a page: black, a point wide, with square ends.
+[[nodiscard]] QPen page_pen();
 
 /// Something that can be drawn on a page.
 class Printable {

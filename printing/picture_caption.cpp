@@ -24,7 +24,7 @@ LegendStyle caption_style() {
   return {.font = font, .text = Qt::black};
 }
 
-double line_height() {
+double values_line_height() {
   return QFontMetricsF(caption_style().font).height();
 }
 
@@ -33,7 +33,7 @@ double values_height(const PictureCaption& caption) {
   if (caption.values.isEmpty()) {
     return 0.0;
   }
-  return line_height() + (caption.legend.empty() ? 0.0 : line_gap);
+  return values_line_height() + (caption.legend.empty() ? 0.0 : line_gap);
 }
 
 QSizeF legend_size_of(const PictureCaption& caption, int width) {

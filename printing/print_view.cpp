@@ -8,6 +8,7 @@
 #include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QPainter>
+#include <QPen>
 #include <algorithm>
 #include <utility>
 
@@ -17,10 +18,7 @@ namespace velquon {
 
 namespace {
 
-// Points, 1/72 inch.
-constexpr int font_size = 12;
-constexpr double line_width = 1.0;
-constexpr double points_per_inch = 72.0;
+constexpr int font_size = 12;  // points
 
 constexpr QPointF date_place(0.0, 700.0);
 constexpr QPointF title_place(120.0, 675.0);
@@ -62,7 +60,7 @@ void PrintView::draw(QPainter& page, QSizeF paper) {
   QFont font = page.font();
   font.setPixelSize(font_size);
   page.setFont(font);
-  page.setPen(QPen(Qt::black, line_width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+  page.setPen(page_pen());
   drawRect(page);
 }
 

@@ -7,8 +7,10 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QPen>
 #include <QSvgGenerator>
 
+#include "printing/page.h"
 #include "printing/projection_foot.h"
 #include "printing/projection_page.h"
 
@@ -17,8 +19,6 @@ namespace velquon {
 namespace {
 
 constexpr int letter_size = 12;
-constexpr double line_width = 1.0;
-constexpr double points_per_inch = 72.0;
 
 // Left edges of what stands below the picture, at that of the chamber's outline at rest.
 constexpr double foot_left = 35.0;
@@ -47,7 +47,7 @@ void paint(QPainter& painter, const ProjectionDrawing& drawing) {
   QFont font = painter.font();
   font.setPixelSize(letter_size);
   painter.setFont(font);
-  painter.setPen(QPen(Qt::black, line_width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+  painter.setPen(page_pen());
   painter.fillRect(QRectF(QPointF(0.0, 0.0), size), Qt::white);
   painter.save();
   painter.scale(1.0, -1.0);

@@ -13,6 +13,7 @@
 #include "model/seeded_events.h"
 #include "model/track_answers.h"
 #include "printing/answer_key.h"
+#include "printing/page.h"
 #include "printing/worksheet_page.h"
 
 namespace velquon {
@@ -38,7 +39,6 @@ class PdfDocument {
   /// Adds a page.
   /// \param paint draws it: a point as its unit, y upwards, the origin at the lower left corner
   void addPage(const std::function<void(QPainter&)>& paint) {
-    constexpr double points_per_inch = 72.0;
     if (has_page_) {
       writer_->newPage();
     }

@@ -18,13 +18,9 @@ QString exact_text(float number) {
   return QString::number(static_cast<double>(number), 'g', digits);
 }
 
-QString utf8(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 QStringList arguments_of(const EventOrder& order) {
   // Joined to their options: a value that begins with a minus sign is none of its own.
-  return {QStringLiteral("--type=") + utf8(event_types()[order.type].key),
+  return {QStringLiteral("--type=") + QString::fromUtf8(event_types()[order.type].key),
           QStringLiteral("--field=") + exact_text(order.values.B_field),
           QStringLiteral("--side=") + exact_text(order.values.sides_cm),
           QStringLiteral("--energy=") + exact_text(order.values.kinetic_Mev),

@@ -13,7 +13,7 @@ namespace velquon {
 
 namespace {
 
-constexpr std::array titles{
+constexpr std::array column_titles{
     QT_TRANSLATE_NOOP("velquon::MeasurementColumns", "Event"),
     QT_TRANSLATE_NOOP("velquon::MeasurementColumns", "Quantity"),
     QT_TRANSLATE_NOOP("velquon::MeasurementColumns", "Plane"),
@@ -41,10 +41,6 @@ constexpr std::array<std::pair<MeasurementColumn, const char*>, 4> tips{{
     {MeasurementColumn::note, QT_TRANSLATE_NOOP("velquon::MeasurementColumns",
                                                 "Your own words. Double-click or F2 to edit")},
 }};
-
-QString utf8(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 bool is_number_column(MeasurementColumn column) {
   return column == MeasurementColumn::value || column == MeasurementColumn::error ||
@@ -104,7 +100,7 @@ int MeasurementColumns::rowCount(const QModelIndex& parent) const {
 }
 
 int MeasurementColumns::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(titles.size());
+  return parent.isValid() ? 0 : static_cast<int>(column_titles.size());
 }
 
 QVariant MeasurementColumns::data(const QModelIndex& index, int role) const {
@@ -123,7 +119,7 @@ QVariant MeasurementColumns::headerData(int section, Qt::Orientation orientation
     return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
   }
   if (role == Qt::DisplayRole) {
-    return tr(titles.at(static_cast<std::size_t>(section)));
+    return tr(column_titles.at(static_cast<std::size_t>(section)));
   }
   if (role == Qt::ToolTipRole) {
     for (const auto& [column, tip] : tips) {
@@ -180,7 +176,7 @@ QString MeasurementColumns::text(const Measurement& row, MeasurementColumn colum
     case MeasurementColumn::quantity:
       return model_text(names.name);
     case MeasurementColumn::plane:
-      return utf8(row.plane);
+      return QString::fromUtf8(row.plane);
     case MeasurementColumn::value:
       return number_text(row.value);
     case MeasurementColumn::error:
@@ -194,9 +190,9 @@ QString MeasurementColumns::text(const Measurement& row, MeasurementColumn colum
     case MeasurementColumn::longest:
       return number_text(row.longest_cm);
     case MeasurementColumn::note:
-      return utf8(row.note);
+      return QString::fromUtf8(row.note);
     case MeasurementColumn::file:
-      return utf8(row.file);
+      return QString::fromUtf8(row.file);
   }
   return {};
 }

@@ -40,12 +40,8 @@ QString four_digits(const std::optional<double>& value) {
   return value ? four_digits(*value) : QStringLiteral("-");
 }
 
-QString utf8(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 QStringList texts_of(const EventRow& row) {
-  return {model_text(row.name) + QLatin1Char(' ') + utf8(row.symbol),
+  return {model_text(row.name) + QLatin1Char(' ') + QString::fromUtf8(row.symbol),
           model_text(row.fate),
           four_digits(row.momentum),
           four_digits(row.transverse_momentum),

@@ -9,7 +9,7 @@
 namespace velquon {
 
 QString from_utf8(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  return QString::fromUtf8(text);
 }
 
 QString particle_name(const ParticleKind& kind) {
