@@ -44,11 +44,17 @@ def without_precompiled_header(words):
             and not (word == "-Xclang" and words[at + 1].startswith(("-include", "/")))]
 
 
+def is_of(folder, source, source_folder):
+    """Whether a source is of a folder, or several of them compiled as one."""
+    return (source.parent == source_folder / folder
+            or source.parent.parts[-3:] == ("CMakeFiles", f"{folder}.dir", "Unity"))
+
+
 def options_of(folder, commands, source_folder):
     """The compiler and its options for the first source of a folder that is no exception."""
     for command in commands:
         source = Path(command["file"])
-        if source.parent == source_folder / folder and "hepmc3" not in source.name:
+        if is_of(folder, source, source_folder) and "hepmc3" not in source.name:
             words = shlex.split(command["command"])
             if words[0] == "ccache":
                 words = words[1:]
