@@ -83,6 +83,10 @@ TEST(PresentedPlacesTest, ThePictureIsAsLargeAsTheRoomBesideThePanelAllows) {
     const QSize used = picture.united(panel).size();
     EXPECT_TRUE(used.width() > room.width() - 2 || picture.height() > room.height() - 2);
     EXPECT_TRUE(used.height() > room.height() - 2 || picture.width() > room.width() - 2);
+    // A panel is no wider than its texts need, and both are in the middle.
+    EXPECT_LE(panel.width() * panel.height(), room.width() * room.height() * 0.29);
+    EXPECT_NEAR(picture.united(panel).center().x(), all.center().x(), 1.0);
+    EXPECT_NEAR(picture.united(panel).center().y(), all.center().y(), 1.0);
     EXPECT_GE(panel.width() * panel.height(), room.width() * room.height() * 0.08);
   }
 }
@@ -164,6 +168,8 @@ TEST_F(PresentationTest, EscapeBringsBackSizeScrolledPlaceAndFocus) {
   // Not to what is covered.
   QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Tab);
   EXPECT_TRUE(chamber().hasFocus());
+  QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Tab, Qt::ShiftModifier);
+  EXPECT_TRUE(chamber().hasFocus());
   QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Escape);
   waitUntilOver(chamberWindow(), chamber(), place.size());
   run_loop_for(100);
@@ -172,6 +178,55 @@ TEST_F(PresentationTest, EscapeBringsBackSizeScrolledPlaceAndFocus) {
   EXPECT_TRUE(slider.hasFocus());
   EXPECT_FALSE(item("presentation_item").isChecked());
   EXPECT_EQ(told(chamberWindow(), "presentation_title"), QString());
+}
+
+TEST_F(PresentationTest, AMaximizedWindowIsMaximizedAfterwards) {
+  chamberWindow().showMaximized();
+  ASSERT_TRUE(wait_until([&] { return chamberWindow().width() > 1000; }));
+  run_loop_for(100);
+  const QRect place = chamberWindow().geometry();
+  present(chamberWindow(), chamber());
+  QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Escape);
+  EXPECT_TRUE(wait_until(
+      [&] { return !chamberWindow().isFullScreen() && chamberWindow().geometry() == place; }));
+  run_loop_for(100);
+  EXPECT_TRUE(chamberWindow().isMaximized());
+  EXPECT_EQ(chamberWindow().geometry(), place);
+}
+
+TEST_F(PresentationTest, AMinimizedWindowIsPresentedWhenItComesBack) {
+  present(chamberWindow(), chamber());
+  chamberWindow().showMinimized();
+  ASSERT_TRUE(wait_until([&] { return chamberWindow().isMinimized(); }));
+  run_loop_for(200);
+  EXPECT_TRUE(item("presentation_item").isChecked());
+}
+
+TEST_F(PresentationTest, AViewThatHadNoFocusHasNoneAfterwards) {
+  if (QWidget* const holder = chamberWindow().focusWidget()) {
+    holder->clearFocus();
+  }
+  const QSize usual = chamberWindow().size();
+  present(chamberWindow(), chamber());
+  ASSERT_TRUE(chamber().hasFocus());
+  QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Escape);
+  waitUntilOver(chamberWindow(), chamber(), usual);
+  EXPECT_FALSE(chamber().hasFocus());
+}
+
+TEST_F(PresentationTest, TextsAreReadFromAfar) {
+  showEvent(std::array{point_});
+  present(chamberWindow(), chamber());
+  const auto height_of = [](const QMainWindow& window, const char* name) {
+    return window.findChild<QWidget*>(QLatin1String(name))->fontInfo().pixelSize();
+  };
+  // A fiftieth of the screen's height is read at eight times that height.
+  const int least = screenSize().height() / 50;
+  EXPECT_GE(height_of(chamberWindow(), "presentation_title"), least);
+  EXPECT_GE(height_of(chamberWindow(), "presentation_legend"), least);
+  choose("projector_window_item");
+  waitUntilPresented(projectorWindow(), projection());
+  EXPECT_GE(height_of(projectorWindow(), "presentation_readings"), least);
 }
 
 TEST_F(PresentationTest, ShortcutsGoOnWorkingAndF11EndsIt) {
@@ -254,6 +309,17 @@ TEST_F(PresentationTest, AWindowThatIsClosedIsNotPresented) {
   waitUntilPresented(chamberWindow(), chamber());
   EXPECT_FALSE(trackWindow().isVisible());
   EXPECT_EQ(told(chamberWindow(), "presentation_title"), chamberWindow().title());
+}
+
+TEST_F(PresentationTest, TheWindowThatIsLeftIsPresented) {
+  choose("event_record_item");
+  const RecordWindow& record = application().recordWindow();
+  ASSERT_TRUE(wait_until([&] { return record.isActiveWindow(); }));
+  chamberWindow().close();
+  ASSERT_TRUE(wait_until([&] { return !chamberWindow().isVisible() && record.isActiveWindow(); }));
+  choose("presentation_item");
+  waitUntilPresented(projectorWindow(), projection());
+  EXPECT_FALSE(chamberWindow().isVisible());
 }
 
 TEST_F(PresentationTest, AnEventWithoutTracksIsToldInItsPlace) {
