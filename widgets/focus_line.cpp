@@ -5,6 +5,8 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <algorithm>
+#include <array>
 
 #include "widgets/contrast.h"
 
@@ -35,12 +37,21 @@ void FocusLine::paintEvent(QPaintEvent* /*event*/) {
   if (!isOn()) {
     return;
   }
+  QPainter(this).fillRect(rect(), color());
+}
+
+QColor FocusLine::color() const {
   const QColor ground = palette().color(QPalette::Window);
-  const QColor highlight = palette().color(QPalette::Active, QPalette::Highlight);
+  const QColor text = palette().color(QPalette::WindowText);
+  // As far from black as from white.
+  constexpr QColor between(0x75, 0x75, 0x75);
   // Told from the window and from the picture, which is black.
-  const bool stands_out = contrast(highlight, ground) >= least_contrast &&
-                          contrast(highlight, Qt::black) >= least_contrast;
-  QPainter(this).fillRect(rect(), stands_out ? highlight : palette().color(QPalette::WindowText));
+  const std::array colors{palette().color(QPalette::Active, QPalette::Highlight), text, between};
+  const auto* const found = std::ranges::find_if(colors, [&](const QColor& color) {
+    return contrast(color, ground) >= least_contrast &&
+           contrast(color, Qt::black) >= least_contrast;
+  });
+  return found == colors.end() ? text : *found;
 }
 
 }  // namespace velquon

@@ -26,6 +26,8 @@ class FocusLine : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  [[nodiscard]] QColor color() const;
+
   const QWidget* view_ = nullptr;
 };
 

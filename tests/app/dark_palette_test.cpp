@@ -212,6 +212,17 @@ TEST_P(PaletteTest, LegendAndStatusLineCanBeReadAndTheirChipsSeen) {
   }
 }
 
+TEST_P(PaletteTest, TheLineOfTheFocusStandsOutFromWindowAndPicture) {
+  const QColor window = QApplication::palette().color(QPalette::Window);
+  activate(chamberWindow());
+  chamber().setFocus();
+  auto& line = control<QWidget>("chamber_focus_line");
+  const QColor seen = picture_on_screen(line).pixelColor(line.rect().center());
+  EXPECT_GE(contrast(seen, window), least_contrast);
+  // In a black window it is the only line there is.
+  EXPECT_GE(contrast(seen, Qt::black), least_contrast);
+}
+
 INSTANTIATE_TEST_SUITE_P(Desktops, PaletteTest,
                          testing::Values(Desktop{"Light", 0xFFEFEFEF, 0xFF000000, 0xFF308CC6},
                                          Desktop{"Dark", 0xFF353535, 0xFFFFFFFF, 0xFF2A82DA},
