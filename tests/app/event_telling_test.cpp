@@ -14,6 +14,7 @@
 #include "render/camera.h"
 #include "tests/support/windows/application_fixture.h"
 #include "tests/support/windows/pictures.h"
+#include "tests/support/windows/screen_view.h"
 #include "tests/support/windows/waiting.h"
 #include "widgets/contrast.h"
 #include "widgets/focus_line.h"
@@ -112,6 +113,40 @@ TEST_F(EventTellingTest, TheStatusLineHasRoomForTheSeedInLettersOfAnySize) {
           << name << ", " << height;
     }
   }
+}
+
+TEST_F(EventTellingTest, WhatFindsNoRoomIsReadInTheToolTip) {
+  choose("new_event_item");
+  EXPECT_EQ(control<StatusLine>("chamber_status").toolTip().toStdString(), chamberStatus());
+  for (LegendStrip* const legend : {&chamberLegend(), &projectorLegend()}) {
+    ASSERT_FALSE(legend->lines().empty());
+    for (const LegendLine& line : legend->lines()) {
+      EXPECT_TRUE(legend->toolTip().contains(line.name, Qt::CaseInsensitive))
+          << legend->toolTip().toStdString();
+    }
+  }
+}
+
+TEST_F(EventTellingTest, AFilesNameIsToldLetterByLetter) {
+  const auto letters_on_screen = [this](const QString& name) {
+    controller().renameWindows(name);
+    model().setHasEvent();
+    return control<QLabel>("chamber_status").grab().toImage();
+  };
+  showEvent(std::vector{point_at(0, 0, 0, 4), point_at(0, 20, 0, 4)});
+  const QImage plain = letters_on_screen(QStringLiteral("x.cwd"));
+  const QImage marked = letters_on_screen(QStringLiteral("<b>x</b>.cwd"));
+  // The marks are told too, not followed.
+  const auto width = [](const QImage& image) {
+    int last = 0;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        last = image.pixel(x, y) != image.pixel(0, 0) ? std::max(last, x) : last;
+      }
+    }
+    return last;
+  };
+  EXPECT_GT(width(marked), width(plain) + 20);
 }
 
 TEST_F(EventTellingTest, AnEventThatIsShownAgainHasItsNumberAgain) {
@@ -242,6 +277,21 @@ TEST_F(EventTellingTest, TheViewsAreReachedByTabAndALineShowsIt) {
     view->clearFocus();
     EXPECT_EQ(line_pixels(), without);
   }
+}
+
+TEST_F(EventTellingTest, TheLineIsGoneFromTheScreenWithTheFocus) {
+  activate(chamberWindow());
+  auto& line = control<FocusLine>("chamber_focus_line");
+  const auto seen = [&line] {
+    handle_waiting_events();
+    return screen_picture(line);
+  };
+  chamber().clearFocus();
+  const QImage without = seen();
+  chamber().setFocus();
+  EXPECT_TRUE(wait_until([&] { return seen() != without; }));
+  chamber().clearFocus();
+  EXPECT_TRUE(wait_until([&] { return seen() == without; }));
 }
 
 TEST_F(EventTellingTest, WhileOneMeasuresTheProjectionTellsTheStepAlone) {

@@ -12,6 +12,7 @@
 #include <algorithm>
 
 #include "tests/support/windows/application_fixture.h"
+#include "tests/support/windows/real_input.h"
 #include "tests/support/windows/waiting.h"
 
 namespace velquon::test {
@@ -197,6 +198,20 @@ TEST_F(MenusTest, AKeyHeldDownMakesOneEventAndOneReplay) {
     EXPECT_EQ(chosen.size(), 1) << name;
     chamber().stopRotating();
   }
+}
+
+TEST_F(MenusTest, KeysPressedQuicklyOneAfterTheOtherAreAllFollowed) {
+  const QSignalSpy events(&item("new_event_item"), &QAction::triggered);
+  const QSignalSpy turns(&item("rotate_item"), &QAction::triggered);
+  // The same key as quickly as a person can, and another one as soon as the first is up.
+  const RealInput input(
+      QStringLiteral("keydown ctrl keydown n sleep 0.05 keyup n sleep 0.06 keydown n sleep 0.05 "
+                     "keyup n keydown t sleep 0.05 keyup t keyup ctrl"));
+  EXPECT_TRUE(wait_until([&] { return input.isOver(); }));
+  EXPECT_TRUE(wait_until([&] { return events.size() >= 2 && !turns.isEmpty(); }));
+  run_loop_for(100);
+  EXPECT_EQ(events.size(), 2);
+  EXPECT_EQ(turns.size(), 1);
 }
 
 TEST_F(MenusTest, AKeyHeldDownInjectsOneParticleAndSwitchesTheTrackWindowOnce) {

@@ -410,6 +410,31 @@ TEST_F(PrintPanelTest, ShowsThePageBeforeItIsPrinted) {
   });
 }
 
+TEST_F(PrintPanelTest, ThePageIsDrawnAnewForAnotherPaperOrSizeAndOnlyThen) {
+  onPanel(projectorWindow(), [](QWidget& panel) {
+    const auto& preview = *panel.findChild<PagePreview*>();
+    const auto proportions = [&preview] {
+      const QSize page = preview.picture().size();
+      return page.isEmpty() ? 0.0 : static_cast<double>(page.height()) / page.width();
+    };
+    auto& papers = *panel.findChild<QComboBox*>(QStringLiteral("paper_popup"));
+    for (const Paper& paper : {letter, a4}) {
+      papers.setCurrentIndex(papers.findData(paper.id));
+      const double wanted = paper.size.height() / paper.size.width();
+      EXPECT_TRUE(wait_until([&] { return std::abs(proportions() - wanted) < 0.01; }));
+    }
+    const QSize before = preview.picture().size();
+    panel.resize(panel.size() + QSize(150, 150));
+    EXPECT_TRUE(wait_until([&] { return preview.picture().height() > before.height() + 50; }));
+    run_loop_for(100);
+    const qint64 drawn = preview.picture().cacheKey();
+    panel.repaint();
+    run_loop_for(100);
+    EXPECT_EQ(preview.picture().cacheKey(), drawn);
+    cancel(panel);
+  });
+}
+
 TEST_F(PrintPanelTest, LeavesNoSearchBehind) {
   // A process that is not ended by the program is ended by Qt with a warning.
   static int warnings = 0;

@@ -7,7 +7,9 @@
 
 #include <QImage>
 #include <QRect>
+#include <QtMath>
 #include <array>
+#include <vector>
 
 #include "render/chamber_scene.h"
 #include "render/off_screen.h"
@@ -75,6 +77,40 @@ TEST(SceneMarksTest, ALetterStandsBeyondTheTipOfEachAxis) {
   }
 }
 
+TEST(SceneMarksTest, EachAxisBearsItsOwnLetterInItsOwnColour) {
+  constexpr double scale = 4.0;
+  constexpr QRgb white = qRgb(255, 255, 255);
+  constexpr QRgb green = qRgb(0, 188, 0);
+  struct Case {
+    Vector place;
+    QRgb color;
+    std::vector<QPointF> on_strokes;  ///< view units from the middle of the letter, upwards
+    std::vector<QPointF> beside;
+  };
+  const QImage plain = drawn({}, scale);
+  const QImage lettered = drawn(with_letters(), scale);
+  for (const auto& [place, color, on_strokes, beside] :
+       {Case{{440.0, 0.0, 0.0},
+             white,
+             {{-2, -2.8}, {2, -2.8}, {-2, 1.8}, {2, 1.8}},
+             {{0, 2}, {0, -3}}},
+        Case{{0.0, 440.0, 0.0}, white, {{-2, 0.8}, {2, 0.7}, {-2, -6.6}}, {{3, -3}, {-3, -3}}},
+        Case{{0.0, 0.0, 440.0}, green, {{0, 3}, {0, -4}}, {{-2, 1}, {2, -2}}}}) {
+    const auto color_at = [&, middle = Camera().pixel(place)](QPointF in_letter) {
+      const QPoint pixel(qFloor((middle[0] + in_letter.x()) * scale),
+                         qFloor((chamber_height - middle[1] - in_letter.y()) * scale));
+      const bool is_changed = lettered.pixel(pixel) != plain.pixel(pixel);
+      return is_changed ? lettered.pixel(pixel) : qRgb(0, 0, 0);
+    };
+    for (const QPointF& part : on_strokes) {
+      EXPECT_EQ(color_at(part), color) << place[0] << ": " << part.x() << ", " << part.y();
+    }
+    for (const QPointF& part : beside) {
+      EXPECT_EQ(color_at(part), qRgb(0, 0, 0)) << place[0] << ": " << part.x() << ", " << part.y();
+    }
+  }
+}
+
 TEST(SceneMarksTest, LettersFollowTheAxesAndStayUpright) {
   Camera turned;
   turned.turn(70.0, along_z);
@@ -108,6 +144,22 @@ TEST(SceneMarksTest, TheArrowPointsAlongTheField) {
   EXPECT_FALSE(is_head_at(0.6, -150.0));
   EXPECT_TRUE(is_head_at(-0.6, -150.0));
   EXPECT_FALSE(is_head_at(-0.6, 150.0));
+}
+
+TEST(SceneMarksTest, TheFieldsLetterStandsAtTheTipOfItsArrowAlone) {
+  const QImage plain = drawn({});
+  for (const double field_kG : {0.6, -0.6}) {
+    const QImage marked = drawn(with_field(field_kG));
+    const double along = field_kG > 0.0 ? 1.0 : -1.0;
+    const auto letter_at = [&](double z) {
+      const auto [x, y] = Camera().pixel({470.0, -470.0, z});
+      const QPoint middle(static_cast<int>(x), chamber_height - static_cast<int>(y));
+      return changed_area(plain, marked, QRect(middle - QPoint(4, 6), QSize(9, 13)));
+    };
+    EXPECT_GE(letter_at(along * 250.0).height(), 9);
+    EXPECT_GE(letter_at(along * 250.0).width(), 6);
+    EXPECT_TRUE(letter_at(-along * 250.0).isEmpty());
+  }
 }
 
 TEST(SceneMarksTest, WithoutAFieldThereIsNoArrow) {

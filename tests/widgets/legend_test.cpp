@@ -104,6 +104,17 @@ TEST(LegendPaintingTest, WhereThereIsNoRoomForNamesTheSymbolsRemain) {
   EXPECT_EQ(image, painted(without_names, style, narrow, Qt::white));
 }
 
+TEST(LegendPaintingTest, ALineThatIsTooWideAloneLosesItsName) {
+  const std::vector<LegendLine> line{two_lines().front()};
+  const LegendStyle style = style_of(20);
+  const QSizeF whole = legend_size(line, style, 1000.0);
+  const QSizeF narrow(whole.width() * 0.8, whole.height());
+  std::vector<LegendLine> without_name = line;
+  without_name.front().name.clear();
+  EXPECT_EQ(painted(line, style, narrow, Qt::white),
+            painted(without_name, style, narrow, Qt::white));
+}
+
 TEST(LegendPaintingTest, NoLinesTakeNoRoom) {
   EXPECT_EQ(legend_size({}, style_of(20), 100.0), QSizeF(0.0, 0.0));
 }
