@@ -75,7 +75,7 @@ bool is_beside(QSize panel) {
 /// Height of the letters that go into a panel, pixels: some words a line beside a picture, a few
 /// lines below one.
 int letter_height(QSize panel) {
-  constexpr int letters_across = 11;
+  constexpr int letters_across = 16;
   constexpr int lines_below = 5;
   return std::max(is_beside(panel) ? panel.width() / letters_across : panel.height() / lines_below,
                   1);

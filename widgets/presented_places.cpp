@@ -11,7 +11,7 @@ namespace velquon {
 namespace {
 
 // Shares of the room that a panel has at least, and at most where the picture leaves it more.
-constexpr double least_beside = 0.17;
+constexpr double least_beside = 0.21;
 constexpr double most_beside = 0.28;
 constexpr double least_below = 0.12;
 constexpr double most_below = 0.14;

@@ -20,6 +20,7 @@
 #include "tests/support/windows/waiting.h"
 #include "track/track_panel.h"
 #include "track/track_status.h"
+#include "widgets/legend.h"
 #include "widgets/presented_places.h"
 #include "widgets/view_scroll_area.h"
 
@@ -168,7 +169,7 @@ TEST_F(PresentationTest, EscapeBringsBackSizeScrolledPlaceAndFocus) {
   // Not to what is covered.
   QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Tab);
   EXPECT_TRUE(chamber().hasFocus());
-  QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Tab, Qt::ShiftModifier);
+  QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_TRUE(chamber().hasFocus());
   QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Escape);
   waitUntilOver(chamberWindow(), chamber(), place.size());
@@ -220,13 +221,21 @@ TEST_F(PresentationTest, TextsAreReadFromAfar) {
   const auto height_of = [](const QMainWindow& window, const char* name) {
     return window.findChild<QWidget*>(QLatin1String(name))->fontInfo().pixelSize();
   };
-  // A fiftieth of the screen's height is read at eight times that height.
-  const int least = screenSize().height() / 50;
+  const int least = screenSize().height() / 60;
   EXPECT_GE(height_of(chamberWindow(), "presentation_title"), least);
   EXPECT_GE(height_of(chamberWindow(), "presentation_legend"), least);
   choose("projector_window_item");
   waitUntilPresented(projectorWindow(), projection());
   EXPECT_GE(height_of(projectorWindow(), "presentation_readings"), least);
+  // Nor are they so large that the names find no room.
+  const auto* const legend =
+      projectorWindow().findChild<QWidget*>(QStringLiteral("presentation_legend"));
+  const std::vector<LegendLine> longest{{.color = Qt::red,
+                                         .symbol = QStringLiteral("μ⁻"),
+                                         .name = QStringLiteral("Electrón positivo")}};
+  EXPECT_LE(
+      legend_size(longest, {.font = legend->font(), .text = Qt::white}, legend->width()).width(),
+      legend->width());
 }
 
 TEST_F(PresentationTest, ShortcutsGoOnWorkingAndF11EndsIt) {
