@@ -54,7 +54,7 @@ std::vector<GuidePage> read_guide_pages(const QString& language) {
 }
 
 std::size_t page_at(const std::vector<GuidePage>& pages, const QUrl& url) {
-  const auto found = std::ranges::find(pages, url, &GuidePage::url);
+  const auto found = std::ranges::find(pages, url.adjusted(QUrl::RemoveFragment), &GuidePage::url);
   return static_cast<std::size_t>(found - pages.begin());
 }
 

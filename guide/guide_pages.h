@@ -28,6 +28,7 @@ struct GuidePage {
 /// \return the pages in the order of reading
 [[nodiscard]] std::vector<GuidePage> read_guide_pages(const QString& language);
 
+/// \param url of the page or of a place in it
 /// \return the page with the address, an index, or the number of pages when there is none
 [[nodiscard]] std::size_t page_at(const std::vector<GuidePage>& pages, const QUrl& url);
 

@@ -3,7 +3,6 @@
 
 #include "widgets/legend_strip.h"
 
-#include <QEvent>
 #include <QPainter>
 #include <cmath>
 
@@ -41,13 +40,6 @@ QSize LegendStrip::sizeHint() const {
 void LegendStrip::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   paint_legend(painter, QRectF(rect().marginsRemoved(around)), lines_, style());
-}
-
-void LegendStrip::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::FontChange) {
-    updateGeometry();
-  }
-  QWidget::changeEvent(event);
 }
 
 LegendStyle LegendStrip::style() const {

@@ -29,7 +29,6 @@ class LegendStrip : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void changeEvent(QEvent* event) override;
 
  private:
   [[nodiscard]] LegendStyle style() const;

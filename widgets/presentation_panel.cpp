@@ -75,7 +75,7 @@ bool is_beside(QSize panel) {
 /// Height of the letters that go into a panel, pixels: some words a line beside a picture, a few
 /// lines below one.
 int letter_height(QSize panel) {
-  constexpr int letters_across = 16;
+  constexpr int letters_across = 14;
   constexpr int lines_below = 5;
   return std::max(is_beside(panel) ? panel.width() / letters_across : panel.height() / lines_below,
                   1);
@@ -117,7 +117,7 @@ void PresentationPanel::resizeEvent(QResizeEvent* event) {
     text->setFont(letters);
   }
   auto& parts = static_cast<QBoxLayout&>(*layout());
-  parts.setContentsMargins(height, height / 2, height, height / 2);
+  parts.setContentsMargins(height / 2, height / 2, height / 2, height / 2);
   parts.setSpacing(height);
   const bool beside = is_beside(event->size());
   parts.setDirection(beside ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);

@@ -3,8 +3,6 @@
 
 #include "widgets/status_line.h"
 
-#include <QEvent>
-
 namespace velquon {
 
 namespace {
@@ -39,13 +37,6 @@ QSize StatusLine::sizeHint() const {
   const QRect lines =
       fontMetrics().boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap, room_for_);
   return {room_width_, lines.height() + around.top() + around.bottom()};
-}
-
-void StatusLine::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::FontChange) {
-    updateGeometry();
-  }
-  QLabel::changeEvent(event);
 }
 
 }  // namespace velquon

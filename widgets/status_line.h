@@ -24,9 +24,6 @@ class StatusLine : public QLabel {
   /// The height is the same for every text, so that the picture above keeps its size.
   [[nodiscard]] bool hasHeightForWidth() const override { return false; }
 
- protected:
-  void changeEvent(QEvent* event) override;
-
  private:
   QString room_for_;
   int room_width_ = 0;

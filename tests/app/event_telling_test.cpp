@@ -111,6 +111,7 @@ TEST_F(EventTellingTest, TheStatusLineHasRoomForTheSeedInLettersOfAnySize) {
       const QRect needed = line.fontMetrics().boundingRect(room, Qt::TextWordWrap, longest);
       EXPECT_GE(line.sizeHint().height() - around.top() - around.bottom(), needed.height())
           << name << ", " << height;
+      EXPECT_TRUE(wait_until([&] { return line.height() == line.sizeHint().height(); }));
     }
   }
 }

@@ -103,6 +103,14 @@ TEST_F(GuideWindowTest, TheContentsFollowALinkAndBackLeadsBack) {
   EXPECT_EQ(page(), QStringLiteral("kink.md"));
 }
 
+TEST_F(GuideWindowTest, ALinkToAPlaceInAPageIsOneToThePage) {
+  find(QStringLiteral("pion"));
+  browser().setSource(QUrl(QStringLiteral("qrc:/docs/laboratory/kink.md#the-task")));
+  EXPECT_EQ(page(), QStringLiteral("kink.md"));
+  EXPECT_EQ(contents().currentItem(), contents().topLevelItem(4));
+  EXPECT_GT(browser().extraSelections().size(), 2);
+}
+
 TEST_F(GuideWindowTest, WordsAreFoundOnAllPages) {
   find(QStringLiteral("kink"));
   const QString first = found();

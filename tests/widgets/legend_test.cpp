@@ -7,8 +7,10 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QtMath>
 
 #include "widgets/contrast.h"
+#include "widgets/legend_strip.h"
 
 namespace velquon::test {
 
@@ -113,6 +115,24 @@ TEST(LegendPaintingTest, ALineThatIsTooWideAloneLosesItsName) {
   without_name.front().name.clear();
   EXPECT_EQ(painted(line, style, narrow, Qt::white),
             painted(without_name, style, narrow, Qt::white));
+}
+
+TEST(LegendStripTest, ItHasRoomForTheNamesOfTheLinesItIsMadeForAtAnyWidth) {
+  LegendStrip strip;
+  const LegendStyle style{.font = strip.font(), .text = Qt::black};
+  const int widest = qCeil(legend_size(two_lines(), style, 1000.0).width());
+  for (int width = widest - 10; width < widest + 40; ++width) {
+    strip.setRoomFor(two_lines(), width);
+    strip.setLegend(two_lines(), QString());
+    strip.resize(strip.sizeHint());
+    const QImage with_names = strip.grab().toImage();
+    std::vector<LegendLine> without_names = two_lines();
+    for (LegendLine& line : without_names) {
+      line.name.clear();
+    }
+    strip.setLegend(without_names, QString());
+    EXPECT_NE(strip.grab().toImage(), with_names) << width;
+  }
 }
 
 TEST(LegendPaintingTest, NoLinesTakeNoRoom) {
