@@ -204,8 +204,7 @@ class LanguagesTest : public ApplicationFixture, public ::testing::WithParamInte
     look(application().recordWindow(), "record");
     application().recordWindow().findChild<QCheckBox*>(QStringLiteral("hide_answers_box"))->click();
     look(application().recordWindow(), "answers hidden");
-    choose("activate_item");
-    ASSERT_TRUE(wait_until_exposed(&application().trackWindow()));
+    ASSERT_NO_FATAL_FAILURE(showTrackWindow());
     look(application().trackWindow(), "track");
     lookAtViews("while the track window is active");
     choose("activate_item");

@@ -229,7 +229,7 @@ TEST_F(AnyScreenTest, TheGrabToolMovesThePictureByThePixelsOfTheMouse) {
 TEST_F(AnyScreenTest, EveryWindowAndDialogOpensWithinIt) {
   expect_on_screen(chamberWindow());
   expect_on_screen(projectorWindow());
-  choose("activate_item");
+  ASSERT_NO_FATAL_FAILURE(showTrackWindow());
   expect_on_screen(application().trackWindow());
   choose("activate_item");
   activate(chamberWindow());

@@ -149,7 +149,7 @@ bool has_all(const QStringList& found, const QStringList& wanted) {
 TEST_F(SmallScreenTest, EveryWindowOpensWithinIt) {
   expect_on_screen(chamberWindow());
   expect_on_screen(projectorWindow());
-  choose("activate_item");
+  ASSERT_NO_FATAL_FAILURE(showTrackWindow());
   expect_on_screen(application().trackWindow());
   choose("activate_item");
   activate(chamberWindow());
@@ -203,7 +203,7 @@ TEST_F(SmallScreenTest, AViewTooNarrowAtFirstStartsScrolledToItsPointToo) {
 TEST_F(SmallScreenWithPanelTest, EveryWindowOpensBesideThePanel) {
   expect_on_screen(chamberWindow());
   expect_on_screen(projectorWindow());
-  choose("activate_item");
+  ASSERT_NO_FATAL_FAILURE(showTrackWindow());
   expect_on_screen(application().trackWindow());
   choose("activate_item");
   activate(chamberWindow());
@@ -212,8 +212,7 @@ TEST_F(SmallScreenWithPanelTest, EveryWindowOpensBesideThePanel) {
 
 TEST_F(SmallScreenWithPanelTest, TheTrackWindowScrollsWhatItHasNoRoomFor) {
   application().trackWindow().resize(400, 400);
-  choose("activate_item");
-  ASSERT_TRUE(wait_until([&] { return application().trackWindow().isActiveWindow(); }));
+  ASSERT_NO_FATAL_FAILURE(showTrackWindow());
   const QStringList found = tabRound(application().trackWindow());
   EXPECT_TRUE(has_all(found, track_controls)) << found.join(u' ').toStdString();
 }
@@ -226,9 +225,8 @@ TEST_F(SmallScreenLargeLettersTest, EveryWindowOpensWithinItAndReachesItsControl
   activate(projectorWindow());
   found = tabRound(projectorWindow());
   EXPECT_TRUE(has_all(found, projector_controls)) << found.join(u' ').toStdString();
-  choose("activate_item");
+  ASSERT_NO_FATAL_FAILURE(showTrackWindow());
   expect_on_screen(application().trackWindow());
-  ASSERT_TRUE(wait_until([&] { return application().trackWindow().isActiveWindow(); }));
   found = tabRound(application().trackWindow());
   EXPECT_TRUE(has_all(found, track_controls)) << found.join(u' ').toStdString();
 }

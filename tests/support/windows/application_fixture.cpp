@@ -11,6 +11,8 @@
 
 #include "tests/support/windows/waiting.h"
 #include "tests/support/windows/window_manager.h"
+#include "track/track_controller.h"
+#include "track/track_window.h"
 
 namespace velquon::test {
 
@@ -104,6 +106,14 @@ void ApplicationFixture::activate(QWidget& window) {
   ASSERT_TRUE(window.isActiveWindow())
       << window.windowTitle().toStdString() << (window.isVisible() ? "" : ", hidden")
       << "; active: " << (active != nullptr ? active->windowTitle().toStdString() : "none");
+}
+
+void ApplicationFixture::showTrackWindow() {
+  choose("activate_item");
+  ASSERT_TRUE(wait_until([&] {
+    TrackWindow& window = application().trackWindow();
+    return window.isActiveWindow() && window.controller().activated();
+  }));
 }
 
 void ApplicationFixture::activateAnotherProgram() {

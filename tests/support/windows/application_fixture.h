@@ -79,6 +79,8 @@ class ApplicationFixture : public ::testing::Test {
 
   /// Gives the keys to a window and waits until it has them.
   void activate(QWidget& window);
+  /// Activates the live track and waits until it is: until then its item would activate it again.
+  void showTrackWindow();
   /// Brings up another window of the desktop that takes the keys.
   void activateAnotherProgram();
 
