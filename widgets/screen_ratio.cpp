@@ -6,7 +6,6 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QGuiApplication>
-#include <QOpenGLWidget>
 #include <QPointer>
 #include <QScreen>
 #include <QWindow>
@@ -17,17 +16,21 @@ namespace velquon {
 
 namespace {
 
-/// Gives the views in a window framebuffers of its ratio, and has the window painted anew.
-void renew(QWidget& window) {
-  const auto widgets = window.findChildren<QWidget*>();
-  for (QWidget* const widget : widgets) {
-    if (qobject_cast<QOpenGLWidget*>(widget) != nullptr) {
-      QEvent change(QEvent::ScreenChangeInternal);
-      QCoreApplication::sendEvent(widget, &change);
-    }
-    widget->update();
-  }
-  window.update();
+/// A window of the same size in view units, as far as its screen has room, has other pixels.
+void keep_size(QWidget& window) {
+  const QSize size = window.size().boundedTo(room_on_screen(window));
+  // Qt takes a size for new only when it differs in view units, and what it paints into as well.
+  window.resize(size + QSize(1, 1));
+  window.repaint();
+  window.resize(size);
+  place_on_screen(window, window.frameGeometry().topLeft());
+}
+
+/// Qt learns how large a maximized window is when it becomes one.
+void fill_screen_anew(QWidget& window) {
+  const Qt::WindowStates state = window.windowState();
+  window.setWindowState(state & ~Qt::WindowMaximized);
+  window.setWindowState(state);
 }
 
 }  // namespace
@@ -90,14 +93,11 @@ void ScreenRatio::follow(QWidget& window) {
     return;
   }
   ratios_.insert(&window, ratio);
-  if (!window.isMaximized() && !window.isFullScreen()) {
-    const QSize size = window.size().boundedTo(room_on_screen(window));
-    // For Qt the window has this size already.
-    window.resize(size + QSize(1, 1));
-    window.resize(size);
-    place_on_screen(window, window.frameGeometry().topLeft());
+  if (window.isMaximized()) {
+    fill_screen_anew(window);
+  } else if (!window.isFullScreen()) {
+    keep_size(window);
   }
-  renew(window);
 }
 
 }  // namespace velquon

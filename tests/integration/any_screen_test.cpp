@@ -5,10 +5,8 @@
 // it is seen. To be run at each ratio, also one that the screen gets only after the windows have come
 // up; the screen needs room for both windows.
 
-#include <QFile>
 #include <algorithm>
 #include <cmath>
-#include <csignal>
 
 #include "render/chamber_scene.h"
 #include "tests/support/windows/application_fixture.h"
@@ -17,10 +15,10 @@
 #include "tests/support/windows/pictures.h"
 #include "tests/support/windows/placement.h"
 #include "tests/support/windows/real_input.h"
+#include "tests/support/windows/screen_settings.h"
 #include "tests/support/windows/screen_view.h"
 #include "tests/support/windows/values_line.h"
 #include "tests/support/windows/waiting.h"
-#include "tests/support/windows/window_manager.h"
 #include "track/track_window.h"
 
 namespace velquon::test {
@@ -48,8 +46,8 @@ class AnyScreenTest : public ApplicationFixture {
     ApplicationFixture::SetUp();
     const QByteArray named = qgetenv("VELQUON_TEST_RATIO");
     ratio_ = named.isEmpty() ? 1.0 : named.toDouble();
-    if (canChangeRatio()) {
-      ASSERT_NO_FATAL_FAILURE(changeRatio(ratio_));
+    if (can_change_screen_ratio()) {
+      ASSERT_TRUE(change_screen_ratio(ratio_, chamber()));
     }
     ASSERT_EQ(chamber().devicePixelRatioF(), ratio_);
     // With a broken ratio a window may come out a unit smaller.
@@ -58,32 +56,10 @@ class AnyScreenTest : public ApplicationFixture {
   }
 
   void TearDown() override {
-    if (canChangeRatio()) {
-      changeRatio(1.0);
+    if (can_change_screen_ratio()) {
+      EXPECT_TRUE(change_screen_ratio(1.0, chamber()));
     }
     ApplicationFixture::TearDown();
-  }
-
-  /// Whether the ratio can change while the program runs.
-  [[nodiscard]] static bool canChangeRatio() {
-    return qEnvironmentVariableIsSet("VELQUON_SCREEN_SETTINGS");
-  }
-  /// Gives the screen another ratio, as its settings do, and waits until both views have it.
-  void changeRatio(double ratio) {
-    constexpr double dots_per_inch = 96.0;
-    constexpr double setting_units = 1024.0;
-    QFile settings(qEnvironmentVariable("VELQUON_SCREEN_SETTINGS"));
-    ASSERT_TRUE(settings.open(QIODevice::WriteOnly));
-    settings.write("Xft/DPI " + QByteArray::number(qRound(dots_per_inch * setting_units * ratio)) +
-                   '\n');
-    settings.close();
-    ASSERT_EQ(kill(qEnvironmentVariableIntValue("VELQUON_SCREEN_SETTER"), SIGHUP), 0);
-    for (const GLView* const view :
-         {static_cast<const GLView*>(&chamber()), static_cast<const GLView*>(&projection())}) {
-      ASSERT_TRUE(wait_until([&] { return view->devicePixelRatioF() == ratio; }));
-    }
-    // The window manager gives the windows their new pixels.
-    ASSERT_TRUE(wait_for_window_manager());
   }
 
   /// Drags the X server's mouse from one pixel of a view to another, counted from its upper left one.

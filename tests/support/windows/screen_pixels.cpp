@@ -35,15 +35,18 @@ std::uint64_t digest_of(const std::vector<std::uint32_t>& pixels) {
 
 }  // namespace
 
-ScreenArea corner_of_window(unsigned long window) {
-  ScreenArea corner;
+ScreenArea area_of_window(unsigned long window) {
+  ScreenArea area;
   if (Display* const display = XOpenDisplay(nullptr); display != nullptr) {
+    XWindowAttributes attributes{};
+    XGetWindowAttributes(display, window, &attributes);
+    area.width = static_cast<unsigned>(attributes.width);
+    area.height = static_cast<unsigned>(attributes.height);
     Window child = 0;
-    XTranslateCoordinates(display, window, XDefaultRootWindow(display), 0, 0, &corner.x, &corner.y,
-                          &child);
+    XTranslateCoordinates(display, window, attributes.root, 0, 0, &area.x, &area.y, &child);
     XCloseDisplay(display);
   }
-  return corner;
+  return area;
 }
 
 std::vector<std::uint32_t> read_screen(const ScreenArea& area) {

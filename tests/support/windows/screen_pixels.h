@@ -16,8 +16,8 @@ struct ScreenArea {
   unsigned height = 0;
 };
 
-/// Where the upper left corner of an X window's inside is on the screen.
-ScreenArea corner_of_window(unsigned long window);
+/// The inside of an X window on the screen.
+ScreenArea area_of_window(unsigned long window);
 
 /// The pixels of an area, 0xRRGGBB each, row by row from the top, asked for over a connection of
 /// its own; empty when there is no such area.

@@ -16,7 +16,7 @@ ScreenArea screen_area_of(const QWidget& widget) {
   const double ratio = widget.devicePixelRatioF();
   // The window manager's frame need not be a whole number of view units wide.
   const QWidget& window = *widget.window();
-  const ScreenArea corner = corner_of_window(window.winId());
+  const ScreenArea corner = area_of_window(window.winId());
   const QPointF within = QPointF(widget.mapTo(&window, QPoint(0, 0))) * ratio;
   const QSizeF size = QSizeF(widget.size()) * ratio;
   return {corner.x + qRound(within.x()), corner.y + qRound(within.y()),
