@@ -88,8 +88,8 @@ TEST_F(ChangedRatioTest, APresentationFillsTheScreenAndIsDrawnAnew) {
 TEST_F(ChangedRatioTest, AWindowIsMadeSmallerWhereTheScreenHasNoRoomForIt) {
   chamberWindow().resize(1800, 1200);
   changeRatio(2.0);
-  expect_on_screen(chamberWindow());
   EXPECT_TRUE(wait_until([&] { return pixelsOf(chamberWindow()) == chamberWindow().size() * 2; }));
+  expect_on_screen(chamberWindow());
 }
 
 TEST_F(ChangedRatioTest, AWindowThatWasHiddenMeanwhileComesUpAtItsSize) {

@@ -13,6 +13,12 @@
 #include <iterator>
 #include <thread>
 
+const char* __asan_default_options() {  // NOLINT(bugprone-reserved-identifier)
+  // Where the thread-local data of a loaded library lie is guessed by what stands in memory before them;
+  // a wrong guess, which chance makes, crashes the search for leaks.
+  return "intercept_tls_get_addr=0";
+}
+
 const char* __lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identifier)
   // The driver keeps what it made for the feedback mode of a context that is gone.
   return "leak:libfontconfig\nleak:swrast_dri\n";
