@@ -6,6 +6,7 @@
 #include "tests/support/sanitizers.h"
 
 #if VELQUON_ADDRESS_SANITIZER
+#include <sanitizer/asan_interface.h>
 #include <sanitizer/lsan_interface.h>
 
 #include <chrono>
