@@ -15,7 +15,7 @@ namespace velquon {
 
 namespace {
 
-constexpr QPointF page_offset{-80.0, 120.0};
+constexpr QPointF chamber_page_offset{-80.0, 120.0};
 constexpr QPointF apology_place{120.0, 400.0};
 
 std::optional<FeedbackPicture> picture_for_page(std::span<const PlotPoint> points,
@@ -43,10 +43,10 @@ void paint_chamber(QPainter& page, std::span<const PlotPoint> points, const Came
     return;
   }
   for (const auto& [start, end] : picture->lines) {
-    page.drawLine(start + page_offset, end + page_offset);
+    page.drawLine(start + chamber_page_offset, end + chamber_page_offset);
   }
   for (const QRectF& cube : picture->cubes) {
-    page.fillRect(cube.translated(page_offset), page.pen().color());
+    page.fillRect(cube.translated(chamber_page_offset), page.pen().color());
   }
 }
 

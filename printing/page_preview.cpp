@@ -4,6 +4,7 @@
 #include "printing/page_preview.h"
 
 #include <QPainter>
+#include <QTimer>
 
 #include "printing/print_view.h"
 
@@ -13,6 +14,7 @@ PagePreview::PagePreview(PrintView& view, QWidget* parent) : QWidget(parent), vi
 
 void PagePreview::setPaper(QSizeF paper) {
   paper_ = paper;
+  picture_ = {};
   stale_ = true;
   update();
 }
@@ -23,20 +25,31 @@ void PagePreview::resizeEvent(QResizeEvent* event) {
 }
 
 void PagePreview::paintEvent(QPaintEvent* /*event*/) {
-  // Not before: a page takes a tenth of a second, and a panel that comes up changes its sizes.
-  if (stale_) {
-    stale_ = false;
-    drawPicture();
+  // Not before: a panel that comes up changes its sizes. And not here: a page takes a tenth of a
+  // second, and the panel is there before it.
+  if (stale_ && !due_) {
+    due_ = true;
+    QTimer::singleShot(0, this, &PagePreview::drawPicture);
   }
   QPainter painter(this);
-  const QSizeF shown = picture_.deviceIndependentSize();
-  const QPointF corner((width() - shown.width()) / 2.0, (height() - shown.height()) / 2.0);
-  painter.drawImage(corner, picture_);
+  const QSizeF shown = stale_ ? paper_.scaled(QSizeF(size()), Qt::KeepAspectRatio)
+                              : picture_.deviceIndependentSize();
+  const QRectF sheet(QPointF((width() - shown.width()) / 2.0, (height() - shown.height()) / 2.0),
+                     shown);
+  if (picture_.isNull()) {
+    painter.fillRect(sheet, Qt::white);
+  } else {
+    // Of another size until it is drawn anew.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, stale_);
+    painter.drawImage(sheet, picture_);
+  }
   painter.setPen(palette().color(QPalette::Mid));
-  painter.drawRect(QRectF(corner, shown).adjusted(0.0, 0.0, -1.0, -1.0));
+  painter.drawRect(sheet.adjusted(0.0, 0.0, -1.0, -1.0));
 }
 
 void PagePreview::drawPicture() {
+  due_ = false;
+  stale_ = false;
   const double ratio = devicePixelRatioF();
   const QSizeF room = QSizeF(size()) * ratio;
   picture_ = QImage(paper_.scaled(room, Qt::KeepAspectRatio).toSize(), QImage::Format_RGB32);
@@ -50,6 +63,7 @@ void PagePreview::drawPicture() {
     page.end();
     picture_.setDevicePixelRatio(ratio);
   }
+  update();
 }
 
 }  // namespace velquon

@@ -11,7 +11,8 @@ namespace velquon {
 
 class PrintView;
 
-/// Shows a printed page on its paper, as large as there is room.
+/// Shows a printed page on its paper, as large as there is room; empty paper until the page is
+/// drawn.
 class PagePreview : public QWidget {
   Q_OBJECT
 
@@ -20,7 +21,7 @@ class PagePreview : public QWidget {
 
   /// \param paper points
   void setPaper(QSizeF paper);
-  /// The paper with the page as last painted on the screen; null before, and while there is no room.
+  /// The paper with the page as last drawn; null until that is drawn, and while there is no room.
   [[nodiscard]] const QImage& picture() const { return picture_; }
 
  protected:
@@ -34,6 +35,7 @@ class PagePreview : public QWidget {
   QSizeF paper_;
   QImage picture_;
   bool stale_ = true;  ///< the picture is not of this paper or size
+  bool due_ = false;   ///< it is drawn with the next round of the event loop
 };
 
 }  // namespace velquon

@@ -18,7 +18,7 @@ namespace velquon {
 
 namespace {
 
-constexpr int letter_size = 12;
+constexpr int projection_letter_size = 12;
 
 // Left edges of what stands below the picture, at that of the chamber's outline at rest.
 constexpr double foot_left = 35.0;
@@ -45,7 +45,7 @@ void paint(QPainter& painter, const ProjectionDrawing& drawing) {
   const QSizeF picture(drawing.picture);
   const QPointF top_left = projection_top_left();
   QFont font = painter.font();
-  font.setPixelSize(letter_size);
+  font.setPixelSize(projection_letter_size);
   painter.setFont(font);
   painter.setPen(page_pen());
   painter.fillRect(QRectF(QPointF(0.0, 0.0), size), Qt::white);

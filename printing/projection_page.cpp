@@ -17,12 +17,12 @@ namespace velquon {
 
 namespace {
 
-constexpr QPointF page_offset{20.0, 100.0};
+constexpr QPointF projection_page_offset{20.0, 100.0};
 constexpr double half_square = 0.5;
 constexpr QColor frame_gray(128, 128, 128);
 
 QPointF on_page(Place place) {
-  return QPointF(place.x, place.y) + page_offset;
+  return QPointF(place.x, place.y) + projection_page_offset;
 }
 
 void paint_frame(QPainter& page, const QRectF& frame) {
@@ -46,7 +46,7 @@ std::vector<QRectF> squares_of(std::span<const PlotPoint> points, ProjectionPlan
     const Place place = mapping.map(project(point, plane));
     const QPointF corner(place.x - half_square, place.y - half_square);
     if (can_be_on_paper(corner)) {
-      squares.emplace_back(corner + page_offset, QSizeF(1.0, 1.0));
+      squares.emplace_back(corner + projection_page_offset, QSizeF(1.0, 1.0));
     }
   }
   return squares;
@@ -102,7 +102,7 @@ QRectF projection_frame(const Projector& projector) {
 }
 
 QPointF projection_top_left() {
-  return QPointF(0.0, projection_height) + page_offset;
+  return QPointF(0.0, projection_height) + projection_page_offset;
 }
 
 void paint_projection(QPainter& page, std::span<const PlotPoint> points, const Projector& projector,

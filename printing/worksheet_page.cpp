@@ -184,8 +184,10 @@ void paint_notes(QPainter& page, const TextArea& area, double top) {
   constexpr double label_gap = 18.0;
   constexpr double line_gap = 22.0;
   print_text(page, {area.left, top - label_gap}, Worksheet::tr("Notes"));
-  for (double height = top - label_gap - line_gap; height >= area.bottom; height -= line_gap) {
+  double height = top - label_gap - line_gap;
+  while (height >= area.bottom) {
     page.drawLine(QLineF(area.left, height, area.right, height));
+    height -= line_gap;
   }
 }
 

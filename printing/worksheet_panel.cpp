@@ -27,7 +27,7 @@ namespace {
 /// The shortest text that is read back as the same number.
 QString exact_text(float value) {
   std::array<char, 32> digits{};
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+  const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
   return QString::fromLatin1(digits.data(), end - digits.data());
 }
 
@@ -40,7 +40,7 @@ Widget* named(Widget* widget, const char* name) {
 }  // namespace
 
 WorksheetPanel::WorksheetPanel(const WorksheetOrder& preset, QWidget* parent)
-    : QDialog(parent), order_(preset) {
+    : QDialog(parent), order_(preset), problem_label_(named(new QLabel, "problem_label")) {
   setWindowTitle(tr("Print Worksheets"));
   auto* const layout = new QVBoxLayout(this);
   auto* const form = new QFormLayout;
@@ -51,7 +51,6 @@ WorksheetPanel::WorksheetPanel(const WorksheetOrder& preset, QWidget* parent)
       named(new QCheckBox(tr("With an &answer key in a file of its own")), "answers_check");
   answers_check_->setChecked(true);
   layout->addWidget(answers_check_);
-  problem_label_ = named(new QLabel, "problem_label");
   problem_label_->setWordWrap(true);
   layout->addWidget(problem_label_);
   layout->addWidget(makeButtons());

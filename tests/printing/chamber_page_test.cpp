@@ -19,8 +19,7 @@ namespace velquon::test {
 namespace {
 
 constexpr double picture_height = 500.0;
-constexpr QPointF page_offset{-80.0, 120.0};
-constexpr PaperColor ink{0.0, 0.0, 0.0};
+constexpr QPointF chamber_page_offset{-80.0, 120.0};
 
 class ChamberPageTest : public DocumentsFixture {
  protected:
@@ -35,13 +34,13 @@ class ChamberPageTest : public DocumentsFixture {
 };
 
 /// Where a place of the chamber comes to lie on the paper.
-QPointF on_paper(const Camera& camera, const Place& place, const Paper& paper) {
+QPointF on_paper(const PictureCamera& camera, const Vector& place, const Paper& paper) {
   const QPointF pixel = camera.pixel(place);
-  return QPointF(pixel.x(), picture_height - pixel.y()) + page_offset + paper.origin;
+  return QPointF(pixel.x(), picture_height - pixel.y()) + chamber_page_offset + paper.origin;
 }
 
 /// The rectangle that holds a point's small cube.
-QRectF cube_on_paper(const Camera& camera, const PlotPoint& point, const Paper& paper) {
+QRectF cube_on_paper(const PictureCamera& camera, const PlotPoint& point, const Paper& paper) {
   constexpr double half = 2.25 / 2.0;
   const double far = std::numeric_limits<double>::max();
   QPointF low(far, far);
@@ -59,8 +58,8 @@ QRectF cube_on_paper(const Camera& camera, const PlotPoint& point, const Paper& 
   return {low, high};
 }
 
-void expect_cubes(const PdfPage& page, const std::vector<PlotPoint>& points, const Camera& camera,
-                  const Paper& paper) {
+void expect_cubes(const PdfPage& page, const std::vector<PlotPoint>& points,
+                  const PictureCamera& camera, const Paper& paper) {
   ASSERT_EQ(page.rectangles.size(), points.size());
   for (std::size_t i = 0; i < points.size(); ++i) {
     const QRectF expected = cube_on_paper(camera, points[i], paper);
@@ -71,35 +70,35 @@ void expect_cubes(const PdfPage& page, const std::vector<PlotPoint>& points, con
   }
 }
 
-using Edge = std::array<Place, 2>;
+using Edge = std::array<Vector, 2>;
 
 std::vector<Edge> cube_edges() {
   std::vector<Edge> edges;
   for (const double a : {-400.0, 400.0}) {
     for (const double b : {-400.0, 400.0}) {
-      edges.push_back({Place{-400.0, a, b}, Place{400.0, a, b}});
-      edges.push_back({Place{a, -400.0, b}, Place{a, 400.0, b}});
-      edges.push_back({Place{a, b, -400.0}, Place{a, b, 400.0}});
+      edges.push_back({Vector{-400.0, a, b}, Vector{400.0, a, b}});
+      edges.push_back({Vector{a, -400.0, b}, Vector{a, 400.0, b}});
+      edges.push_back({Vector{a, b, -400.0}, Vector{a, b, 400.0}});
     }
   }
   return edges;
 }
 
 std::vector<Edge> axes() {
-  return {{Place{0, 0, 0}, Place{400, 0, 0}},
-          {Place{0, 0, 0}, Place{0, 400, 0}},
-          {Place{0, 0, 0}, Place{0, 0, 400}}};
+  return {{Vector{0, 0, 0}, Vector{400, 0, 0}},
+          {Vector{0, 0, 0}, Vector{0, 400, 0}},
+          {Vector{0, 0, 0}, Vector{0, 0, 400}}};
 }
 
 std::vector<Edge> middle_plane() {
-  return {{Place{400, -400, 0}, Place{400, 400, 0}},
-          {Place{400, 400, 0}, Place{-400, 400, 0}},
-          {Place{-400, 400, 0}, Place{-400, -400, 0}},
-          {Place{-400, -400, 0}, Place{400, -400, 0}}};
+  return {{Vector{400, -400, 0}, Vector{400, 400, 0}},
+          {Vector{400, 400, 0}, Vector{-400, 400, 0}},
+          {Vector{-400, 400, 0}, Vector{-400, -400, 0}},
+          {Vector{-400, -400, 0}, Vector{400, -400, 0}}};
 }
 
 bool runs_along(const PaperLine& line, const Edge& edge, const Paper& paper) {
-  const Camera camera = resting_camera();
+  const PictureCamera camera = resting_camera();
   const QPointF from = on_paper(camera, edge[0], paper);
   const QPointF to = on_paper(camera, edge[1], paper);
   return (is_near(line.from, from) && is_near(line.to, to)) ||

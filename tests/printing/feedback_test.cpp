@@ -185,7 +185,7 @@ TEST(FeedbackTest, APageSaysThatItsPictureIsMissing) {
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
   file.write(event_file(spiral(3)));
   file.close();
-  const Ending ending = run_program(
+  const ProgramEnd ending = run_program(
       SCRIPTED_PROGRAM, {QStringLiteral("print"), QStringLiteral("chamber"), event, page},
       {QStringLiteral("LD_PRELOAD=") + QStringLiteral(FULL_FEEDBACK)});
   EXPECT_EQ(ending.status, 0) << ending.errors.toStdString();

@@ -18,8 +18,7 @@ namespace velquon::test {
 
 namespace {
 
-constexpr QPointF page_offset{20.0, 100.0};
-constexpr PaperColor ink{0.0, 0.0, 0.0};
+constexpr QPointF projection_page_offset{20.0, 100.0};
 // The chamber's outline, and the scale bar with its ends.
 constexpr std::size_t lines_of_page = 4 + 3;
 
@@ -57,8 +56,8 @@ struct View {
 
 QPointF on_paper(const View& view, double u, double v, double height, const Paper& paper) {
   const double s = 0.5 * view.zoom;
-  return QPointF(s * (u + view.across), height - s * (view.up / view.zoom - v)) + page_offset +
-         paper.origin;
+  return QPointF(s * (u + view.across), height - s * (view.up / view.zoom - v)) +
+         projection_page_offset + paper.origin;
 }
 
 void expect_squares(const PdfPage& page, const std::vector<QPointF>& middles) {
@@ -112,8 +111,8 @@ TEST_F(ProjectionPageTest, HasAGrayFrameAndASquareForEachPointOnEitherPaper) {
     expect_squares(page, middles);
     EXPECT_EQ(page.lines.size(), lines_of_page);
     EXPECT_EQ(page.other_fills, 0);
-    expect_frame(page, QPointF(35, height - 410) + page_offset + paper.origin,
-                 QPointF(435, height - 10) + page_offset + paper.origin);
+    expect_frame(page, QPointF(35, height - 410) + projection_page_offset + paper.origin,
+                 QPointF(435, height - 10) + projection_page_offset + paper.origin);
   }
 }
 
@@ -134,8 +133,8 @@ TEST_F(ProjectionPageTest, ShowsTheZoomThatIsChosen) {
   clickButton("zoom_2");
   const PdfPage page = print();
   expect_squares(page, {on_paper({.zoom = 2.0}, 50, -100, height, a4)});
-  expect_frame(page, QPointF(70, height - 610) + page_offset + a4.origin,
-               QPointF(870, height + 190) + page_offset + a4.origin);
+  expect_frame(page, QPointF(70, height - 610) + projection_page_offset + a4.origin,
+               QPointF(870, height + 190) + projection_page_offset + a4.origin);
   clickButton("zoom_3");
   expect_squares(print(), {on_paper({.zoom = 3.0}, 50, -100, height, a4)});
 }
@@ -157,8 +156,8 @@ TEST_F(ProjectionPageTest, HasTheTapeWhenItIsOnTheScreen) {
   ASSERT_TRUE(projection().tape_visible());
   const PdfPage page = print();
   ASSERT_EQ(page.lines.size(), lines_of_page + 1);
-  const QPointF start = QPointF(100, height - 150) + page_offset + a4.origin;
-  const QPointF end = QPointF(250, height - 210) + page_offset + a4.origin;
+  const QPointF start = QPointF(100, height - 150) + projection_page_offset + a4.origin;
+  const QPointF end = QPointF(250, height - 210) + projection_page_offset + a4.origin;
   EXPECT_EQ(std::ranges::count_if(page.lines,
                                   [&](const PaperLine& line) { return joins(line, start, end); }),
             1);
@@ -197,7 +196,7 @@ TEST_F(ProjectionPageTest, HasWhatACurveMeasures) {
     QTest::mouseClick(&projection(), Qt::LeftButton, {}, place);
   }
   const double height = projection().height();
-  const QPointF middle = QPointF(250, height - 250) + page_offset + a4.origin;
+  const QPointF middle = QPointF(250, height - 250) + projection_page_offset + a4.origin;
   const PdfPage page = print();
   const auto on_circle = [&](const PaperLine& line, bool measured) {
     const QPointF from = line.from - middle;

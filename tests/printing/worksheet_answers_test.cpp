@@ -39,10 +39,6 @@ class WorksheetAnswersTest : public WorksheetTest {
   mutable std::size_t key_pages_ = 0;
 };
 
-QStringList words(const char* text) {
-  return QString::fromUtf8(text).split(QLatin1Char(' '));
-}
-
 QString symbol_of(const QString& pdg) {
   static const std::map<QString, QString> symbols{
       {QStringLiteral("11"), QStringLiteral("e⁻")},  {QStringLiteral("-11"), QStringLiteral("e⁺")},
@@ -89,6 +85,25 @@ double radius_through(const EventPlaces& places, std::size_t first, std::size_t 
   return std::abs(b) * std::abs(c) * std::abs(c - b) / (2.0 * std::fabs((std::conj(b) * c).imag()));
 }
 
+/// Expects what a line of the key tells of a particle's parent.
+void expect_parent(const QStringList& answer, const QStringList& row,
+                   const std::vector<QStringList>& rows) {
+  if (row[parent] == QStringLiteral("-1")) {
+    EXPECT_EQ(answer[2], QStringLiteral("–"));
+    EXPECT_EQ(answer[8], QStringLiteral("–"));
+    return;
+  }
+  const QStringList& parent_row = *std::ranges::find_if(rows, [&](const QStringList& other) {
+    return other[event] == row[event] && other[particle] == row[parent];
+  });
+  EXPECT_EQ(answer[2], symbol_of(parent_row[pdg]));
+  if (parent_row[points].isEmpty()) {
+    // A straight parent keeps its direction to the vertex.
+    EXPECT_NEAR(answer[8].toDouble(), angle_between(row, parent_row, Space::solid), 0.051);
+    EXPECT_NEAR(answer[9].toDouble(), angle_between(row, parent_row, Space::paper), 0.051);
+  }
+}
+
 TEST_F(WorksheetAnswersTest, EachTrackHasALineWithTheNumbersOfTheRecord) {
   for (const char* const type : {"pi-", "pi+", "pi0", "mu-", "mu+", "lambda"}) {
     const QStringList options =
@@ -110,22 +125,7 @@ TEST_F(WorksheetAnswersTest, EachTrackHasALineWithTheNumbersOfTheRecord) {
       const QStringList& answer = lines[line++];
       EXPECT_EQ(answer[0], row[event]);
       EXPECT_EQ(answer[1], symbol_of(row[pdg]));
-      const bool is_primary = row[parent] == QStringLiteral("-1");
-      if (is_primary) {
-        EXPECT_EQ(answer[2], QStringLiteral("–"));
-        EXPECT_EQ(answer[8], QStringLiteral("–"));
-      } else {
-        const auto is_parent = [&](const QStringList& other) {
-          return other[event] == row[event] && other[particle] == row[parent];
-        };
-        const QStringList& parent_row = *std::ranges::find_if(rows, is_parent);
-        EXPECT_EQ(answer[2], symbol_of(parent_row[pdg]));
-        if (parent_row[points].isEmpty()) {
-          // A straight parent keeps its direction to the vertex.
-          EXPECT_NEAR(answer[8].toDouble(), angle_between(row, parent_row, Space::solid), 0.051);
-          EXPECT_NEAR(answer[9].toDouble(), angle_between(row, parent_row, Space::paper), 0.051);
-        }
-      }
+      expect_parent(answer, row, rows);
       const double p = std::hypot(number(row, px), number(row, py), number(row, pz));
       const double pt = std::hypot(number(row, px), number(row, py));
       EXPECT_NEAR(answer[3].toDouble(), p, rounding_of(p));

@@ -14,10 +14,6 @@ namespace {
 
 class WorksheetCommandTest : public WorksheetTest {};
 
-QStringList words(const char* text) {
-  return QString::fromUtf8(text).split(QLatin1Char(' '));
-}
-
 TEST_F(WorksheetCommandTest, DefaultsAreThoseOfTheStartAndOneEvent) {
   const auto made = pages(words("--type pi-"));
   EXPECT_EQ(made.size(), 1U);

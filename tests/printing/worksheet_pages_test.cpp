@@ -13,10 +13,6 @@ namespace {
 
 class WorksheetPagesTest : public WorksheetTest {};
 
-QStringList words(const char* text) {
-  return QString::fromUtf8(text).split(QLatin1Char(' '));
-}
-
 void expect_squares(const PdfPage& page, const EventPlaces& places) {
   const QRectF frame = frame_of(page);
   ASSERT_EQ(page.rectangles.size(), places.size());

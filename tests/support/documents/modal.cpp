@@ -42,7 +42,7 @@ class ModalUser : public std::enable_shared_from_this<ModalUser> {
   [[nodiscard]] bool allWasWell() const { return taken_ == turns_.size() && closed_ == 0; }
 
  private:
-  static constexpr qint64 patience = 8'000;
+  static constexpr qint64 patience = 20'000;  // milliseconds; longer than any wait within a turn
 
   [[nodiscard]] bool isNext(const QWidget& dialog) const {
     return taken_ < turns_.size() && dialog.inherits(turns_[taken_].dialog_class) &&

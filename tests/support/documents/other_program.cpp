@@ -3,16 +3,20 @@
 
 #include "tests/support/documents/other_program.h"
 
+#include <gtest/gtest.h>
+
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
 #include <stdexcept>
 
+#include "tests/support/windows/window_manager.h"
+
 namespace velquon::test {
 
 namespace {
 
-constexpr int patience = 30'000;
+constexpr int patience = 60'000;  // milliseconds
 
 QString output_of(const QString& tool, const QStringList& arguments) {
   QProcess process;
@@ -36,8 +40,8 @@ QStringList environment_with(const QStringList& variables) {
 
 }  // namespace
 
-Ending run_program(const char* program, const QStringList& arguments,
-                   const QStringList& variables) {
+ProgramEnd run_program(const char* program, const QStringList& arguments,
+                       const QStringList& variables) {
   QProcess process;
   process.setEnvironment(environment_with(variables));
   process.start(QString::fromUtf8(program), arguments);
@@ -65,6 +69,8 @@ RunningProgram::~RunningProgram() {
 void RunningProgram::kill() {
   process_.kill();
   process_.waitForFinished(patience);
+  // The next program may get the same window numbers.
+  EXPECT_TRUE(wait_for_window_manager());
 }
 
 bool RunningProgram::isRunning() {
@@ -81,7 +87,8 @@ QString RunningProgram::nextLine() {
 }
 
 QString RunningProgram::errors() {
-  return QString::fromUtf8(process_.readAllStandardError());
+  errors_ += process_.readAllStandardError();
+  return QString::fromUtf8(errors_);
 }
 
 void RunningProgram::type(const QString& title, const QString& keys) {

@@ -10,7 +10,7 @@
 namespace velquon::test {
 
 /// How another program ended.
-struct Ending {
+struct ProgramEnd {
   bool crashed = false;
   int status = -1;
   QString output;
@@ -18,8 +18,8 @@ struct Ending {
 };
 
 /// Runs a program to its end, with a few more variables of the environment ("NAME=value").
-Ending run_program(const char* program, const QStringList& arguments,
-                   const QStringList& variables = {});
+ProgramEnd run_program(const char* program, const QStringList& arguments,
+                       const QStringList& variables = {});
 
 /// A program that runs beside the test and is killed with this object at the latest.
 class RunningProgram {
@@ -32,12 +32,13 @@ class RunningProgram {
   RunningProgram(RunningProgram&&) = delete;
   RunningProgram& operator=(RunningProgram&&) = delete;
 
+  /// Ends it at once, and waits until the window manager has taken note.
   void kill();
   [[nodiscard]] bool isRunning();
   /// Waits for output.
   /// \return the next line of it
   QString nextLine();
-  /// What it has said on standard error so far and not been asked for yet.
+  /// What it has said on standard error so far.
   [[nodiscard]] QString errors();
   /// Gives the keys to its window with a title and presses some in it, as xdotool names them.
   void type(const QString& title, const QString& keys);
@@ -51,6 +52,7 @@ class RunningProgram {
   [[nodiscard]] QStringList windows();
 
   QProcess process_;
+  QByteArray errors_;
 };
 
 }  // namespace velquon::test

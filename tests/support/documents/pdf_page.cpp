@@ -9,6 +9,7 @@
 #include <QtEndian>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 namespace velquon::test {
 
@@ -173,7 +174,7 @@ std::set<std::string> line_styles_of(const PdfPage& page) {
   std::string last;
   for (std::string word; words >> word; last = word) {
     if (word == "J" || word == "j") {
-      styles.insert(last + ' ' + word);
+      styles.insert(std::move(last).append(1, ' ').append(word));
     }
   }
   return styles;

@@ -22,12 +22,12 @@ using PaperColor = std::array<double, 3>;
 struct PaperLine {
   QPointF from;
   QPointF to;
-  PaperColor color;
+  PaperColor color{};
 };
 
 struct PaperFill {
   QRectF area;
-  PaperColor color;
+  PaperColor color{};
 };
 
 struct PaperWord {

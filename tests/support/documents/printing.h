@@ -18,13 +18,16 @@ namespace velquon::test {
 
 /// A kind of paper and where on it the page of 500 by 720 points has its origin, in points.
 struct Paper {
-  QPageSize::PageSizeId id;
+  QPageSize::PageSizeId id = QPageSize::A4;
   QSizeF size;
   QPointF origin;
 };
 
 inline const Paper a4{QPageSize::A4, {595.0, 842.0}, {47.5, 61.0}};
 inline const Paper letter{QPageSize::Letter, {612.0, 792.0}, {56.0, 36.0}};
+
+/// Colour of what is printed in black.
+inline constexpr PaperColor ink{0.0, 0.0, 0.0};
 
 /// Prints a view into a PDF file.
 /// \return what the page shows

@@ -10,6 +10,10 @@
 
 namespace velquon::test {
 
+QStringList words(const char* text) {
+  return QString::fromUtf8(text).split(QLatin1Char(' '));
+}
+
 QuietEnding run_without_display(const char* program, const QStringList& arguments) {
   QProcess process;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

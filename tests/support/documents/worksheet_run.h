@@ -18,6 +18,9 @@
 
 namespace velquon::test {
 
+/// The arguments of a command line without quotes.
+QStringList words(const char* text);
+
 /// How a program without a display ended.
 struct QuietEnding {
   int status = -1;
