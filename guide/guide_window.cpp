@@ -44,8 +44,10 @@ GuideWindow::GuideWindow(QWidget* parent)
   sides->setSizes({contents_width, page_width});
   connect(contents_, &GuideContents::chosen, this, &GuideWindow::goTo);
   connect(browser_, &QTextBrowser::sourceChanged, this, [this](const QUrl& url) {
-    contents_->showPage(page_at(pages_, url));
-    markHits();
+    // The browser's own source is still the page before.
+    const std::size_t page = page_at(pages_, url);
+    contents_->showPage(page);
+    markHits(page);
   });
   browser_->setSource(pages_.front().url);
   browser_->setFocus();
@@ -150,7 +152,7 @@ void GuideWindow::showHit() {
     QTextCursor cursor = browser_->textCursor();
     cursor.setPosition(cursor.selectionStart());
     browser_->setTextCursor(cursor);
-    markHits();
+    browser_->setExtraSelections({});
     return;
   }
   found_->setText(tr("  %1 of %2  ").arg(search_.present() + 1).arg(search_.hits().size()));
@@ -164,11 +166,10 @@ void GuideWindow::showHit() {
                      QTextCursor::KeepAnchor);
   browser_->setTextCursor(cursor);
   browser_->ensureCursorVisible();
-  markHits();
+  markHits(hit.page);
 }
 
-void GuideWindow::markHits() {
-  const std::size_t page = page_at(pages_, browser_->source());
+void GuideWindow::markHits(std::size_t page) {
   QList<QTextEdit::ExtraSelection> marks;
   for (const GuideHit& hit : search_.hits()) {
     if (hit.page != page) {

@@ -36,7 +36,8 @@ class GuideWindow : public QWidget {
   void goTo(std::size_t page, int block);
   void search();
   void showHit();
-  void markHits();
+  /// \param page the one that is shown
+  void markHits(std::size_t page);
   void escape();
 
   std::vector<GuidePage> pages_;

@@ -62,6 +62,16 @@ class GuideWindowTest : public testing::Test {
     return browser().cursorRect(QTextCursor(block)).top();
   }
 
+  /// Every place of a word on the page, of which there are some, is marked, and nothing else is.
+  void expectMarks(const QString& word) {
+    const auto marks = browser().extraSelections();
+    EXPECT_GT(marks.size(), 2);
+    EXPECT_EQ(marks.size(), browser().toPlainText().count(word, Qt::CaseInsensitive));
+    for (const QTextEdit::ExtraSelection& mark : marks) {
+      EXPECT_EQ(mark.cursor.selectedText().toLower(), word);
+    }
+  }
+
   GuideWindow window_;
 };
 
@@ -108,7 +118,10 @@ TEST_F(GuideWindowTest, ALinkToAPlaceInAPageIsOneToThePage) {
   browser().setSource(QUrl(QStringLiteral("qrc:/docs/laboratory/kink.md#the-task")));
   EXPECT_EQ(page(), QStringLiteral("kink.md"));
   EXPECT_EQ(contents().currentItem(), contents().topLevelItem(4));
-  EXPECT_GT(browser().extraSelections().size(), 2);
+  expectMarks(QStringLiteral("pion"));
+  press(Qt::Key_Left, Qt::AltModifier);
+  EXPECT_EQ(page(), QStringLiteral("guide.md"));
+  expectMarks(QStringLiteral("pion"));
 }
 
 TEST_F(GuideWindowTest, WordsAreFoundOnAllPages) {
@@ -133,11 +146,7 @@ TEST_F(GuideWindowTest, WordsAreFoundOnAllPages) {
 
 TEST_F(GuideWindowTest, EveryPlaceOnThePageIsMarked) {
   find(QStringLiteral("tape"));
-  const auto marks = browser().extraSelections();
-  ASSERT_GT(marks.size(), 2);
-  for (const QTextEdit::ExtraSelection& mark : marks) {
-    EXPECT_EQ(mark.cursor.selectedText().toLower(), QStringLiteral("tape"));
-  }
+  expectMarks(QStringLiteral("tape"));
   words().clear();
   EXPECT_TRUE(browser().extraSelections().isEmpty());
 }
