@@ -78,6 +78,103 @@ ToldApart tell_apart(const QStringList& arguments) {
   return result;
 }
 
+/// The program's own options but for those of worksheets.
+struct OwnOptions {
+  QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
+                          QStringLiteral("Print this help.")};
+  QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")},
+                             QStringLiteral("Print the version.")};
+  QCommandLineOption seed{QStringLiteral("seed"), QStringLiteral("Seed of the random generator."),
+                          QStringLiteral("N")};
+  QCommandLineOption language{
+      QStringLiteral("language"),
+      QStringLiteral("Language of the windows and worksheets: %1 (default: the desktop's).")
+          .arg(language_codes().join(QStringLiteral(", "))),
+      QStringLiteral("CODE")};
+  QCommandLineOption pictures{
+      QStringLiteral("pictures"),
+      QStringLiteral("Leave a picture of an event of each kind in a folder, and end."),
+      QStringLiteral("DIR")};
+};
+
+void offer(QCommandLineParser& parser, const OwnOptions& own) {
+  parser.setApplicationDescription(
+      QStringLiteral("Shows particle decays in a detector chamber in a magnetic field."));
+  parser.addOptions({own.help, own.version, own.seed, own.language, own.pictures});
+  parser.addOptions(worksheet_options());
+  parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Event file to open."),
+                               QStringLiteral("[FILE]"));
+}
+
+QString help_text(const QCommandLineParser& parser) {
+  // Without an application object the parser does not know the program's name.
+  return parser.helpText().replace(QStringLiteral("<executable_name>"), QStringLiteral("velquon")) +
+         QStringLiteral(
+             "\nQt's own options, such as -style, -stylesheet, -display, "
+             "-geometry and -session, are\ntaken as well.\n");
+}
+
+// Each of these reads a part of the command line, and returns what is wrong with it or nothing.
+
+QString read_seed(const QCommandLineParser& parser, const OwnOptions& own, CommandLine& options) {
+  if (!parser.isSet(own.seed)) {
+    return {};
+  }
+  bool is_number = false;
+  options.seed = parser.value(own.seed).toUInt(&is_number);
+  return is_number ? QString()
+                   : QStringLiteral("--seed: '%1' is not a whole number from 0 to 4294967295")
+                         .arg(parser.value(own.seed));
+}
+
+QString read_language(const QCommandLineParser& parser, const OwnOptions& own,
+                      CommandLine& options) {
+  if (!parser.isSet(own.language)) {
+    return {};
+  }
+  options.language = parser.value(own.language);
+  return language_codes().contains(options.language)
+             ? QString()
+             : QStringLiteral("--language: '%1' is not one of %2")
+                   .arg(options.language, language_codes().join(QStringLiteral(", ")));
+}
+
+QString read_pictures(const QCommandLineParser& parser, const OwnOptions& own,
+                      CommandLine& options) {
+  if (!parser.isSet(own.pictures)) {
+    return {};
+  }
+  options.pictures = absolute_path(parser.value(own.pictures));
+  return options.pictures.isEmpty() ? QStringLiteral("--pictures: no folder is named") : QString();
+}
+
+QString read_worksheets(const QCommandLineParser& parser, const OwnOptions& own,
+                        CommandLine& options) {
+  const auto [worksheets, problem] = read_worksheet_options(parser, options.seed);
+  options.worksheets = worksheets;
+  if (!problem.isEmpty()) {
+    return problem;
+  }
+  return worksheets && parser.isSet(own.pictures)
+             ? QStringLiteral("--pictures goes without --worksheets")
+             : QString();
+}
+
+QString read_file(const QCommandLineParser& parser, const OwnOptions& own, CommandLine& options) {
+  const QStringList files = parser.positionalArguments();
+  if (files.isEmpty()) {
+    return {};
+  }
+  const bool takes_no_file = options.worksheets || parser.isSet(own.pictures);
+  if (files.size() > 1 || takes_no_file) {
+    return QStringLiteral("'%1' is one argument too many").arg(files.back());
+  }
+  options.file = absolute_path(files.front());
+  return {};
+}
+
+constexpr std::array readers{read_seed, read_language, read_pictures, read_worksheets, read_file};
+
 }  // namespace
 
 QString as_one_line(const QString& text) {
@@ -85,83 +182,26 @@ QString as_one_line(const QString& text) {
 }
 
 ParsedCommandLine parse_command_line(const QStringList& arguments) {
+  const OwnOptions own;
   QCommandLineParser parser;
-  parser.setApplicationDescription(
-      QStringLiteral("Shows particle decays in a detector chamber in a magnetic field."));
-  const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                QStringLiteral("Print this help."));
-  const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
-                                   QStringLiteral("Print the version."));
-  const QCommandLineOption seed(
-      QStringLiteral("seed"), QStringLiteral("Seed of the random generator."), QStringLiteral("N"));
-  const QCommandLineOption pictures(
-      QStringLiteral("pictures"),
-      QStringLiteral("Leave a picture of an event of each kind in a folder, and end."),
-      QStringLiteral("DIR"));
-  const QCommandLineOption language(
-      QStringLiteral("language"),
-      QStringLiteral("Language of the windows and worksheets: %1 (default: the desktop's).")
-          .arg(language_codes().join(QStringLiteral(", "))),
-      QStringLiteral("CODE"));
-  parser.addOptions({help, version, seed, language, pictures});
-  parser.addOptions(worksheet_options());
-  parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Event file to open."),
-                               QStringLiteral("[FILE]"));
+  offer(parser, own);
   const auto [of_qt, others, display] = tell_apart(arguments);
   if (!parser.parse(others)) {
     return refusal(parser.errorText());
   }
-  if (parser.isSet(help)) {
-    // Without an application object the parser does not know the program's name.
-    return {
-        std::nullopt,
-        parser.helpText().replace(QStringLiteral("<executable_name>"), QStringLiteral("velquon")) +
-            QStringLiteral("\nQt's own options, such as -style, -stylesheet, -display, "
-                           "-geometry and -session, are\ntaken as well.\n"),
-        0};
+  if (parser.isSet(own.help)) {
+    return {std::nullopt, help_text(parser), 0};
   }
-  if (parser.isSet(version)) {
+  if (parser.isSet(own.version)) {
     return {std::nullopt, QStringLiteral("velquon " VELQUON_VERSION "\n"), 0};
   }
   CommandLine options;
   options.display = display;
   options.qt_arguments = of_qt;
-  if (parser.isSet(seed)) {
-    bool is_number = false;
-    options.seed = parser.value(seed).toUInt(&is_number);
-    if (!is_number) {
-      return refusal(QStringLiteral("--seed: '%1' is not a whole number from 0 to 4294967295")
-                         .arg(parser.value(seed)));
+  for (const auto& read : readers) {
+    if (const QString problem = read(parser, own, options); !problem.isEmpty()) {
+      return refusal(problem);
     }
-  }
-  if (parser.isSet(language)) {
-    options.language = parser.value(language);
-    if (!language_codes().contains(options.language)) {
-      return refusal(QStringLiteral("--language: '%1' is not one of %2")
-                         .arg(options.language, language_codes().join(QStringLiteral(", "))));
-    }
-  }
-  if (parser.isSet(pictures)) {
-    options.pictures = absolute_path(parser.value(pictures));
-    if (options.pictures.isEmpty()) {
-      return refusal(QStringLiteral("--pictures: no folder is named"));
-    }
-  }
-  const auto [worksheets, problem] = read_worksheet_options(parser, options.seed);
-  if (!problem.isEmpty()) {
-    return refusal(problem);
-  }
-  if (worksheets && parser.isSet(pictures)) {
-    return refusal(QStringLiteral("--pictures goes without --worksheets"));
-  }
-  options.worksheets = worksheets;
-  const QStringList files = parser.positionalArguments();
-  const bool takes_no_file = worksheets || parser.isSet(pictures);
-  if (files.size() > 1 || (!files.isEmpty() && takes_no_file)) {
-    return refusal(QStringLiteral("'%1' is one argument too many").arg(files.back()));
-  }
-  if (!files.isEmpty()) {
-    options.file = absolute_path(files.front());
   }
   return {options, {}, 0};
 }

@@ -28,7 +28,7 @@ QStringList words(std::initializer_list<const char*> list) {
   return result;
 }
 
-Ending start(const QStringList& arguments, const QStringList& variables = {}) {
+ProgramEnd start(const QStringList& arguments, const QStringList& variables = {}) {
   return run_program(VELQUON_PROGRAM, arguments, variables);
 }
 
@@ -84,7 +84,7 @@ TEST(CommandLine, TheLanguageIsThatOfTheOptionOrOfTheDesktop) {
 class HostileArguments : public ::testing::TestWithParam<QStringList> {};
 
 TEST_P(HostileArguments, EndTheProgramWithStatus2AndOneLine) {
-  const Ending ending = start(GetParam());
+  const ProgramEnd ending = start(GetParam());
   EXPECT_FALSE(ending.crashed);
   EXPECT_EQ(ending.status, 2);
   EXPECT_EQ(ending.output, QString());
@@ -105,7 +105,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(CommandLine, HelpAndVersionGoToStandardOutput) {
   for (const char* const word : {"--help", "-h", "--version", "-v"}) {
-    const Ending ending = start(words({word}));
+    const ProgramEnd ending = start(words({word}));
     EXPECT_EQ(ending.status, 0);
     EXPECT_TRUE(ending.output.contains(QStringLiteral("velquon"))) << word;
     EXPECT_EQ(ending.errors, QString());
@@ -155,11 +155,12 @@ TEST(CommandLine, QtTakesItsOptions) {
                           QStringLiteral("-qwindowtitle"), QStringLiteral("x"), file});
   EXPECT_TRUE(wait_until(
       [&] { return program.windowTitles().contains(QStringLiteral("Projector: a.cwd")); }));
-  EXPECT_TRUE(program.errors().contains(QStringLiteral("no such"))) << "Qt misses the style";
+  EXPECT_TRUE(wait_until([&] { return program.errors().contains(QStringLiteral("no such")); }))
+      << "Qt misses the style";
 }
 
 TEST(CommandLine, APlatformThatTheViewsCannotBeDrawnOnIsNamed) {
-  const Ending ending = start(words({"-platform", "offscreen"}));
+  const ProgramEnd ending = start(words({"-platform", "offscreen"}));
   EXPECT_FALSE(ending.crashed);
   EXPECT_EQ(ending.status, 1);
   EXPECT_TRUE(ending.errors.endsWith(
@@ -179,7 +180,7 @@ TEST(CommandLine, HelpAndVersionNeedNoDisplay) {
 }
 
 TEST(CommandLine, WithoutADisplayTheProgramSaysSo) {
-  const Ending ending = start({}, words({"DISPLAY="}));
+  const ProgramEnd ending = start({}, words({"DISPLAY="}));
   EXPECT_EQ(ending.status, 1);
   EXPECT_EQ(ending.errors, QStringLiteral("velquon: there is no X display to show windows on "
                                           "(DISPLAY is not set)\n"));
@@ -195,7 +196,7 @@ TEST(CommandLine, ADisplayOfAnyNameIsNamedOnOneLine) {
 }
 
 TEST(CommandLine, ADisplayThatDoesNotAnswerIsNamed) {
-  const Ending ending = start({}, words({"DISPLAY=:9999"}));
+  const ProgramEnd ending = start({}, words({"DISPLAY=:9999"}));
   EXPECT_EQ(ending.status, 1);
   EXPECT_EQ(ending.errors, QStringLiteral("velquon: the X display ':9999' does not answer\n"));
 }
@@ -206,7 +207,7 @@ TEST(CommandLine, ADisplayWithoutOpenGLIsNamed) {
                words({"-displayfd", "1", "-extension", "GLX", "-nolisten", "tcp"}));
   ASSERT_TRUE(server.waitForStarted() && server.waitForReadyRead());
   const QString name = QLatin1Char(':') + QString::fromUtf8(server.readLine()).trimmed();
-  const Ending ending = start({}, {QStringLiteral("DISPLAY=") + name});
+  const ProgramEnd ending = start({}, {QStringLiteral("DISPLAY=") + name});
   server.terminate();
   server.waitForFinished();
   EXPECT_EQ(ending.status, 1);
@@ -246,14 +247,14 @@ TEST(CommandLine, OnANarrowScreenBothWindowsAreWithinIt) {
 }
 
 /// What the script that starts the program does without a display.
-Ending start_without_display(const QStringList& arguments) {
+ProgramEnd start_without_display(const QStringList& arguments) {
   return run_program(START_SCRIPT, QStringList{QStringLiteral(VELQUON_PROGRAM)} + arguments,
                      {QStringLiteral("DISPLAY=")});
 }
 
 TEST(StartScript, HelpAndVersionArePrintedWithoutADisplay) {
   for (const char* const word : {"--help", "--version"}) {
-    const Ending ending = start_without_display(words({word}));
+    const ProgramEnd ending = start_without_display(words({word}));
     EXPECT_EQ(ending.status, 0) << word;
     EXPECT_EQ(ending.output, start(words({word})).output);
   }
@@ -261,7 +262,7 @@ TEST(StartScript, HelpAndVersionArePrintedWithoutADisplay) {
 
 TEST(StartScript, PicturesAreLeftWithoutADisplay) {
   const QTemporaryDir folder;
-  const Ending ending = start_without_display(
+  const ProgramEnd ending = start_without_display(
       {QStringLiteral("--pictures"), folder.path(), QStringLiteral("--seed"), QStringLiteral("1")});
   EXPECT_EQ(ending.status, 0) << ending.errors.toStdString();
   EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 12);
@@ -270,7 +271,7 @@ TEST(StartScript, PicturesAreLeftWithoutADisplay) {
 TEST(StartScript, ArgumentsThatNeedADisplayAreNotDroppedInSilence) {
   for (const QStringList& arguments :
        {words({"event.cwd"}), words({"--seed", "7"}), words({"--", "--help"})}) {
-    const Ending ending = start_without_display(arguments);
+    const ProgramEnd ending = start_without_display(arguments);
     EXPECT_EQ(ending.status, 1);
     EXPECT_EQ(ending.output, QString());
     EXPECT_TRUE(ending.errors.startsWith(
@@ -299,7 +300,7 @@ class PicturesTest : public ::testing::Test {
     EXPECT_GT(bytes.size(), 12 * 500);
     return bytes;
   }
-  [[nodiscard]] Ending leavePictures() const {
+  [[nodiscard]] ProgramEnd leavePictures() const {
     return start(
         {QStringLiteral("--pictures"), folder(), QStringLiteral("--seed"), QStringLiteral("1")});
   }
@@ -309,7 +310,7 @@ class PicturesTest : public ::testing::Test {
 };
 
 TEST_F(PicturesTest, ShowEachViewOfAnEventOfEachKind) {
-  const Ending ending = leavePictures();
+  const ProgramEnd ending = leavePictures();
   EXPECT_EQ(ending.status, 0) << ending.errors.toStdString();
   ASSERT_EQ(files(), words({"lambda-chamber.png", "lambda-projector.png",
                             "negative-muon-chamber.png", "negative-muon-projector.png",
@@ -332,10 +333,11 @@ TEST_F(PicturesTest, ShowEachViewOfAnEventOfEachKind) {
 TEST_F(PicturesTest, AreWholeOnAScreenTooSmallForTheWindows) {
   ASSERT_EQ(leavePictures().status, 0);
   const QByteArray on_a_large_screen = allBytes();
-  const Ending ending = run_program(WITH_DISPLAY,
-                                    {QStringLiteral(VELQUON_PROGRAM), QStringLiteral("--pictures"),
-                                     folder(), QStringLiteral("--seed"), QStringLiteral("1")},
-                                    {QStringLiteral("VELQUON_SCREEN=640x480x24")});
+  const ProgramEnd ending =
+      run_program(WITH_DISPLAY,
+                  {QStringLiteral(VELQUON_PROGRAM), QStringLiteral("--pictures"), folder(),
+                   QStringLiteral("--seed"), QStringLiteral("1")},
+                  {QStringLiteral("VELQUON_SCREEN=640x480x24")});
   EXPECT_EQ(ending.status, 0) << ending.errors.toStdString();
   EXPECT_EQ(allBytes(), on_a_large_screen);
 }
@@ -360,7 +362,7 @@ TEST_F(PicturesTest, AnOutputThatIsClosedEndsTheProgramWithOneLine) {
     const QString script =
         QStringLiteral("\"$0\" --pictures \"$1\" --seed 1 %1; exit \"${PIPESTATUS[0]}\"")
             .arg(QLatin1String(output));
-    const Ending ending = run_program(
+    const ProgramEnd ending = run_program(
         "bash", {QStringLiteral("-c"), script, QStringLiteral(VELQUON_PROGRAM), folder()});
     EXPECT_EQ(ending.status, 1) << output;
     const QString last = ending.errors.section(QLatin1Char('\n'), -2, -2);
@@ -372,7 +374,7 @@ TEST_F(PicturesTest, AnOutputThatIsClosedEndsTheProgramWithOneLine) {
 
 TEST_F(PicturesTest, ThatDoNotFitOnTheDiskAreNamedAndNotLeftByHalves) {
   const velquon::test::FileSizeLimit limit(3000);
-  const Ending ending = leavePictures();
+  const ProgramEnd ending = leavePictures();
   EXPECT_EQ(ending.status, 1);
   EXPECT_TRUE(ending.errors.contains(QStringLiteral("velquon: cannot write ")))
       << ending.errors.toStdString();
