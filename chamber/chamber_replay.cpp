@@ -29,7 +29,7 @@ bool is_coming_up(const QWidget& window) {
 }  // namespace
 
 void ChamberView::replay() {
-  stopRotating();
+  stopAndDisplay();
   // Neither while a replay is due nor for what was pressed while one ran.
   if (input_watch_ != nullptr || late_input_.is_handled()) {
     return;
@@ -52,7 +52,7 @@ void ChamberView::replayOnceSeen(int looks_left) {
 
 void ChamberView::really_replay() {
   const std::int16_t all_points = point_number_;
-  stopRotating();
+  stopAndDisplay();
   for (std::int16_t shown = 1; shown <= all_points; ++shown) {
     if (input_watch_ != nullptr && input_watch_->endIsWanted()) {
       point_number_ = all_points;

@@ -48,6 +48,15 @@ void ChamberView::rotate() {
 }
 
 void ChamberView::stopRotating() {
+  if (is_rotating()) {
+    stopAndDisplay();
+  } else {
+    // The picture is the same, and most of what stops the turntable draws another next.
+    displaySoon();
+  }
+}
+
+void ChamberView::stopAndDisplay() {
   model_.turntable().stop();
   display();
 }
@@ -58,9 +67,8 @@ void ChamberView::setRotationAxis(int axis) {
 }
 
 void ChamberView::resetOrientation() {
-  stopRotating();
   camera_ = Camera();
-  display();
+  stopAndDisplay();
 }
 
 }  // namespace velquon

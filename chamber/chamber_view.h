@@ -86,6 +86,7 @@ class ChamberView : public GLView, public Printable {
   void setRotationRate(RotationRate rate);
   /// Brings the window to the front and starts the turntable, or gives a running one its direction.
   void doRotation(RotationDirection direction);
+  /// Stops the turntable and draws the view: at once if it was turning, otherwise with the next frame.
   void stopRotating();
   [[nodiscard]] bool is_rotating() const { return model_.turntable().is_rotating(); }
   /// \param axis 1 for x, 2 for y, 3 for z
@@ -138,6 +139,7 @@ class ChamberView : public GLView, public Printable {
   void changePreferences(Change change);
   template <typename Change>
   void changeEvent(Change change);
+  void stopAndDisplay();
   void replayOnceSeen(int looks_left);
   void really_replay();
   void pauseForMicrosecs(std::int32_t microseconds) const;

@@ -116,6 +116,8 @@ class InputWatch::Record {
   [[nodiscard]] std::optional<std::uint32_t> last_press() const { return last_press_; }
 
  private:
+  // A callback of the X library's.
+  // NOLINTNEXTLINE(readability-non-const-parameter)
   static void take(XPointer record, XRecordInterceptData* data) {
     xEvent event{};
     constexpr std::size_t unit = 4;  // bytes of data_len

@@ -25,12 +25,12 @@ constexpr double cube_reach = 2.0;
 
 class ChamberPictureTest : public ApplicationFixture {
  protected:
-  const Camera camera_ = resting_camera();
+  const PictureCamera camera_ = resting_camera();
 
   /// A place on the line from the middle of the chamber to the eye.
-  [[nodiscard]] Place onTheWayToTheEye(double part) const {
+  [[nodiscard]] Vector onTheWayToTheEye(double part) const {
     const Matrix& view = camera_.modelView();
-    Place place{};
+    Vector place{};
     for (std::size_t axis = 0; axis < place.size(); ++axis) {
       for (std::size_t row = 0; row < place.size(); ++row) {
         place.at(axis) -= part * view[row][axis] * view[row][3];
@@ -101,7 +101,7 @@ TEST_F(ChamberPictureTest, TheMiddlePlaneIsOutlinedWithAxesAndWithout) {
 TEST_F(ChamberPictureTest, AxesAreDrawnFromTheCentreWhenWanted) {
   const QPointF centre = camera_.pixel({0.0, 0.0, 0.0});
   struct Case {
-    Place end;
+    Vector end;
     QRgb color;
   };
   constexpr std::array cases{Case{{half, 0.0, 0.0}, white}, Case{{0.0, half, 0.0}, white},
@@ -213,7 +213,7 @@ TEST_F(ChamberPictureTest, ANewEventIsOnTheScreenWhenItHasBeenMade) {
 TEST_F(ChamberPictureTest, ACubeHasASideOfFourAndAHalfDrawingUnits) {
   hideAxesAndValues();
   // Between the eye and the chamber, where a cube is seen large.
-  const Place place = onTheWayToTheEye(0.96);
+  const Vector place = onTheWayToTheEye(0.96);
   showEvent(std::array{point_at(place[0], place[1], place[2], 3)});
   constexpr double half_cube = 2.25;
   QRectF expected;

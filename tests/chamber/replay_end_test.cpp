@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QToolBar>
+#include <memory>
 
 #include "tests/support/windows/application_fixture.h"
 #include "tests/support/windows/pictures.h"
@@ -19,6 +20,7 @@ namespace velquon::test {
 namespace {
 
 constexpr int many_points = 5000;  // a replay of 50 s at least
+constexpr int some_points = 120;   // 1.2 s at least, more than xdotool needs to begin
 
 class ReplayEndTest : public ApplicationFixture {
  protected:
@@ -29,29 +31,33 @@ class ReplayEndTest : public ApplicationFixture {
       const int shown = chamber().point_number();
       replays_ += shown == 1 && last_shown_ != 1 ? 1 : 0;
       last_shown_ = shown;
+      if (replays_ > 0 && !commands_.isEmpty()) {
+        input_ = std::make_unique<RealInput>(commands_);
+        commands_.clear();
+      }
     });
   }
 
   void showPoints(int count) {
-    std::vector<PlotPoint> points;
-    points.reserve(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-      points.push_back(point_at(0.0, i % 701 - 350, i % 613 - 306, 3));
-    }
-    showEvent(points);
+    showEvent(spread_points(count));
     count_ = count;
   }
 
-  /// Replays the event while keys and buttons are worked by commands of xdotool.
+  /// Replays the event; from its first points on keys and buttons are worked by commands of xdotool.
   /// \return points that were shown when the replay ended
-  int replayDuring(const QString& commands) {
+  int replayWith(const QString& commands) {
     const int passes = chamber().passes();
-    const RealInput input(commands);
+    commands_ = commands;
     choose("replay_item");
     EXPECT_TRUE(wait_until([&] { return replays_ > 0; }));
     // The loop comes back when the replay is over.
-    const int frames = chamber().passes() - passes;
-    EXPECT_TRUE(wait_until([&] { return input.isOver(); }));
+    return chamber().passes() - passes;
+  }
+
+  /// The same, until all is handled.
+  int replayDuring(const QString& commands) {
+    const int frames = replayWith(commands);
+    EXPECT_TRUE(wait_until([&] { return input_->isOver(); }));
     run_loop_for(100);
     return frames;
   }
@@ -71,20 +77,22 @@ class ReplayEndTest : public ApplicationFixture {
   int count_ = 0;
   int replays_ = 0;
   int last_shown_ = 0;
+  QString commands_;
+  std::unique_ptr<RealInput> input_;
 };
 
 }  // namespace
 
 TEST_F(ReplayEndTest, EscapeEndsItAndLeavesTheWholeEvent) {
   showPoints(many_points);
-  EXPECT_LT(replayDuring(QStringLiteral("sleep 1 key Escape")), many_points / 2);
+  EXPECT_LT(replayDuring(QStringLiteral("sleep 0.2 key Escape")), many_points / 2);
   EXPECT_EQ(replays(), 1);
   expectTheWholeEvent();
 }
 
 TEST_F(ReplayEndTest, AClickInTheViewEndsIt) {
   showPoints(many_points);
-  EXPECT_LT(replayDuring(QStringLiteral("sleep 1 ") + click_at(chamber(), {300, 200})),
+  EXPECT_LT(replayDuring(QStringLiteral("sleep 0.2 ") + click_at(chamber(), {300, 200})),
             many_points / 2);
   EXPECT_EQ(replays(), 1);
   expectTheWholeEvent();
@@ -95,7 +103,7 @@ TEST_F(ReplayEndTest, AClickOnReplayEndsItAndStartsNoOther) {
   const QWidget& button =
       *control<QToolBar>("chamber_tool_bar").widgetForAction(&item("replay_item"));
   const QSignalSpy chosen(&item("replay_item"), &QAction::triggered);
-  EXPECT_LT(replayDuring(QStringLiteral("sleep 1 ") + click_at(button, button.rect().center())),
+  EXPECT_LT(replayDuring(QStringLiteral("sleep 0.2 ") + click_at(button, button.rect().center())),
             many_points / 2);
   EXPECT_EQ(chosen.size(), 2);
   run_loop_for(200);
@@ -104,8 +112,8 @@ TEST_F(ReplayEndTest, AClickOnReplayEndsItAndStartsNoOther) {
 }
 
 TEST_F(ReplayEndTest, TheWheelDoesNotEndIt) {
-  showPoints(100);
-  EXPECT_GE(replayDuring(QStringLiteral("sleep 0.5 click 4 click 5")), 100);
+  showPoints(some_points);
+  EXPECT_GE(replayDuring(QStringLiteral("click 4 click 5")), some_points);
   expectTheWholeEvent();
 }
 
@@ -114,25 +122,24 @@ TEST_F(ReplayEndTest, TheKeysOfQuitEndItAndAreThenHandled) {
   // Without its own end of the program, which would be that of the test.
   item("quit_item").disconnect();
   const QSignalSpy chosen(&item("quit_item"), &QAction::triggered);
-  EXPECT_LT(replayDuring(QStringLiteral("sleep 1 key ctrl+q")), many_points / 2);
+  EXPECT_LT(replayDuring(QStringLiteral("sleep 0.2 key ctrl+q")), many_points / 2);
   EXPECT_EQ(chosen.size(), 1);
 }
 
 TEST_F(ReplayEndTest, ClosingTheWindowEndsItAndIsThenHandled) {
   showPoints(many_points);
-  EXPECT_LT(replayDuring(QStringLiteral("sleep 1 key alt+F4")), many_points / 2);
+  EXPECT_LT(replayDuring(QStringLiteral("sleep 0.2 key alt+F4")), many_points / 2);
   EXPECT_TRUE(wait_until([&] { return !chamberWindow().isVisible(); }));
   EXPECT_EQ(chamber().point_number(), many_points);
 }
 
 TEST_F(ReplayEndTest, OtherKeysDoNotEndItAndAreHandledAfterIt) {
-  showPoints(150);
+  showPoints(some_points);
   const QSignalSpy made(&item("new_event_item"), &QAction::triggered);
-  const RealInput input(QStringLiteral("sleep 0.5 key q key ctrl+n"));
   int shown_when_made = 0;
   QObject::connect(&item("new_event_item"), &QAction::triggered, &chamber(),
                    [&] { shown_when_made = replays(); });
-  choose("replay_item");
+  EXPECT_GE(replayWith(QStringLiteral("key q key ctrl+n")), some_points);
   ASSERT_TRUE(wait_until([&] { return !made.isEmpty(); }));
   EXPECT_EQ(made.size(), 1);
   EXPECT_EQ(shown_when_made, 1);
@@ -145,20 +152,21 @@ TEST_F(ReplayEndTest, AReplayAskedForWhileOneIsDueIsDropped) {
   for (int i = 0; i < 5; ++i) {
     choose("replay_item");
   }
-  run_loop_for(1500);
+  run_loop_for(700);
   EXPECT_EQ(replays(), 1);
   choose("replay_item");
   EXPECT_TRUE(wait_until([&] { return replays() == 2; }));
 }
 
 TEST_F(ReplayEndTest, KeysOfReplayPressedWhileItRunsStartNoOther) {
-  showPoints(150);
+  showPoints(some_points);
   const QSignalSpy chosen(&item("replay_item"), &QAction::triggered);
-  replayDuring(QStringLiteral("sleep 0.5 key ctrl+r key ctrl+r key ctrl+r"));
+  replayDuring(QStringLiteral("key ctrl+r key ctrl+r key ctrl+r"));
   run_loop_for(200);
   EXPECT_GE(chosen.size(), 2);
   EXPECT_EQ(replays(), 1);
   // A later press does.
+  showPoints(3);
   const RealInput again(QStringLiteral("key ctrl+r"));
   EXPECT_TRUE(wait_until([&] { return replays() == 2; }));
 }
@@ -166,7 +174,7 @@ TEST_F(ReplayEndTest, KeysOfReplayPressedWhileItRunsStartNoOther) {
 TEST_F(ReplayEndTest, ReplayHeldDownReplaysOnce) {
   showPoints(many_points);
   const RealInput input(
-      QStringLiteral("keydown ctrl keydown r sleep 2 keyup r keyup ctrl sleep 0.2 key Escape"));
+      QStringLiteral("keydown ctrl keydown r sleep 1 keyup r keyup ctrl sleep 0.2 key Escape"));
   ASSERT_TRUE(wait_until([&] { return replays() > 0; }));
   ASSERT_TRUE(wait_until([&] { return input.isOver(); }));
   run_loop_for(300);
@@ -176,10 +184,9 @@ TEST_F(ReplayEndTest, ReplayHeldDownReplaysOnce) {
 
 TEST_F(ReplayEndTest, AnEventMadeByAKeyDuringASlowReplayIsShownWithoutAnother) {
   choose("slomo_item");
-  showPoints(150);
-  const RealInput input(QStringLiteral("sleep 0.5 key ctrl+n"));
+  showPoints(some_points);
   const QSignalSpy made(&item("new_event_item"), &QAction::triggered);
-  choose("replay_item");
+  replayWith(QStringLiteral("key ctrl+n"));
   ASSERT_TRUE(wait_until([&] { return !made.isEmpty(); }));
   const QImage shown = picture_of(chamber());
   run_loop_for(200);

@@ -66,6 +66,9 @@ class ReplayTest : public ApplicationFixture {
   std::function<void()> at_end_ = [] {};
 };
 
+/// What a second process sees of a replay, which it may miss on a busy machine.
+class ReplayScreenTest : public ReplayTest {};
+
 /// Red pixels of a view on the screen.
 int red_on_screen(const QWidget& view) {
   return count_on_screen(view, red);
@@ -192,7 +195,7 @@ TEST_F(ReplayTest, ANewEventIsReplayedInSlowMotion) {
   EXPECT_EQ(chamber().passes(), without);
 }
 
-TEST_F(ReplayTest, PointsAppearOneByOneOnTheScreen) {
+TEST_F(ReplayScreenTest, PointsAppearOneByOne) {
   constexpr int count = 60;
   showRow(count);
   ASSERT_TRUE(wait_until([&] { return red_on_screen(chamber()) > count; }));
@@ -215,7 +218,7 @@ TEST_F(ReplayTest, PointsAppearOneByOneOnTheScreen) {
   EXPECT_LT(counts.front(), all / 2);
 }
 
-TEST_F(ReplayTest, TheLastPictureIsOnTheScreenBeforeControlReturns) {
+TEST_F(ReplayScreenTest, TheLastPictureIsThereBeforeControlReturns) {
   showRow(40);
   ASSERT_TRUE(wait_until([&] { return red_on_screen(chamber()) > 40; }));
   const int all = red_on_screen(chamber());
