@@ -54,6 +54,7 @@ template <typename Value, typename Set, typename Present>
 std::vector<Command> one_of(const std::vector<std::pair<QAction*, Value>>& items, Set set,
                             Present present) {
   std::vector<Command> commands;
+  commands.reserve(items.size());
   for (const auto& [item, value] : items) {
     commands.push_back({.item = item,
                         .run = [set, value = value] { set(value); },

@@ -85,7 +85,7 @@ QString suffix_of_kind(const QString& kind) {
 /// The ending of a path if one of the kinds offered has it, else that of the kind chosen.
 QString suffix_for(const QString& path, const QFileDialog& dialog) {
   for (const QString& kind : dialog.nameFilters()) {
-    const QString suffix = suffix_of_kind(kind);
+    QString suffix = suffix_of_kind(kind);
     if (path.endsWith(QLatin1Char('.') + suffix, Qt::CaseInsensitive)) {
       return suffix;
     }

@@ -17,7 +17,7 @@ const QStringList& language_codes() {
 
 QString language_for(const QStringList& preferred) {
   for (const QString& name : preferred) {
-    const QString code = name.section(QLatin1Char('-'), 0, 0).section(QLatin1Char('_'), 0, 0);
+    QString code = name.section(QLatin1Char('-'), 0, 0).section(QLatin1Char('_'), 0, 0);
     if (language_codes().contains(code)) {
       return code;
     }

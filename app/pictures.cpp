@@ -30,7 +30,7 @@ namespace velquon {
 
 namespace {
 
-constexpr int longest_wait = 10'000;  // milliseconds
+constexpr int longest_wait = 30'000;  // milliseconds
 
 /// Runs the event loop until a condition holds.
 /// \return whether it does

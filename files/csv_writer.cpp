@@ -19,7 +19,7 @@ constexpr std::string_view header = "event,point,x,y,z,code\n";
 
 // The buffer is handed on when the next line might not fit: two numbers of up to 20 digits, three
 // coordinates, a code of up to six characters, five commas and the line's end.
-constexpr std::size_t longest_line = 2 * 20 + 3 * decimal_text_size + 6 + 5 + 1;
+constexpr std::size_t longest_csv_line = 2 * 20 + 3 * decimal_text_size + 6 + 5 + 1;
 constexpr std::size_t buffer_size = 1U << 16U;
 
 template <typename Integer>
@@ -39,7 +39,7 @@ std::error_code CsvWriter::write(std::uint64_t event, std::span<const PlotPoint>
   const std::string_view number_text(number.data(), write_integer(number.data(), event));
 
   for (std::size_t i = 0; i < points.size(); ++i) {
-    if (buffer_size - used_ < longest_line) {
+    if (buffer_size - used_ < longest_csv_line) {
       if (const std::error_code error = flush()) {
         return error;
       }

@@ -14,24 +14,24 @@ namespace velquon {
 
 namespace {
 
-constexpr std::size_t column_count = 18;
-using Fields = std::array<std::string_view, column_count>;
+constexpr std::size_t table_columns = 18;
+using Fields = std::array<std::string_view, table_columns>;
 
 // The longest line has some 400 characters.
-constexpr std::size_t longest_line = 4096;
+constexpr std::size_t longest_table_line = 4096;
 
 // No record holds more.
 constexpr std::size_t most_particles = 16;
 
 std::optional<Fields> fields_of(std::string_view line) {
   Fields fields;
-  for (std::size_t column = 0; column < column_count; ++column) {
+  for (std::size_t column = 0; column < table_columns; ++column) {
     const std::size_t end = line.find(',');
-    if ((end == std::string_view::npos) != (column + 1 == column_count)) {
+    if ((end == std::string_view::npos) != (column + 1 == table_columns)) {
       return std::nullopt;
     }
     fields[column] = line.substr(0, end);
-    line.remove_prefix(column + 1 == column_count ? line.size() : end + 1);
+    line.remove_prefix(column + 1 == table_columns ? line.size() : end + 1);
   }
   return fields;
 }
@@ -95,7 +95,7 @@ bool ParticleTableReader::take(std::string_view bytes) {
     unread.remove_prefix(end + 1);
   }
   rest_.erase(0, rest_.size() - unread.size());
-  failed_ = failed_ || rest_.size() > longest_line;
+  failed_ = failed_ || rest_.size() > longest_table_line;
   return !failed_;
 }
 

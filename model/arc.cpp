@@ -15,12 +15,6 @@ namespace {
 
 using Vector = std::array<double, 3>;
 
-constexpr double whole_turn = 2.0 * std::numbers::pi;
-
-double direction(Place from, Place to) {
-  return std::atan2(to.y - from.y, to.x - from.x);
-}
-
 /// The turn from one direction to another counter-clockwise, 0 to a whole turn.
 double turn_between(double from, double to) {
   const double turn = std::fmod(to - from, whole_turn);
@@ -40,7 +34,7 @@ double sweep_of(std::span<const Place> places, Place centre) {
   return is_left ? turn : turn - whole_turn;
 }
 
-double error_of(const Vector& gradient, const CircleFit& fit, double of_the_ends) {
+double standard_error(const Vector& gradient, const CircleFit& fit, double of_the_ends) {
   double variance = of_the_ends * of_the_ends;
   for (std::size_t i = 0; i < 3; ++i) {
     for (std::size_t k = 0; k < 3; ++k) {
@@ -75,7 +69,7 @@ Arc straight_arc(const CircleFit& fit, Place first, Place last) {
   Arc arc;
   arc.is_straight = true;
   arc.sagitta = {height_by_bend * std::fabs(fit.line.curvature),
-                 error_of({height_by_bend, 0.0, 0.0}, fit, 0.0)};
+                 standard_error({height_by_bend, 0.0, 0.0}, fit, 0.0)};
   arc.chord = {chord, std::numbers::sqrt2 * fit.spread};
   return arc;
 }
@@ -86,7 +80,7 @@ Arc bent_arc(const CircleFit& fit, std::span<const Place> places) {
   const Vector radius_gradient{-std::copysign(radius * radius, bend), 0.0, 0.0};
   Arc arc;
   arc.centre = fit.line.centre();
-  arc.radius = {radius, error_of(radius_gradient, fit, 0.0)};
+  arc.radius = {radius, standard_error(radius_gradient, fit, 0.0)};
   arc.start = direction(arc.centre, places.front());
   arc.sweep = sweep_of(places, arc.centre);
   const double half = 0.5 * std::fabs(arc.sweep);
@@ -100,7 +94,7 @@ Arc bent_arc(const CircleFit& fit, std::span<const Place> places) {
       gradient[i] =
           by_radius * radius_gradient[i] + by_turn * std::copysign(1.0, arc.sweep) * turn[i];
     }
-    return Estimate{radius * by_radius, error_of(gradient, fit, by_turn * of_the_ends)};
+    return Estimate{radius * by_radius, standard_error(gradient, fit, by_turn * of_the_ends)};
   };
   arc.sagitta = estimate(1.0 - std::cos(half), 0.5 * radius * std::sin(half));
   arc.chord = estimate(2.0 * std::sin(half), radius * std::cos(half));

@@ -26,7 +26,7 @@ double dot(Place a, Place b) {
   return a.x * b.x + a.y * b.y;
 }
 
-Place unit(double direction) {
+Place unit_place(double direction) {
   return {std::cos(direction), std::sin(direction)};
 }
 
@@ -37,8 +37,8 @@ Place unit(double direction) {
 void add_place(NormalEquations& sums, const BentLine& line, Place place) {
   constexpr double least_root = 1.0e-9;  // at the centre, from where every way is as near
   const Place from_origin = place - line.origin;
-  const double across = dot(unit(line.normal), from_origin);
-  const double along = dot(unit(line.normal + std::numbers::pi / 2.0), from_origin);
+  const double across = dot(unit_place(line.normal), from_origin);
+  const double along = dot(unit_place(line.normal + std::numbers::pi / 2.0), from_origin);
   const double bend = line.curvature;
   const double rest = line.distance;
   const double half_square = 0.5 * (dot(from_origin, from_origin) + rest * rest) - rest * across;
@@ -155,7 +155,8 @@ double least_root_of(const Moments& m) {
 BentLine straight_line(const Moments& m, Place origin) {
   const double along = 0.5 * std::atan2(2.0 * m.xy, m.xx - m.yy);
   const double normal = along + std::numbers::pi / 2.0;
-  return {.origin = origin, .normal = normal, .distance = dot(unit(normal), m.middle - origin)};
+  return {
+      .origin = origin, .normal = normal, .distance = dot(unit_place(normal), m.middle - origin)};
 }
 
 /// Taubin's circle, seen from the first place, which is never far from the circle.

@@ -78,9 +78,10 @@ class TruncatedDecays {
 double rate_without_slope(const TruncatedDecays& decays, double most) {
   double below = 0.0;
   double above = most;
-  for (double middle = most / 2.0; middle > below && middle < above;
-       middle = below + (above - below) / 2.0) {
+  double middle = most / 2.0;
+  while (middle > below && middle < above) {
     (decays.slope(middle) > 0.0 ? below : above) = middle;
+    middle = below + (above - below) / 2.0;
   }
   return above;
 }

@@ -64,7 +64,7 @@ std::optional<Measurement> product_momentum(std::span<const RecordedParticle> pa
                                             bool transverse) {
   const auto products = particles.subspan(1);
   const auto product = std::ranges::find_if(
-      products, [](const auto& particle) { return is_charged(particle.pdg) == true; });
+      products, [](const auto& particle) { return is_charged(particle.pdg).value_or(false); });
   return product == products.end() ? std::nullopt
                                    : std::optional(momentum_of(*product, transverse));
 }

@@ -94,6 +94,7 @@ std::vector<SeenTrack> tracks_by_codes(std::span<const PlotPoint> points, double
   }
   std::ranges::sort(lines, {}, [](const Indices& line) { return line.front(); });
   std::vector<SeenTrack> tracks;
+  tracks.reserve(lines.size());
   for (const Indices& line : lines) {
     tracks.push_back(seen_track(points, line, cm_per_unit));
   }

@@ -121,7 +121,7 @@ class RowReader {
     const std::string& field = text(column);
     std::size_t shown = std::min(field.size(), most_shown);
     // Not in the middle of a character.
-    while (shown > 0 && !is_utf8(std::string_view(field).substr(0, shown))) {
+    while (shown > 0 && !is_utf8(std::string_view{field}.substr(0, shown))) {
       --shown;
     }
     const char* const dots = shown < field.size() ? "…" : "";
@@ -158,7 +158,7 @@ class RowReader {
 
   template <typename Choice, typename Names, typename Projection>
   Choice nameIn(const Names& names, Projection projection, Column column, std::string_view reason) {
-    const auto found = std::ranges::find(names, std::string_view(text(column)), projection);
+    const auto found = std::ranges::find(names, std::string_view{text(column)}, projection);
     if (found == names.end()) {
       refuse(reason, column);
       return Choice{};

@@ -43,7 +43,7 @@ class Measurements {
 
  private:
   struct Placed {
-    std::size_t place;
+    std::size_t place = 0;
     Measurement row;
   };
   /// What a step takes out of the rows, by places before it, and puts in, by places after it. Both

@@ -3,6 +3,9 @@
 
 #pragma once
 
+#include <cmath>
+#include <numbers>
+
 namespace velquon {
 
 /// A place on a plane, x across and y upwards.
@@ -14,5 +17,13 @@ struct Place {
   friend constexpr Place operator-(Place a, Place b) { return {a.x - b.x, a.y - b.y}; }
   friend constexpr bool operator==(Place a, Place b) = default;
 };
+
+/// Radians of a whole turn.
+inline constexpr double whole_turn = 2.0 * std::numbers::pi;
+
+/// \return the direction from one place to another, counter-clockwise from the x axis, -pi to pi
+[[nodiscard]] inline double direction(Place from, Place to) {
+  return std::atan2(to.y - from.y, to.x - from.x);
+}
 
 }  // namespace velquon

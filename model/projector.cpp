@@ -174,7 +174,7 @@ std::vector<Reading> Projector::curveReadings() const {
   std::vector<Reading> readings;
   if (!arc->is_straight) {
     const Reading radius = inCm(Quantity::radius, arc->radius);
-    const double field_kG = static_cast<double>(event_->values.B_field);
+    const auto field_kG = static_cast<double>(event_->values.B_field);
     if (plane_ == ProjectionPlane::xy && field_kG != 0.0) {
       const double momentum = momentum_per_cm(field_kG);
       readings.push_back({.quantity = Quantity::transverse_momentum,

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <span>
 
 namespace velquon {
@@ -13,8 +12,6 @@ namespace velquon {
 namespace {
 
 using Lines = std::vector<ToolLine>;
-
-constexpr double whole_turn = 2.0 * std::numbers::pi;
 
 /// \param start direction from the centre in which it begins, radians
 /// \param sweep the turn from there, counter-clockwise
@@ -56,18 +53,14 @@ void add_curve(Lines& lines, const Curve& curve) {
     lines.push_back({{places.front(), places.back()}});
   } else if (arc) {
     const double radius = arc->radius.value;
-    const auto end_at = [&](double direction) {
-      return arc->centre + Place{radius * std::cos(direction), radius * std::sin(direction)};
+    const auto end_at = [&](double angle) {
+      return arc->centre + Place{radius * std::cos(angle), radius * std::sin(angle)};
     };
     lines.push_back({places_of_arc(arc->centre, radius, arc->start, whole_turn), true});
     lines.push_back({{end_at(arc->start), end_at(arc->start + arc->sweep)}, true});
     lines.push_back({places_of_arc(arc->centre, radius, arc->start, arc->sweep)});
   }
   add_marks(lines, places);
-}
-
-double direction(Place from, Place to) {
-  return std::atan2(to.y - from.y, to.x - from.x);
 }
 
 /// The arms that are set, and between two of them the arc of the angle.

@@ -52,7 +52,7 @@ double paper_length_of(const RecordedParticle& particle, const ChamberValues& va
 /// A particle's momentum where it ends. In the field that of a charged one has turned by the angle
 /// that its track has on the circle, clockwise for a positive particle and a positive field.
 Vector3 momentum_at_end(const RecordedParticle& particle, const ChamberValues& values) {
-  const double field_kG = static_cast<double>(values.B_field);
+  const auto field_kG = static_cast<double>(values.B_field);
   const auto radius_cm = radius_of(particle, field_kG);
   Vector3 momentum = particle.momentum;
   if (radius_cm && *radius_cm > 0.0) {

@@ -15,7 +15,7 @@ namespace velquon {
 namespace {
 
 struct Arrow {
-  int key;
+  int key = 0;
   Place way;
 };
 constexpr std::array arrows{Arrow{Qt::Key_Left, {-1.0, 0.0}}, Arrow{Qt::Key_Right, {1.0, 0.0}},

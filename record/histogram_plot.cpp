@@ -50,9 +50,10 @@ class DrawnHistogram : public HistogramPlot {
   QCPGraph* curve_;
 };
 
-DrawnHistogram::DrawnHistogram() : plot_(new QCustomPlot(this)) {
-  bars_ = new QCPBars(plot_->xAxis, plot_->yAxis);
-  curve_ = plot_->addGraph();
+DrawnHistogram::DrawnHistogram()
+    : plot_(new QCustomPlot(this)),
+      bars_(new QCPBars(plot_->xAxis, plot_->yAxis)),
+      curve_(plot_->addGraph()) {
   bars_->setWidthType(QCPBars::wtPlotCoords);
   plot_->setFocusPolicy(Qt::NoFocus);
   constexpr QSize smallest(220, 150);

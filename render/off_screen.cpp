@@ -14,6 +14,8 @@ OffScreenContext::OffScreenContext()
   surface_.setFormat(QSurfaceFormat::defaultFormat());
   surface_.create();
   context_.setFormat(QSurfaceFormat::defaultFormat());
+  // Once the format is set.
+  // NOLINTNEXTLINE(cppcoreguidelines-prefer-member-initializer)
   is_current_ = context_.create() && context_.makeCurrent(&surface_);
 }
 

@@ -69,8 +69,8 @@ void connect_choice(QComboBox* popup, const Values& values, Choose choose) {
 template <typename Values, typename Value>
 void show_choice(QComboBox* popup, const Values& values, Value present) {
   const QSignalBlocker chosen_elsewhere(popup);
-  const auto found = std::ranges::find(values, present);
-  popup->setCurrentIndex(static_cast<int>(std::distance(values.begin(), found)));
+  const auto place = std::ranges::find(values, present) - values.begin();
+  popup->setCurrentIndex(static_cast<int>(place));
 }
 
 }  // namespace
@@ -78,6 +78,8 @@ void show_choice(QComboBox* popup, const Values& values, Value present) {
 TrackPanel::TrackPanel(TrackModel& model, QWidget* parent)
     : QWidget(parent), model_(model), ui_(std::make_unique<Ui::track_panel>()) {
   ui_->setupUi(this);
+  // The scrolled area, in which the view lies, is the form's.
+  // NOLINTNEXTLINE(cppcoreguidelines-prefer-member-initializer)
   view_ = new NewTrackView(ui_->track_area->viewport());
   view_->setObjectName(QStringLiteral("track_view"));
   view_->setAccessibleName(tr("Track"));

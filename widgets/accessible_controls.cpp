@@ -26,7 +26,7 @@ class AccessibleValueSlider : public QAccessibleWidget, public QAccessibleValueI
   }
 
   [[nodiscard]] QString text(QAccessible::Text kind) const override {
-    const QString value = QStringLiteral("%1 %2").arg(slider_->doubleValue()).arg(slider_->unit());
+    QString value = QStringLiteral("%1 %2").arg(slider_->doubleValue()).arg(slider_->unit());
     switch (kind) {
       case QAccessible::Value:
         return value;

@@ -78,10 +78,14 @@ void GLPanel::makeKeyAndOrderFront() {
 }
 
 bool GLPanel::event(QEvent* event) {
-  if (event->type() == QEvent::WindowActivate) {
+  // The X server may tell of the focus after the window was hidden: it counts when that is shown
+  // again.
+  const QEvent::Type type = event->type();
+  if ((type == QEvent::WindowActivate && isVisible()) ||
+      (type == QEvent::Show && isActiveWindow())) {
     came_to_front_ = std::chrono::steady_clock::now();
     Q_EMIT becameKey();
-  } else if (event->type() == QEvent::WindowDeactivate) {
+  } else if (type == QEvent::WindowDeactivate) {
     Q_EMIT resignedKey();
   }
   return QMainWindow::event(event);

@@ -40,6 +40,7 @@ class GLPanel : public QMainWindow {
   [[nodiscard]] QSize sizeHint() const override;
 
  Q_SIGNALS:
+  /// The window, which is shown, is now the one that keys go to.
   void becameKey();
   void resignedKey();
   /// A file was dropped on the window.

@@ -10,7 +10,7 @@ namespace velquon {
 
 namespace {
 
-constexpr QMargins around(8, 3, 8, 2);
+constexpr QMargins around_legend(8, 3, 8, 2);
 
 }  // namespace
 
@@ -32,14 +32,15 @@ void LegendStrip::setLegend(const std::vector<LegendLine>& lines, const QString&
 }
 
 QSize LegendStrip::sizeHint() const {
-  const qreal width = room_width_ - around.left() - around.right();
+  const qreal width = room_width_ - around_legend.left() - around_legend.right();
   const qreal height = legend_size(room_for_, style(), width).height();
-  return {room_width_, static_cast<int>(std::ceil(height)) + around.top() + around.bottom()};
+  return {room_width_,
+          static_cast<int>(std::ceil(height)) + around_legend.top() + around_legend.bottom()};
 }
 
 void LegendStrip::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  paint_legend(painter, QRectF(rect().marginsRemoved(around)), lines_, style());
+  paint_legend(painter, QRectF(rect().marginsRemoved(around_legend)), lines_, style());
 }
 
 LegendStyle LegendStrip::style() const {

@@ -18,7 +18,7 @@ QString event_name_text(std::string_view name) {
   if (name == "Empty") {
     return QCoreApplication::translate("velquon::Model", "Empty");
   }
-  const QString text = QString::fromUtf8(name);
+  QString text = QString::fromUtf8(name);
   const QRegularExpressionMatch match = untitled.match(text);
   if (!match.hasMatch()) {
     return text;

@@ -7,7 +7,7 @@ namespace velquon {
 
 namespace {
 
-constexpr QMargins around(8, 2, 8, 4);
+constexpr QMargins around_status(8, 2, 8, 4);
 
 }  // namespace
 
@@ -15,7 +15,7 @@ StatusLine::StatusLine(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
   setWordWrap(true);
   setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  setContentsMargins(around);
+  setContentsMargins(around_status);
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 
@@ -33,10 +33,10 @@ void StatusLine::tell(const QString& text) {
 }
 
 QSize StatusLine::sizeHint() const {
-  const int width = room_width_ - around.left() - around.right();
+  const int width = room_width_ - around_status.left() - around_status.right();
   const QRect lines =
       fontMetrics().boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap, room_for_);
-  return {room_width_, lines.height() + around.top() + around.bottom()};
+  return {room_width_, lines.height() + around_status.top() + around_status.bottom()};
 }
 
 }  // namespace velquon

@@ -28,8 +28,8 @@ void ValueEditor::open(QWidget& label, const ValueBounds& bounds, double value,
 }
 
 ValueEditor::ValueEditor(QWidget& label, const ValueBounds& bounds, double value,
-                         const std::function<void(double)>& take)
-    : QDoubleSpinBox(label.window()), label_(label), take_(take) {
+                         std::function<void(double)> take)
+    : QDoubleSpinBox(label.window()), label_(label), take_(std::move(take)) {
   setObjectName(label.objectName() + QStringLiteral("_editor"));
   setAccessibleName(tr("Value"));
   setLocale(QLocale::c());
@@ -39,6 +39,8 @@ ValueEditor::ValueEditor(QWidget& label, const ValueBounds& bounds, double value
   setButtonSymbols(NoButtons);
   setKeyboardTracking(false);
   setValue(value);
+  // What the box makes of the value.
+  // NOLINTNEXTLINE(cppcoreguidelines-prefer-member-initializer)
   shown_ = this->value();
   setToolTip(
       tr("%1 to %2 %3").arg(textFromValue(bounds.least), textFromValue(bounds.most), bounds.unit));

@@ -41,7 +41,7 @@ class ValueEditor : public QDoubleSpinBox {
 
  private:
   ValueEditor(QWidget& label, const ValueBounds& bounds, double value,
-              const std::function<void(double)>& take);
+              std::function<void(double)> take);
   void close(bool takes);
 
   QWidget& label_;
