@@ -6,7 +6,7 @@
 add_library(project_options INTERFACE)
 
 target_compile_options(project_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wdouble-promotion
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wdouble-promotion
   -Wold-style-cast -Wcast-align -Wcast-qual -Wnon-virtual-dtor -Woverloaded-virtual -Wformat=2
   -Wimplicit-fallthrough -Wnull-dereference -Wundef -Wextra-semi -Wredundant-decls
   -Wzero-as-null-pointer-constant -Wmissing-declarations)
@@ -17,6 +17,15 @@ else()
   target_compile_options(project_options INTERFACE
     -Wunreachable-code-aggressive -Wcomma -Wnewline-eof -Winconsistent-missing-destructor-override)
 endif()
+
+# A source's own names are no global ones, but stand before those of the sources compiled after it as one.
+set(in_unity $<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>)
+target_compile_options(project_options INTERFACE "$<$<NOT:${in_unity}>:-Wshadow>")
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(project_options INTERFACE
+    "$<${in_unity}:-Wshadow=local>" "$<${in_unity}:-Wno-subobject-linkage>")
+endif()
+
 if(VELQUON_WARNINGS_AS_ERRORS)
   target_compile_options(project_options INTERFACE -Werror)
 endif()
@@ -69,5 +78,6 @@ target_link_libraries(qt_options INTERFACE
 # Tests spend their time in the libraries that they test, not in their own code.
 add_library(test_options INTERFACE)
 target_include_directories(test_options INTERFACE ${PROJECT_SOURCE_DIR})
-target_compile_options(test_options INTERFACE $<$<CONFIG:Release,RelWithDebInfo>:-O1>)
+target_compile_options(test_options INTERFACE
+  "$<$<CONFIG:Release,RelWithDebInfo>:SHELL:-O0 -U_FORTIFY_SOURCE>")
 target_link_libraries(test_options INTERFACE project_options)

@@ -30,6 +30,7 @@
 #include "tests/support/documents/environment.h"
 #include "tests/support/documents/modal.h"
 #include "tests/support/windows/application_fixture.h"
+#include "tests/support/windows/menu_keys.h"
 #include "tests/support/windows/pseudo_language.h"
 #include "tests/support/windows/shown_texts.h"
 #include "tests/support/windows/waiting.h"
@@ -68,26 +69,6 @@ class TextsOfQt : public QTranslator {
   bool known_;
   mutable QHash<QString, QString> translations_;
 };
-
-/// What is typed with Alt for a title; null without one.
-QChar mnemonic(const QString& title) {
-  const QKeySequence key = QKeySequence::mnemonic(title);
-  return key.isEmpty() ? QChar() : QChar(key[0].key());
-}
-
-void expect_own_mnemonics(const QList<QAction*>& titles_of_menu) {
-  QString taken;
-  for (const QAction* const action : titles_of_menu) {
-    if (!action->isSeparator()) {
-      const QChar key = mnemonic(action->text());
-      EXPECT_FALSE(key.isNull() || taken.contains(key)) << action->text().toStdString();
-      taken += key;
-    }
-    if (action->menu() != nullptr) {
-      expect_own_mnemonics(action->menu()->actions());
-    }
-  }
-}
 
 /// The whole program in a language, with the dialogs of a desktop.
 class LanguagesTest : public ApplicationFixture, public ::testing::WithParamInterface<const char*> {
@@ -278,8 +259,8 @@ TEST_P(LanguagesTest, EveryTextIsTranslatedAndHasRoom) {
   walkThroughTheMeasurements();
   walkThroughTheDialogs();
   if (!isPseudo()) {
-    expect_own_mnemonics(chamberWindow().menuBar()->actions());
-    expect_own_mnemonics(application().measurementsWindow().menuBar()->actions());
+    expect_own_letters(chamberWindow().menuBar()->actions());
+    expect_own_letters(application().measurementsWindow().menuBar()->actions());
   }
   EXPECT_EQ(looks_, 32);
 }

@@ -12,6 +12,7 @@
 #include <algorithm>
 
 #include "tests/support/windows/application_fixture.h"
+#include "tests/support/windows/menu_keys.h"
 #include "tests/support/windows/real_input.h"
 #include "tests/support/windows/waiting.h"
 
@@ -101,28 +102,6 @@ QWidget* shown_window(const QString& title) {
 }
 
 /// What is typed with Alt to choose an action of an open menu.
-QChar mnemonic(const QAction& action) {
-  const QKeySequence key = QKeySequence::mnemonic(action.text());
-  return key.isEmpty() ? QChar() : QChar(key[0].key());
-}
-
-/// Expects each title of a menu to have a mnemonic that no other has, and so in the menus below.
-void expect_own_mnemonics(const QList<QAction*>& titles_of_menu) {
-  QStringList taken;
-  for (const QAction* const action : titles_of_menu) {
-    if (action->isSeparator()) {
-      continue;
-    }
-    const QChar key = mnemonic(*action);
-    EXPECT_FALSE(key.isNull()) << action->text().toStdString();
-    EXPECT_FALSE(taken.contains(key)) << action->text().toStdString();
-    taken << key;
-    if (action->menu() != nullptr) {
-      expect_own_mnemonics(action->menu()->actions());
-    }
-  }
-}
-
 /// Holds keys down as a person does, on the keyboard of the X server, which repeats them.
 void hold_down(const QString& keys, int milliseconds) {
   const auto type = [&](const QString& what) {
@@ -162,7 +141,7 @@ TEST_F(MenusTest, NoShortcutIsGivenTwice) {
 }
 
 TEST_F(MenusTest, EachItemHasAMnemonicOfItsOwnInItsMenu) {
-  expect_own_mnemonics(chamberWindow().menuBar()->actions());
+  expect_own_letters(chamberWindow().menuBar()->actions());
 }
 
 TEST_F(MenusTest, F1OpensTheGuide) {
@@ -180,7 +159,7 @@ TEST_F(MenusTest, F1OpensTheGuide) {
 }
 
 TEST_F(MenusTest, AKeyHeldDownMakesOneEventAndOneReplay) {
-  constexpr int long_enough_to_repeat = 1500;
+  constexpr int long_enough_to_repeat = 1000;
   // A key that repeats shows that this keyboard does.
   const QSignalSpy resets(&item("reset_orientation_item"), &QAction::triggered);
   hold_down(QStringLiteral("ctrl+0"), long_enough_to_repeat);
@@ -215,7 +194,7 @@ TEST_F(MenusTest, KeysPressedQuicklyOneAfterTheOtherAreAllFollowed) {
 }
 
 TEST_F(MenusTest, AKeyHeldDownInjectsOneParticleAndSwitchesTheTrackWindowOnce) {
-  constexpr int long_enough_to_repeat = 1500;
+  constexpr int long_enough_to_repeat = 1000;
   const QSignalSpy switched(&item("activate_item"), &QAction::triggered);
   hold_down(QStringLiteral("ctrl+k"), long_enough_to_repeat);
   EXPECT_EQ(switched.size(), 1);

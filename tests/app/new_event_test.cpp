@@ -266,6 +266,15 @@ TEST_F(NewEventTest, BothViewsAreDrawnAndTheProjectionGoesBackToItsPlace) {
   EXPECT_EQ(projection().mapping().offset_up, 420.0);
 }
 
+TEST_F(NewEventTest, EachViewIsDrawnOnce) {
+  const int chamber_passes = chamber().passes();
+  const int projection_passes = projection().passes();
+  choose("new_event_item");
+  run_loop_for(100);
+  EXPECT_EQ(chamber().passes(), chamber_passes + 1);
+  EXPECT_EQ(projection().passes(), projection_passes + 1);
+}
+
 TEST_F(NewEventTest, TheViewKeepsACopyOfItsOwn) {
   Points points{point_at(1.0, 2.0, 3.0, 4), point_at(5.0, 6.0, 7.0, 5)};
   showEvent(points);

@@ -13,7 +13,7 @@ namespace {
 
 // One point at 100, -50, 25 with time 7 and code 3; side 400 cm, field 2 kG, energy 0.5 MeV. What
 // is not read holds anything.
-const char* const one_point_file =
+const char* const pc_one_point_file =
     "57 DEADBEEFDEADBEEF 0000000000007940 0000000000000040 000000000000E03F"
     "FFFFFFFFFFFFFFFF FFFFFFFFFFFFFFFF 01000000"
     "0000000000005940 00000000000049C0 0000000000003940 000000000000F03F"
@@ -32,8 +32,8 @@ class PcImportTest : public DocumentsFixture {
 };
 
 TEST_F(PcImportTest, ShowsPointsValuesAndName) {
-  ASSERT_EQ(hex(one_point_file).size(), 53 + 48);
-  ASSERT_TRUE(import(hex(one_point_file)));
+  ASSERT_EQ(hex(pc_one_point_file).size(), 53 + 48);
+  ASSERT_TRUE(import(hex(pc_one_point_file)));
   const Shown after = shown();
   PlotPoint point = point_at(100.0, -50.0, 25.0, 3);
   point.time = 7.0;
@@ -63,7 +63,7 @@ TEST_F(PcImportTest, RenumbersTheEndOfATrackAlone) {
   for (const Code& c :
        {Code{"07000000", 2}, Code{"00000000", 0}, Code{"01000000", 1}, Code{"02000000", 2},
         Code{"08000000", 8}, Code{"01000100", 1}, Code{"07000100", 7}, Code{"FFFFFFFF", -1}}) {
-    QByteArray bytes = hex(one_point_file);
+    QByteArray bytes = hex(pc_one_point_file);
     bytes.replace(53 + 40, 4, hex(c.digits));
     ASSERT_TRUE(import(bytes));
     EXPECT_EQ(chamber().data_ptr().front().code, c.code) << c.digits;
@@ -71,7 +71,7 @@ TEST_F(PcImportTest, RenumbersTheEndOfATrackAlone) {
 }
 
 TEST_F(PcImportTest, TellsOfANegativeFieldAndShowsItsAbsoluteValue) {
-  QByteArray bytes = hex(one_point_file);
+  QByteArray bytes = hex(pc_one_point_file);
   bytes.replace(17, 8, hex("00000000000014C0"));  // -5
   ASSERT_TRUE(import(bytes));
   EXPECT_EQ(dialogs().alerts, std::vector{negative_field});
@@ -82,7 +82,7 @@ TEST_F(PcImportTest, TellsOfANegativeFieldAndShowsItsAbsoluteValue) {
 }
 
 TEST_F(PcImportTest, TellsOfANegativeFieldBetweenThePointsAndTheControls) {
-  QByteArray bytes = hex(one_point_file);
+  QByteArray bytes = hex(pc_one_point_file);
   bytes.replace(17, 8, hex("00000000000014C0"));
   const Shown before = shown();
   int points_at_alert = 0;
@@ -101,7 +101,7 @@ TEST_F(PcImportTest, TellsOfANegativeFieldBetweenThePointsAndTheControls) {
 }
 
 TEST_F(PcImportTest, ANegativeZeroIsNotNegative) {
-  QByteArray bytes = hex(one_point_file);
+  QByteArray bytes = hex(pc_one_point_file);
   bytes.replace(17, 8, hex("0000000000000080"));
   ASSERT_TRUE(import(bytes));
   EXPECT_TRUE(dialogs().alerts.empty());
@@ -109,7 +109,7 @@ TEST_F(PcImportTest, ANegativeZeroIsNotNegative) {
 }
 
 TEST_F(PcImportTest, ASavedImportIsAnEventFileOfThisProgram) {
-  ASSERT_TRUE(import(hex(one_point_file)));
+  ASSERT_TRUE(import(hex(pc_one_point_file)));
   dialogs().answer = path(QStringLiteral("new.cwd"));
   documents().save_event_file();
   PlotPoint point = point_at(100.0, -50.0, 25.0, 3);

@@ -18,6 +18,7 @@
 #include "tests/app/picture_files_fixture.h"
 #include "tests/support/documents/modal.h"
 #include "tests/support/file_size_limit.h"
+#include "tests/support/type_places.h"
 #include "tests/support/windows/input.h"
 #include "tests/support/windows/pictures.h"
 #include "tests/support/windows/waiting.h"
@@ -25,8 +26,6 @@
 namespace velquon::test {
 
 namespace {
-
-constexpr int lambda_type = 5;
 
 /// Chooses all in a window's focus and copies it.
 /// \return the text on the clipboard

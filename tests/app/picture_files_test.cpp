@@ -10,6 +10,7 @@
 #include "tests/app/picture_files_fixture.h"
 #include "tests/support/documents/pdf_page.h"
 #include "tests/support/sanitizers.h"
+#include "tests/support/type_places.h"
 #include "tests/support/windows/input.h"
 #include "tests/support/windows/pictures.h"
 #include "tests/support/windows/waiting.h"
@@ -17,8 +18,6 @@
 namespace velquon::test {
 
 namespace {
-
-constexpr int lambda_type = 5;
 
 class PictureFilesTest : public PictureFilesFixture {
  protected:

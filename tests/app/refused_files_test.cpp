@@ -6,8 +6,11 @@
 #include <QAction>
 #include <QElapsedTimer>
 #include <QFile>
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
+#include <span>
 
 #include <sys/stat.h>
 
@@ -40,110 +43,112 @@ class RefusedFileTest : public DocumentsFixture {
     controller().settings().setEnergyControl(42.0F);
     clickButton("yz_button");
     clickButton("zoom_2");
+    ASSERT_TRUE(dialogs().alerts.empty());
   }
 
+  /// Opens a file of these bytes from the projector.
   void expectRefusal(const QByteArray& bytes, const RecordingDialogs::Alert& alert) {
     const QString file = write(QStringLiteral("refused.cwd"), bytes);
     activate(projectorWindow());
+    dialogs().alerts.clear();
     const Shown before = shown();
     EXPECT_FALSE(documents().readAndDisplayFile(file));
     EXPECT_EQ(dialogs().alerts, std::vector{alert});
     EXPECT_EQ(differences(before, shown()), "");
     EXPECT_TRUE(projectorWindow().isActiveWindow());
   }
+
+  /// The same for each of a table, one after the other.
+  void expectRefusals(std::span<const Refused> files, const RecordingDialogs::Alert& alert) {
+    for (const Refused& refused : files) {
+      SCOPED_TRACE(refused.name);
+      expectRefusal(refused.bytes(), alert);
+    }
+  }
 };
 
-class WrongFormatTest : public RefusedFileTest, public ::testing::WithParamInterface<Refused> {};
-class BadDataTest : public RefusedFileTest, public ::testing::WithParamInterface<Refused> {};
+const Refused of_a_wrong_format[] = {
+    {"Empty", [] { return QByteArray(); }},
+    {"TagIAlone", [] { return hex("49"); }},
+    {"TagIWithABody", [] { return event_file(spiral(3)).replace(0, 1, "I"); }},
+    {"LowerCaseTag", [] { return event_file(spiral(3)).replace(0, 1, "p"); }},
+    {"LowerCasePcTag", [] { return pc_file(spiral(3)).replace(0, 1, "w"); }},
+    {"ZeroByte", [] { return hex("00"); }},
+    {"TextFile", [] { return QByteArray("event,point,x,y,z,code\n"); }},
+    {"HighByte", [] { return hex("FF 0001"); }}};
 
-TEST_P(WrongFormatTest, IsToldAndChangesNothing) {
-  expectRefusal(GetParam().bytes(), wrong_format);
+const Refused of_wrong_counts[] = {
+    {"Zero", [] { return event_file(0, {}); }},
+    {"ZeroWithPoints", [] { return event_file(0, spiral(2)); }},
+    {"OneTooMany", [] { return event_file(5001, spiral(5001)); }},
+    {"MinusOne", [] { return event_file(-1, spiral(2)); }},
+    {"MostNegative", [] { return event_file(-32768, spiral(2)); }},
+    {"PcZero", [] { return pc_file(0, spiral(2)); }},
+    {"PcMinusOne", [] { return pc_file(-1, spiral(2)); }},
+    {"PcOneTooMany", [] { return pc_file(5001, spiral(5001)); }},
+    {"PcOneInItsLowBytes", [] { return pc_file(65537, spiral(2)); }},
+    {"PcMostNegative",
+     [] { return pc_file(std::numeric_limits<std::int32_t>::min(), spiral(2)); }}};
+
+const Refused of_wrong_lengths[] = {
+    {"TagAlone", [] { return hex("50"); }},
+    {"HalfACount", [] { return hex("5000"); }},
+    {"CountAlone", [] { return hex("500001"); }},
+    {"NoTrailer", [] { return event_file(spiral(2)).chopped(72); }},
+    {"OneByteShort", [] { return event_file(spiral(2)).chopped(1); }},
+    {"OnePointShort", [] { return event_file(3, spiral(2)); }},
+    {"PcTagAlone", [] { return hex("57"); }},
+    {"PcHalfAHeader", [] { return pc_file(spiral(1)).left(30); }},
+    {"PcHeaderOneByteShort", [] { return pc_file(spiral(1)).left(52); }},
+    {"PcHeaderAlone", [] { return pc_file(spiral(1)).left(53); }},
+    {"PcOneByteShort", [] { return pc_file(spiral(2)).chopped(1); }},
+    {"PcOnePointShort", [] { return pc_file(3, spiral(2)); }}};
+
+TEST_F(RefusedFileTest, AWrongFormatIsToldAndChangesNothing) {
+  expectRefusals(of_a_wrong_format, wrong_format);
 }
 
-TEST_P(BadDataTest, IsToldAndChangesNothing) {
-  expectRefusal(GetParam().bytes(), bad_data);
+TEST_F(RefusedFileTest, AnImpossibleCountIsToldAndChangesNothing) {
+  expectRefusals(of_wrong_counts, bad_data);
 }
 
-const auto name_of_case = [](const auto& tested) { return tested.param.name; };
-
-INSTANTIATE_TEST_SUITE_P(
-    Files, WrongFormatTest,
-    ::testing::Values(
-        Refused{"Empty", [] { return QByteArray(); }},
-        Refused{"TagIAlone", [] { return hex("49"); }},
-        Refused{"TagIWithABody", [] { return event_file(spiral(3)).replace(0, 1, "I"); }},
-        Refused{"LowerCaseTag", [] { return event_file(spiral(3)).replace(0, 1, "p"); }},
-        Refused{"LowerCasePcTag", [] { return pc_file(spiral(3)).replace(0, 1, "w"); }},
-        Refused{"ZeroByte", [] { return hex("00"); }},
-        Refused{"TextFile", [] { return QByteArray("event,point,x,y,z,code\n"); }},
-        Refused{"HighByte", [] { return hex("FF 0001"); }}),
-    name_of_case);
-
-INSTANTIATE_TEST_SUITE_P(
-    Counts, BadDataTest,
-    ::testing::Values(Refused{"Zero", [] { return event_file(0, {}); }},
-                      Refused{"ZeroWithPoints", [] { return event_file(0, spiral(2)); }},
-                      Refused{"OneTooMany", [] { return event_file(5001, spiral(5001)); }},
-                      Refused{"MinusOne", [] { return event_file(-1, spiral(2)); }},
-                      Refused{"MostNegative", [] { return event_file(-32768, spiral(2)); }},
-                      Refused{"PcZero", [] { return pc_file(0, spiral(2)); }},
-                      Refused{"PcMinusOne", [] { return pc_file(-1, spiral(2)); }},
-                      Refused{"PcOneTooMany", [] { return pc_file(5001, spiral(5001)); }},
-                      Refused{"PcOneInItsLowBytes", [] { return pc_file(65537, spiral(2)); }},
-                      Refused{"PcMostNegative",
-                              [] {
-                                return pc_file(std::numeric_limits<std::int32_t>::min(), spiral(2));
-                              }}),
-    name_of_case);
-
-INSTANTIATE_TEST_SUITE_P(
-    Lengths, BadDataTest,
-    ::testing::Values(Refused{"TagAlone", [] { return hex("50"); }},
-                      Refused{"HalfACount", [] { return hex("5000"); }},
-                      Refused{"CountAlone", [] { return hex("500001"); }},
-                      Refused{"NoTrailer", [] { return event_file(spiral(2)).chopped(72); }},
-                      Refused{"OneByteShort", [] { return event_file(spiral(2)).chopped(1); }},
-                      Refused{"OnePointShort", [] { return event_file(3, spiral(2)); }},
-                      Refused{"PcTagAlone", [] { return hex("57"); }},
-                      Refused{"PcHalfAHeader", [] { return pc_file(spiral(1)).left(30); }},
-                      Refused{"PcHeaderOneByteShort", [] { return pc_file(spiral(1)).left(52); }},
-                      Refused{"PcHeaderAlone", [] { return pc_file(spiral(1)).left(53); }},
-                      Refused{"PcOneByteShort", [] { return pc_file(spiral(2)).chopped(1); }},
-                      Refused{"PcOnePointShort", [] { return pc_file(3, spiral(2)); }}),
-    name_of_case);
+TEST_F(RefusedFileTest, AWrongLengthIsToldAndChangesNothing) {
+  expectRefusals(of_wrong_lengths, bad_data);
+}
 
 struct Impossible {
-  const char* name;
+  const char* name = nullptr;
   FileSettings settings;
 };
 
-class ImpossibleValuesTest : public RefusedFileTest,
-                             public ::testing::WithParamInterface<Impossible> {};
+const Impossible impossible_values[] = {
+    {"SideZero", {.side_cm = 0.0}},
+    {"SideNegative", {.side_cm = -400.0}},
+    {"SideNotANumber", {.side_cm = not_a_number}},
+    {"SideInfinite", {.side_cm = infinity}},
+    {"SideTooSmallForAFloat", {.side_cm = 1e-60}},
+    {"FieldNotANumber", {.field_kG = not_a_number}},
+    {"FieldInfinite", {.field_kG = infinity}},
+    {"FieldTooLargeForAFloat", {.field_kG = 1e300}},
+    {"NegativeFieldAndNoSide", {.field_kG = -5.0, .side_cm = 0.0}},
+    {"EnergyNegative", {.energy_MeV = -1.0}},
+    {"EnergyNegativeAndTiny", {.energy_MeV = -1e-60}},
+    {"EnergyNotANumber", {.energy_MeV = not_a_number}},
+    {"EnergyInfinite", {.energy_MeV = infinity}}};
 
-TEST_P(ImpossibleValuesTest, AreRefused) {
-  expectRefusal(event_file(spiral(2), GetParam().settings), bad_data);
+TEST_F(RefusedFileTest, ImpossibleValuesAreToldAndChangeNothing) {
+  for (const Impossible& impossible : impossible_values) {
+    SCOPED_TRACE(impossible.name);
+    expectRefusal(event_file(spiral(2), impossible.settings), bad_data);
+  }
 }
 
-TEST_P(ImpossibleValuesTest, AreRefusedFromThePcEdition) {
-  expectRefusal(pc_file(spiral(2), GetParam().settings), bad_data);
+TEST_F(RefusedFileTest, ImpossibleValuesOfThePcEditionAreToldAndChangeNothing) {
+  for (const Impossible& impossible : impossible_values) {
+    SCOPED_TRACE(impossible.name);
+    expectRefusal(pc_file(spiral(2), impossible.settings), bad_data);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Values, ImpossibleValuesTest,
-    ::testing::Values(Impossible{"SideZero", {.side_cm = 0.0}},
-                      Impossible{"SideNegative", {.side_cm = -400.0}},
-                      Impossible{"SideNotANumber", {.side_cm = not_a_number}},
-                      Impossible{"SideInfinite", {.side_cm = infinity}},
-                      Impossible{"SideTooSmallForAFloat", {.side_cm = 1e-60}},
-                      Impossible{"FieldNotANumber", {.field_kG = not_a_number}},
-                      Impossible{"FieldInfinite", {.field_kG = infinity}},
-                      Impossible{"FieldTooLargeForAFloat", {.field_kG = 1e300}},
-                      Impossible{"NegativeFieldAndNoSide", {.field_kG = -5.0, .side_cm = 0.0}},
-                      Impossible{"EnergyNegative", {.energy_MeV = -1.0}},
-                      Impossible{"EnergyNegativeAndTiny", {.energy_MeV = -1e-60}},
-                      Impossible{"EnergyNotANumber", {.energy_MeV = not_a_number}},
-                      Impossible{"EnergyInfinite", {.energy_MeV = infinity}}),
-    name_of_case);
 
 /// What is no file to read, put at a path.
 struct NoFile {
@@ -164,6 +169,8 @@ TEST_P(UnloadableFileTest, IsLeftWithoutAWordAtOnce) {
   EXPECT_TRUE(dialogs().alerts.empty());
   EXPECT_EQ(differences(before, shown()), "");
 }
+
+const auto name_of_case = [](const auto& tested) { return tested.param.name; };
 
 INSTANTIATE_TEST_SUITE_P(
     Paths, UnloadableFileTest,
@@ -208,7 +215,8 @@ TEST_F(RefusedFileTest, AFileThatMayNotBeReadIsLeftWithoutAWord) {
         chamberWindow().title() != QStringLiteral("Particle Chamber: Untitled Type 6 Decay");
     const bool has_reason =
         EventDocuments::problemOfLoading(file) == QStringLiteral("Permission denied");
-    return is_shown + is_told + is_changed + !has_reason;
+    const std::array wrong{is_shown, is_told, is_changed, !has_reason};
+    return static_cast<int>(std::ranges::count(wrong, true));
   });
   EXPECT_EQ(faults, 0);
 }

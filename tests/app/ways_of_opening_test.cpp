@@ -289,8 +289,10 @@ TEST_F(ProgramTest, SaysWhyAFileCannotBeLoadedAndGoesOn) {
   EXPECT_TRUE(wait_until([&] {
     return program.windowTitles() == QStringList(QStringLiteral("Not opened")) + empty;
   })) << program.windowTitles().join(QStringLiteral(" | ")).toStdString();
-  EXPECT_TRUE(program.errors().contains(
-      QStringLiteral("velquon: cannot open /no/such?/file.cwd: No such file or directory\n")));
+  EXPECT_TRUE(wait_until([&] {
+    return program.errors().contains(
+        QStringLiteral("velquon: cannot open /no/such?/file.cwd: No such file or directory\n"));
+  })) << program.errors().toStdString();
   program.type(QStringLiteral("Not opened"), QStringLiteral("Return"));
   EXPECT_TRUE(wait_until([&] { return program.windowTitles() == empty; }));
   EXPECT_TRUE(program.isRunning());

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/engine/track_limits.h"
 #include "tests/support/case_name.h"
 #include "tests/support/event_making.h"
 #include "tests/support/float_traps.h"
@@ -19,14 +20,13 @@
 namespace velquon {
 namespace {
 
+using test::bound;
 using test::highest_draw;
 using test::lowest_draw;
 using test::moving;
 using test::ScriptedRand;
+using test::step;
 using test::usual_scale;
-
-constexpr double bound = 404.0;
-constexpr double step = 20.0;
 
 struct Track {
   std::vector<PlotPoint> slots = std::vector<PlotPoint>(360);

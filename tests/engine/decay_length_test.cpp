@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "engine/charged_track.h"
+#include "tests/engine/track_limits.h"
 #include "tests/support/case_name.h"
 #include "tests/support/event_making.h"
 #include "tests/support/float_traps.h"
@@ -21,10 +22,10 @@ namespace velquon {
 namespace {
 
 using test::moving;
+using test::step;
 using test::usual_scale;
 
 constexpr double no_wall = 1e9;
-constexpr double step = 20.0;
 constexpr std::int16_t limit = 5000;
 constexpr int tracks = 20000;
 

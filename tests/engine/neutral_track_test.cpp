@@ -25,13 +25,13 @@ using test::moving;
 using test::ScriptedRand;
 using test::usual_scale;
 
-constexpr double bound = 400.0;
+constexpr double neutral_bound = 400.0;
 
 TEST(NeutralPath, StopsAfterExactlyOneStepOnTheHighestDraw) {
   // p = m, so a mean decay length is 7.89 cm and a step a fifth of it.
   ParticleState particle = moving(lambda, {0.0, 1115.6, 0.0}, {0.0, -400.0, 0.0});
   const ScriptedRand script({highest_draw});
-  EXPECT_TRUE(neutral_path(particle, bound, usual_scale));
+  EXPECT_TRUE(neutral_path(particle, neutral_bound, usual_scale));
   EXPECT_NEAR(particle.position[0], 0.0, 1e-12);
   EXPECT_NEAR(particle.position[1], -400.0 + 0.2 * usual_scale * 7.89, 1e-12);
   EXPECT_NEAR(particle.position[2], 0.0, 1e-12);
@@ -42,7 +42,7 @@ TEST(NeutralPath, SurvivesAStepWhenItsDrawIsBelowExpOfMinusAFifth) {
   const double survival = std::exp(-0.2);
   ParticleState particle = moving(lambda, {1115.6, 0.0, 0.0});
   const ScriptedRand script({draw_of(survival - 1e-6), draw_of(survival + 1e-6)});
-  EXPECT_TRUE(neutral_path(particle, bound, usual_scale));
+  EXPECT_TRUE(neutral_path(particle, neutral_bound, usual_scale));
   EXPECT_EQ(script.draws(), 2U);
   EXPECT_NEAR(particle.position[0], 2 * 0.2 * usual_scale * 7.89, 1e-12);
 }
@@ -51,7 +51,7 @@ TEST(NeutralPath, LeavesMomentumAndEnergyAlone) {
   ParticleState particle = moving(lambda, {300.0, 400.0, -500.0});
   const ParticleState before = particle;
   const ScriptedRand script({lowest_draw, highest_draw});
-  EXPECT_TRUE(neutral_path(particle, bound, usual_scale));
+  EXPECT_TRUE(neutral_path(particle, neutral_bound, usual_scale));
   EXPECT_EQ(particle.momentum, before.momentum);
   EXPECT_EQ(particle.energy, before.energy);
 }
@@ -59,7 +59,7 @@ TEST(NeutralPath, LeavesMomentumAndEnergyAlone) {
 TEST(NeutralPath, TakesItsPolarAngleFromTheEnergyAndNotFromTheMomentum) {
   ParticleState particle = moving(lambda, {0.0, 0.0, 1115.6});
   const ScriptedRand script({highest_draw});
-  EXPECT_TRUE(neutral_path(particle, bound, usual_scale));
+  EXPECT_TRUE(neutral_path(particle, neutral_bound, usual_scale));
   // Flying along z at p = m the cosine is p / E = 1 / sqrt(2), not 1.
   const double component = 0.2 * usual_scale * 7.89 / std::sqrt(2.0);
   EXPECT_NEAR(particle.position[0], component, 1e-9);
@@ -71,7 +71,7 @@ TEST(NeutralPath, AtTheWallPointingOutLeavesOnItsFirstStepAndUsesOneDraw) {
   ParticleState particle = moving(lambda, {0.0, 1115.6, 0.0}, {0.0, 400.0, 0.0});
   const ParticleState before = particle;
   const ScriptedRand script({highest_draw});
-  EXPECT_FALSE(neutral_path(particle, bound, usual_scale));
+  EXPECT_FALSE(neutral_path(particle, neutral_bound, usual_scale));
   EXPECT_EQ(particle.position, before.position);
   EXPECT_EQ(script.draws(), 1U);
 }
@@ -82,14 +82,14 @@ TEST(NeutralPath, AVertexInTheLastUnitBeforeTheWallIsInside) {
   const double step = 0.2 * usual_scale * 7.89;
   particle.position[1] = 400.99 - step;
   const ScriptedRand script({highest_draw});
-  EXPECT_TRUE(neutral_path(particle, bound, usual_scale));
+  EXPECT_TRUE(neutral_path(particle, neutral_bound, usual_scale));
   EXPECT_NEAR(particle.position[1], 400.99, 1e-9);
 }
 
 TEST(NeutralPath, ANeutronLeavesOnItsFirstStep) {
   ParticleState particle = moving(neutron, {0.0, 10.0, 0.0}, {0.0, -400.0, 0.0});
   const ScriptedRand script({highest_draw});
-  EXPECT_FALSE(neutral_path(particle, bound, usual_scale));
+  EXPECT_FALSE(neutral_path(particle, neutral_bound, usual_scale));
   EXPECT_EQ(particle.position, (Vector3{0.0, -400.0, 0.0}));
   EXPECT_EQ(script.draws(), 1U);
 }
@@ -98,14 +98,14 @@ TEST(NeutralPath, WithoutMomentumItDecaysWhereItIsWithoutADraw) {
   ParticleState particle = pizero;
   particle.position = {1.0, 2.0, 3.0};
   const ScriptedRand script({});
-  EXPECT_TRUE(neutral_path(particle, bound, usual_scale));
+  EXPECT_TRUE(neutral_path(particle, neutral_bound, usual_scale));
   EXPECT_EQ(particle.position, (Vector3{1.0, 2.0, 3.0}));
 }
 
 TEST(NeutralPath, WithoutMassItDecaysWhereItIsWithoutADraw) {
   ParticleState particle = moving(photon, {0.0, 10.0, 0.0});
   const ScriptedRand script({});
-  EXPECT_TRUE(neutral_path(particle, bound, usual_scale));
+  EXPECT_TRUE(neutral_path(particle, neutral_bound, usual_scale));
   EXPECT_EQ(particle.position, Vector3{});
 }
 
@@ -140,14 +140,14 @@ ParticleState photon_of(double energy, const Vector3& position = {}) {
 TEST(GammaPath, APhotonOf1_99MeVEscapesWithoutADraw) {
   ParticleState particle = photon_of(1.99);
   const ScriptedRand script({});
-  EXPECT_FALSE(gamma_path(particle, bound, usual_scale));
+  EXPECT_FALSE(gamma_path(particle, neutral_bound, usual_scale));
   EXPECT_EQ(particle.position, Vector3{});
 }
 
 TEST(GammaPath, APhotonOf2MeVWalks) {
   ParticleState particle = photon_of(2.0);
   const ScriptedRand script({highest_draw});
-  EXPECT_TRUE(gamma_path(particle, bound, usual_scale));
+  EXPECT_TRUE(gamma_path(particle, neutral_bound, usual_scale));
   EXPECT_NEAR(particle.position[1], 40.0 * usual_scale, 1e-12);
   EXPECT_EQ(script.draws(), 1U);
 }
@@ -156,7 +156,7 @@ TEST(GammaPath, StepsOf40CmSurviveWhenTheDrawIsBelowExpOfMinus0_15) {
   const double survival = std::exp(-0.15);
   ParticleState particle = photon_of(50.0, {0.0, -400.0, 0.0});
   const ScriptedRand script({draw_of(survival - 1e-6), draw_of(survival + 1e-6)});
-  EXPECT_TRUE(gamma_path(particle, bound, usual_scale));
+  EXPECT_TRUE(gamma_path(particle, neutral_bound, usual_scale));
   EXPECT_NEAR(particle.position[1], -400.0 + 2 * 40.0 * usual_scale, 1e-12);
   EXPECT_EQ(script.draws(), 2U);
 }
@@ -164,7 +164,7 @@ TEST(GammaPath, StepsOf40CmSurviveWhenTheDrawIsBelowExpOfMinus0_15) {
 TEST(GammaPath, AStepOutOfTheChamberUsesItsDrawAndLeavesThePosition) {
   ParticleState particle = photon_of(50.0, {0.0, 300.0, 0.0});
   const ScriptedRand script({lowest_draw, highest_draw});
-  EXPECT_FALSE(gamma_path(particle, bound, usual_scale));
+  EXPECT_FALSE(gamma_path(particle, neutral_bound, usual_scale));
   EXPECT_EQ(script.draws(), 2U);
   EXPECT_EQ(particle.position, (Vector3{0.0, 300.0, 0.0}));
 }
@@ -173,7 +173,7 @@ TEST(GammaPath, AnEnergyThatIsNotANumberDoesNotStopIt) {
   ParticleState particle = photon_of(50.0);
   particle.energy = std::numeric_limits<double>::quiet_NaN();
   const ScriptedRand script({highest_draw});
-  EXPECT_TRUE(gamma_path(particle, bound, usual_scale));
+  EXPECT_TRUE(gamma_path(particle, neutral_bound, usual_scale));
 }
 
 TEST(GammaPath, WalksAlongTheMomentum) {
@@ -181,7 +181,7 @@ TEST(GammaPath, WalksAlongTheMomentum) {
   const Vector3 momentum{10.0, -20.0, 20.0};
   ParticleState particle = moving(photon, momentum);
   const ScriptedRand script({highest_draw});
-  EXPECT_TRUE(gamma_path(particle, bound, usual_scale));
+  EXPECT_TRUE(gamma_path(particle, neutral_bound, usual_scale));
   for (std::size_t axis = 0; axis < 3; ++axis) {
     EXPECT_NEAR(particle.position[axis], momentum[axis] / 30.0 * 40.0 * usual_scale, 1e-11);
   }

@@ -9,6 +9,7 @@
 
 #include "engine/charged_track.h"
 #include "engine/random.h"
+#include "tests/engine/track_limits.h"
 #include "tests/support/event_making.h"
 #include "tests/support/float_traps.h"
 #include "tests/support/scripted_rand.h"
@@ -16,15 +17,14 @@
 namespace velquon {
 namespace {
 
+using test::bound;
 using test::highest_draw;
 using test::lowest_draw;
 using test::moving;
 using test::position_of;
 using test::ScriptedRand;
+using test::step;
 using test::usual_scale;
-
-constexpr double bound = 404.0;
-constexpr double step = 20.0;
 
 struct Walk {
   std::vector<PlotPoint> slots = std::vector<PlotPoint>(350);

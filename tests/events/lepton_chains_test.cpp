@@ -18,6 +18,7 @@ namespace {
 
 using test::draw_of;
 using test::highest_draw;
+using test::joined;
 using test::lowest_draw;
 using test::ScriptedRand;
 using Codes = std::vector<std::int16_t>;
@@ -35,14 +36,6 @@ const std::vector<int> one_step{highest_draw};
 const std::vector<int> muon_ahead{highest_draw, lowest_draw};
 const std::vector<int> electron_ahead{draw_of(0.5), highest_draw, lowest_draw, lowest_draw};
 const std::vector<int> slow_electron{draw_of(0.1), highest_draw, lowest_draw, lowest_draw};
-
-std::vector<int> joined(const std::vector<std::vector<int>>& lists) {
-  std::vector<int> all;
-  for (const auto& list : lists) {
-    all.insert(all.end(), list.begin(), list.end());
-  }
-  return all;
-}
 
 TEST(PionChain, OnALineEachDaughterStartsAtItsParentsLastPoint) {
   // Every daughter is sent straight ahead, so that the three tracks make one line of even steps.

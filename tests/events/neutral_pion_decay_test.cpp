@@ -20,6 +20,7 @@ namespace {
 
 using test::draw_of;
 using test::highest_draw;
+using test::joined;
 using test::lowest_draw;
 using test::moving;
 using test::ScriptedRand;
@@ -123,14 +124,6 @@ const std::vector<int> pair_draws{draw_of(0.5), lowest_draw, lowest_draw};
 const std::vector<int> converts{highest_draw};
 const std::vector<int> escapes_at_once{highest_draw};
 const std::vector<int> two_leptons{highest_draw, highest_draw};
-
-std::vector<int> joined(const std::vector<std::vector<int>>& lists) {
-  std::vector<int> all;
-  for (const auto& list : lists) {
-    all.insert(all.end(), list.begin(), list.end());
-  }
-  return all;
-}
 
 Codes played_event(const std::vector<int>& draws, float field, TrackBuffer& event) {
   ChamberValues with_field = values;

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "tests/files/hex_bytes.h"
+#include "tests/files/refusals.h"
 #include "tests/support/case_name.h"
 
 namespace velquon {
@@ -17,6 +18,7 @@ namespace {
 using test::hex_bytes;
 using test::hex_text;
 using test::put_hex;
+using test::refused;
 using Bytes = std::vector<std::byte>;
 
 // A file of one point, written down byte by byte.
@@ -46,11 +48,6 @@ constexpr std::size_t energy_offset = 115;
 
 const PlotPoint the_point{.coords = {1.5, -2.0, 0.1, 1.0}, .time = 0.25, .code = 3};
 constexpr ChamberValues the_values{.B_field = 0.6F, .sides_cm = 500.0F, .kinetic_Mev = 0.4F};
-
-bool refused(const ReadResult& result) {
-  const auto* refusal = std::get_if<Refusal>(&result);
-  return refusal != nullptr && *refusal == Refusal::bad_data;
-}
 
 /// A file of n points that is as long as n says.
 Bytes file_of(std::size_t n, std::string_view count_digits) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "tests/files/hex_bytes.h"
+#include "tests/files/refusals.h"
 #include "tests/support/case_name.h"
 
 namespace velquon {
@@ -17,6 +18,7 @@ namespace {
 
 using test::hex_bytes;
 using test::put_hex;
+using test::refused;
 using Bytes = std::vector<std::byte>;
 
 // A file of two points, written down byte by byte.
@@ -39,16 +41,11 @@ constexpr auto two_point_file =
     "0000000000000080"                   // time = -0
     "04000000 00000000";                 // code 4
 
-constexpr std::size_t side_offset = 9;
-constexpr std::size_t field_offset = 17;
-constexpr std::size_t energy_offset = 25;
-constexpr std::size_t count_offset = 49;
-constexpr std::size_t code_offset = 53 + 40;
-
-bool refused(const ReadResult& result) {
-  const auto* refusal = std::get_if<Refusal>(&result);
-  return refusal != nullptr && *refusal == Refusal::bad_data;
-}
+constexpr std::size_t pc_side_offset = 9;
+constexpr std::size_t pc_field_offset = 17;
+constexpr std::size_t pc_energy_offset = 25;
+constexpr std::size_t pc_count_offset = 49;
+constexpr std::size_t pc_code_offset = 53 + 40;
 
 TEST(PcLayout, AFileOfTwoPointsIsRead) {
   const auto result = readWinData(1, hex_bytes(two_point_file));
@@ -83,7 +80,7 @@ TEST(PcLayout, OnlyAFieldBelow0IsReported) {
         FieldCase{"too small for single precision, yet below 0", "0100000000000080", 0.0F, true}}) {
     SCOPED_TRACE(row.name);
     Bytes file = hex_bytes(two_point_file);
-    put_hex(file, field_offset, row.digits);
+    put_hex(file, pc_field_offset, row.digits);
     const auto result = readWinData(1, file);
     ASSERT_TRUE(std::holds_alternative<StoredEvent>(result));
     const auto& event = std::get<StoredEvent>(result);
@@ -111,7 +108,7 @@ class PcCode : public ::testing::TestWithParam<CodeCase> {};
 
 TEST_P(PcCode, IsMappedAs32BitsBeforeItIsCut) {
   Bytes file = hex_bytes(two_point_file);
-  put_hex(file, code_offset, GetParam().digits);
+  put_hex(file, pc_code_offset, GetParam().digits);
   PlotPoint point{.code = 99};
   pc_to_mac_plot_point(point, std::span(file).subspan(53).first<WP_plot_point_size>());
   EXPECT_EQ(point.code, GetParam().code);
@@ -128,20 +125,20 @@ INSTANTIATE_TEST_SUITE_P(
                       CodeCase{"LowBitsOf32768AreNegative", "00800000", -32768}),
     test::case_name<CodeCase>);
 
-struct CountCase {
+struct PcCountCase {
   const char* name;
   std::size_t length_for;
   const char* digits;
   bool accepted;
 };
 
-class PcCount : public ::testing::TestWithParam<CountCase> {};
+class PcCount : public ::testing::TestWithParam<PcCountCase> {};
 
 TEST_P(PcCount, IsAcceptedFrom1To5000) {
-  const CountCase& row = GetParam();
+  const PcCountCase& row = GetParam();
   Bytes file = hex_bytes(two_point_file);
   file.resize(53 + 48 * row.length_for);
-  put_hex(file, count_offset, row.digits);
+  put_hex(file, pc_count_offset, row.digits);
   const auto result = readWinData(1, file);
   EXPECT_EQ(!refused(result), row.accepted);
   if (row.accepted) {
@@ -149,17 +146,17 @@ TEST_P(PcCount, IsAcceptedFrom1To5000) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Counts, PcCount,
-                         ::testing::Values(CountCase{"One", 1, "01000000", true},
-                                           CountCase{"FiveThousand", 5000, "88130000", true},
-                                           CountCase{"Zero", 5001, "00000000", false},
-                                           CountCase{"FiveThousandAndOne", 5001, "89130000", false},
-                                           CountCase{"MinusOne", 5001, "FFFFFFFF", false},
-                                           CountCase{"OneInItsLow16BitsOnly", 5001, "01000100",
-                                                     false},
-                                           CountCase{"MostNegative", 5001, "00000080", false},
-                                           CountCase{"MostPositive", 5001, "FFFFFF7F", false}),
-                         test::case_name<CountCase>);
+INSTANTIATE_TEST_SUITE_P(
+    Counts, PcCount,
+    ::testing::Values(PcCountCase{"One", 1, "01000000", true},
+                      PcCountCase{"FiveThousand", 5000, "88130000", true},
+                      PcCountCase{"Zero", 5001, "00000000", false},
+                      PcCountCase{"FiveThousandAndOne", 5001, "89130000", false},
+                      PcCountCase{"MinusOne", 5001, "FFFFFFFF", false},
+                      PcCountCase{"OneInItsLow16BitsOnly", 5001, "01000100", false},
+                      PcCountCase{"MostNegative", 5001, "00000080", false},
+                      PcCountCase{"MostPositive", 5001, "FFFFFF7F", false}),
+    test::case_name<PcCountCase>);
 
 TEST(PcLayout, AFileCutAnywhereIsRefused) {
   const Bytes file = hex_bytes(two_point_file);
@@ -176,13 +173,13 @@ TEST(PcLayout, BytesBeyondTheLastRecordAreIgnored) {
   EXPECT_FALSE(refused(readWinData(1, file)));
 }
 
-struct ValueCase {
+struct PcValueCase {
   const char* name;
   std::size_t offset;
   const char* digits;
 };
 
-class PcValue : public ::testing::TestWithParam<ValueCase> {};
+class PcValue : public ::testing::TestWithParam<PcValueCase> {};
 
 TEST_P(PcValue, IsRefusedWhenNoChamberCanHaveIt) {
   Bytes file = hex_bytes(two_point_file);
@@ -192,18 +189,18 @@ TEST_P(PcValue, IsRefusedWhenNoChamberCanHaveIt) {
 
 INSTANTIATE_TEST_SUITE_P(
     Values, PcValue,
-    ::testing::Values(ValueCase{"SideOfZero", side_offset, "0000000000000000"},
-                      ValueCase{"NegativeSide", side_offset, "0000000000407FC0"},
-                      ValueCase{"SideNotANumber", side_offset, "000000000000F87F"},
-                      ValueCase{"SideInfinite", side_offset, "000000000000F07F"},
-                      ValueCase{"FieldNotANumber", field_offset, "000000000000F8FF"},
-                      ValueCase{"FieldInfinite", field_offset, "000000000000F0FF"},
-                      ValueCase{"NegativeEnergy", energy_offset, "000000000000F0BF"},
-                      ValueCase{"NegativeEnergyTooSmallForSinglePrecision", energy_offset,
-                                "59F3F8C21F6EA581"},
-                      ValueCase{"EnergyNotANumber", energy_offset, "010000000000F07F"},
-                      ValueCase{"EnergyInfinite", energy_offset, "000000000000F07F"}),
-    test::case_name<ValueCase>);
+    ::testing::Values(PcValueCase{"SideOfZero", pc_side_offset, "0000000000000000"},
+                      PcValueCase{"NegativeSide", pc_side_offset, "0000000000407FC0"},
+                      PcValueCase{"SideNotANumber", pc_side_offset, "000000000000F87F"},
+                      PcValueCase{"SideInfinite", pc_side_offset, "000000000000F07F"},
+                      PcValueCase{"FieldNotANumber", pc_field_offset, "000000000000F8FF"},
+                      PcValueCase{"FieldInfinite", pc_field_offset, "000000000000F0FF"},
+                      PcValueCase{"NegativeEnergy", pc_energy_offset, "000000000000F0BF"},
+                      PcValueCase{"NegativeEnergyTooSmallForSinglePrecision", pc_energy_offset,
+                                  "59F3F8C21F6EA581"},
+                      PcValueCase{"EnergyNotANumber", pc_energy_offset, "010000000000F07F"},
+                      PcValueCase{"EnergyInfinite", pc_energy_offset, "000000000000F07F"}),
+    test::case_name<PcValueCase>);
 
 }  // namespace
 }  // namespace velquon

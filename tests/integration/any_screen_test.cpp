@@ -9,11 +9,10 @@
 #include <cmath>
 
 #include "render/chamber_scene.h"
-#include "tests/support/windows/application_fixture.h"
+#include "tests/integration/screen_fixture.h"
 #include "tests/support/windows/input.h"
 #include "tests/support/windows/matrices.h"
 #include "tests/support/windows/pictures.h"
-#include "tests/support/windows/placement.h"
 #include "tests/support/windows/real_input.h"
 #include "tests/support/windows/screen_settings.h"
 #include "tests/support/windows/screen_view.h"
@@ -40,10 +39,10 @@ std::vector<int> runs_along(const QImage& picture, int column, int from, int to,
   return runs;
 }
 
-class AnyScreenTest : public ApplicationFixture {
+class AnyScreenTest : public ScreenFixture {
  protected:
   void SetUp() override {
-    ApplicationFixture::SetUp();
+    ScreenFixture::SetUp();
     const QByteArray named = qgetenv("VELQUON_TEST_RATIO");
     ratio_ = named.isEmpty() ? 1.0 : named.toDouble();
     if (can_change_screen_ratio()) {
@@ -59,7 +58,7 @@ class AnyScreenTest : public ApplicationFixture {
     if (can_change_screen_ratio()) {
       EXPECT_TRUE(change_screen_ratio(1.0, chamber()));
     }
-    ApplicationFixture::TearDown();
+    ScreenFixture::TearDown();
   }
 
   /// Drags the X server's mouse from one pixel of a view to another, counted from its upper left one.
@@ -203,12 +202,7 @@ TEST_F(AnyScreenTest, TheGrabToolMovesThePictureByThePixelsOfTheMouse) {
 }
 
 TEST_F(AnyScreenTest, EveryWindowAndDialogOpensWithinIt) {
-  expect_on_screen(chamberWindow());
-  expect_on_screen(projectorWindow());
-  ASSERT_NO_FATAL_FAILURE(showTrackWindow());
-  expect_on_screen(application().trackWindow());
-  choose("activate_item");
-  activate(chamberWindow());
+  ASSERT_NO_FATAL_FAILURE(expectWindowsOfViewsOnScreen());
   choose("new_event_item");
   for (const char* const item : window_items) {
     expect_window_on_screen([&] { choose(item); });

@@ -27,7 +27,7 @@ constexpr QRgb bright = 0xFFFFFFFF;
 /// The projection of the first event as the program saves it at a scale of the screen.
 QImage projection_at(int scale) {
   const QTemporaryDir folder;
-  const Ending ending = run_program(
+  const ProgramEnd ending = run_program(
       VELQUON_PROGRAM,
       {QStringLiteral("--pictures"), folder.path(), QStringLiteral("--seed"), QStringLiteral("7")},
       {QStringLiteral("QT_SCALE_FACTOR=%1").arg(scale)});

@@ -69,7 +69,7 @@ const FileSettings start_up{.field_kG = static_cast<double>(0.6F),
 
 TEST_F(OtherProcessTest, SavesUnderTheLongestNameThatFitsATitle) {
   const QString file = path(name_of_length(237));
-  const Ending ending = run_program(SCRIPTED_PROGRAM, {QStringLiteral("save"), file});
+  const ProgramEnd ending = run_program(SCRIPTED_PROGRAM, {QStringLiteral("save"), file});
   EXPECT_FALSE(ending.crashed);
   EXPECT_EQ(ending.status, 0) << ending.errors.toStdString();
   EXPECT_EQ(read(file), event_file(spiral(3), start_up));
@@ -80,7 +80,7 @@ TEST_F(OtherProcessTest, EndsAfterSavingUnderANameTooLongForATitle) {
   const QString accented = QString(117, QChar(0xE9)) + QStringLiteral(".cwd");
   for (const QString& name : {name_of_length(238), name_of_length(247), accented}) {
     const QString file = path(name);
-    const Ending ending = run_program(SCRIPTED_PROGRAM, {QStringLiteral("save"), file});
+    const ProgramEnd ending = run_program(SCRIPTED_PROGRAM, {QStringLiteral("save"), file});
     EXPECT_TRUE(ending.crashed);
     EXPECT_TRUE(ending.errors.endsWith(long_name_message(name))) << ending.errors.toStdString();
     EXPECT_EQ(read(file), event_file(spiral(3), start_up));
@@ -89,7 +89,7 @@ TEST_F(OtherProcessTest, EndsAfterSavingUnderANameTooLongForATitle) {
 
 TEST_F(OtherProcessTest, EndsOnOpeningAFileWithANameTooLongForATitle) {
   const QString name = name_of_length(238);
-  const Ending ending = run_program(VELQUON_PROGRAM, {write(name, event_file(spiral(3)))});
+  const ProgramEnd ending = run_program(VELQUON_PROGRAM, {write(name, event_file(spiral(3)))});
   EXPECT_TRUE(ending.crashed);
   EXPECT_TRUE(ending.errors.contains(long_name_message(name))) << ending.errors.toStdString();
 }
@@ -115,7 +115,7 @@ TEST_F(OtherProcessTest, KilledWhileItSavesLeavesAWholeFile) {
 }
 
 TEST_F(OtherProcessTest, TellsWhyAPictureIsNotWritten) {
-  const Ending ending = run_program(
+  const ProgramEnd ending = run_program(
       VELQUON_PROGRAM, {QStringLiteral("--pictures"), path(QStringLiteral("."))},
       as_qt(velquon::test::variables_of({{.call = "fsync", .error = EIO}}, CALL_FAULTS_LIBRARY)));
   EXPECT_EQ(ending.status, 1);
@@ -145,7 +145,7 @@ TEST_F(OtherProcessTest, PrintsTheSameWhateverTheScreensScale) {
     std::vector<QString> words;
     for (const char* const scale : {"1", "2"}) {
       const QString page = path(QLatin1String(scale) + QStringLiteral(".pdf"));
-      const Ending ending =
+      const ProgramEnd ending =
           run_program(SCRIPTED_PROGRAM, {QStringLiteral("print"), QLatin1String(view), event, page},
                       {QStringLiteral("QT_SCALE_FACTOR=") + QLatin1String(scale)});
       ASSERT_EQ(ending.status, 0);

@@ -86,11 +86,7 @@ class ProgramTest : public testing::Test {
   }
   /// An event file of 5000 points, whose replay takes 50 s at least.
   [[nodiscard]] QString largeEvent() {
-    std::vector<PlotPoint> points;
-    for (int i = 0; i < 5000; ++i) {
-      points.push_back(point_at(0.0, i % 701 - 350, i % 613 - 306, 3));
-    }
-    const auto bytes = encode_event(points, ChamberValues{});
+    const auto bytes = encode_event(spread_points(5000), ChamberValues{});
     QFile file(folder_.filePath(QStringLiteral("large.cwd")));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<qint64>(bytes.size()));

@@ -25,10 +25,10 @@ class ScaledTest : public ApplicationFixture {
     ASSERT_EQ(chamber().size(), QSize(chamber_width, chamber_height));
   }
 
-  [[nodiscard]] QPointF pixel(const Place& place) const { return camera_.pixel(place) * ratio; }
+  [[nodiscard]] QPointF pixel(const Vector& place) const { return camera_.pixel(place) * ratio; }
 
  private:
-  const Camera camera_ = resting_camera();
+  const PictureCamera camera_ = resting_camera();
 };
 
 }  // namespace

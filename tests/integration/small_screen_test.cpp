@@ -12,8 +12,7 @@
 #include <QWindow>
 #include <array>
 
-#include "tests/support/windows/application_fixture.h"
-#include "tests/support/windows/placement.h"
+#include "tests/integration/screen_fixture.h"
 #include "tests/support/windows/waiting.h"
 #include "track/track_window.h"
 #include "widgets/view_scroll_area.h"
@@ -55,11 +54,11 @@ class Panel {
   QWidget panel_;
 };
 
-class SmallScreenTest : public ApplicationFixture {
+class SmallScreenTest : public ScreenFixture {
  protected:
   void SetUp() override {
     ASSERT_LE(available_screen().height(), 600) << "this screen is not a small one";
-    ApplicationFixture::SetUp();
+    ScreenFixture::SetUp();
   }
 
   /// Where a widget is seen whole, its own rectangle; else less.
@@ -147,12 +146,7 @@ bool has_all(const QStringList& found, const QStringList& wanted) {
 }  // namespace
 
 TEST_F(SmallScreenTest, EveryWindowOpensWithinIt) {
-  expect_on_screen(chamberWindow());
-  expect_on_screen(projectorWindow());
-  ASSERT_NO_FATAL_FAILURE(showTrackWindow());
-  expect_on_screen(application().trackWindow());
-  choose("activate_item");
-  activate(chamberWindow());
+  ASSERT_NO_FATAL_FAILURE(expectWindowsOfViewsOnScreen());
   for (const char* const item : window_items) {
     expect_window_on_screen([&] { choose(item); });
   }
@@ -201,12 +195,7 @@ TEST_F(SmallScreenTest, AViewTooNarrowAtFirstStartsScrolledToItsPointToo) {
 }
 
 TEST_F(SmallScreenWithPanelTest, EveryWindowOpensBesideThePanel) {
-  expect_on_screen(chamberWindow());
-  expect_on_screen(projectorWindow());
-  ASSERT_NO_FATAL_FAILURE(showTrackWindow());
-  expect_on_screen(application().trackWindow());
-  choose("activate_item");
-  activate(chamberWindow());
+  ASSERT_NO_FATAL_FAILURE(expectWindowsOfViewsOnScreen());
   expect_dialog_on_screen([&] { choose("print_item"); });
 }
 

@@ -5,6 +5,7 @@
 // file.
 
 #include "model/chamber_model.h"
+#include "tests/model/made_events.h"
 
 #include <gtest/gtest.h>
 
@@ -16,8 +17,6 @@ namespace velquon::test {
 namespace {
 
 constexpr std::uint32_t seed = 20'240'611;
-constexpr int positive_muon = 4;
-constexpr int negative_pion = 0;
 
 std::vector<PlotPoint> copy_of(std::span<const PlotPoint> points) {
   return {points.begin(), points.end()};

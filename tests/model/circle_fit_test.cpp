@@ -14,12 +14,11 @@
 #include <vector>
 
 #include "model/arc.h"
+#include "tests/model/degree.h"
 
 namespace velquon::test {
 
 namespace {
-
-constexpr double degree = std::numbers::pi / 180.0;
 
 /// Places on a circle, evenly from one direction to another.
 std::vector<Place> places_on(Place centre, double radius, double from_deg, double to_deg,
@@ -32,9 +31,9 @@ std::vector<Place> places_on(Place centre, double radius, double from_deg, doubl
   return places;
 }
 
-class Hand {
+class ShakyHand {
  public:
-  explicit Hand(double error) : error_(0.0, error) {}
+  explicit ShakyHand(double error) : error_(0.0, error) {}
 
   std::vector<Place> place(std::vector<Place> places) {
     for (Place& place : places) {
@@ -113,7 +112,7 @@ TEST(ArcTest, TheErrorsAreThoseThatPlacingMakes) {
     const auto places = places_on({20.0, 300.0}, radius, from, to, count);
     const auto told = arc_through(places, hand_error);
     ASSERT_TRUE(told.has_value());
-    Hand hand(hand_error);
+    ShakyHand hand(hand_error);
     std::array<std::vector<double>, 3> seen;
     for (int i = 0; i < repetitions; ++i) {
       const auto arc = arc_through(hand.place(places), hand_error);
@@ -135,7 +134,7 @@ TEST(ArcTest, MorePlacesTellTheirSpreadThemselves) {
   // Placed four times as badly as is taken for granted, by 40 places each.
   constexpr double hand_error = 2.0;
   const auto places = places_on({0.0, 0.0}, 180.0, 0.0, 110.0, 40);
-  Hand hand(hand_error);
+  ShakyHand hand(hand_error);
   std::vector<double> pulls;
   for (int i = 0; i < 1500; ++i) {
     const auto arc = arc_through(hand.place(places));
@@ -155,7 +154,7 @@ TEST(ArcTest, PlacesThatHappenToFitAreNotTakenForExact) {
 }
 
 TEST(ArcTest, ItsFitHasTheLeastSquaresOfDistances) {
-  Hand hand(3.0);
+  ShakyHand hand(3.0);
   const auto places = hand.place(places_on({10.0, 20.0}, 60.0, 0.0, 150.0, 8));
   const auto arc = arc_through(places);
   ASSERT_TRUE(arc.has_value());

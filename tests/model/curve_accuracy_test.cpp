@@ -74,7 +74,7 @@ std::vector<Track> tracks_of(const EventTracks& event, const Projector& projecto
 }
 
 /// A click a pixel off, in any direction.
-class Hand {
+class HandAPixelOff {
  public:
   Place off(Place place) {
     const double direction = direction_(random_);
@@ -104,14 +104,14 @@ void lay_curves(Projector& projector, const std::shared_ptr<const ShownEvent>& e
 
 TEST(CurveAccuracyTest, ThreeClicksAPixelOffGiveTheMomentumWithinThreePerCent) {
   struct Setting {
-    const char* type;
+    const char* type = nullptr;
     ChamberValues values;
   };
   constexpr std::array settings{
       Setting{"pi+", {1.0F, 500.0F, 5.0F}}, Setting{"mu-", {0.8F, 500.0F, 5.0F}},
       Setting{"mu+", {1.2F, 300.0F, 5.0F}}, Setting{"pi-", {1.0F, 400.0F, 1.0F}},
       Setting{"pi0", {1.5F, 500.0F, 2.0F}}, Setting{"lambda", {7.0F, 500.0F, 40.0F}}};
-  Hand hand;
+  HandAPixelOff hand;
   int clicked = 0;
   double worst = 0.0;
   for (const auto& [key, values] : settings) {
@@ -159,7 +159,7 @@ TEST(CurveAccuracyTest, ThreeClicksThatSnapGiveTheMomentumItself) {
   const auto type = std::ranges::find_if(
       event_types(), [](const EventType& known) { return known.key == std::string_view("mu-"); });
   ASSERT_NE(type, event_types().end());
-  Hand hand;
+  HandAPixelOff hand;
   int clicked = 0;
   for (EventTracks& made : seeded_events(*type, values, 5, 60)) {
     const std::shared_ptr<const ShownEvent> event = event_of(std::move(made), values);

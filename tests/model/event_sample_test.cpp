@@ -17,14 +17,13 @@
 #include "model/event_rows.h"
 #include "model/measured_sample.h"
 #include "model/measurement_of_event.h"
+#include "tests/support/type_places.h"
 
 namespace velquon {
 
 namespace {
 
 constexpr ChamberValues lively{.B_field = 2.0F, .sides_cm = 500.0F, .kinetic_Mev = 40.0F};
-constexpr std::size_t pion_type = 1;
-constexpr std::size_t lambda_type = 5;
 
 /// Records of events of a type, one behind the other; without those of which nothing is known.
 std::vector<ParticleRecord> records(std::size_t type, int events, const ChamberValues& values) {
@@ -71,7 +70,7 @@ ReadEvents read_table(const std::string& text, std::size_t piece) {
       });
   bool is_good = true;
   for (std::size_t at = 0; at < text.size() && is_good; at += piece) {
-    is_good = reader.take(std::string_view(text).substr(at, piece));
+    is_good = reader.take(std::string_view{text}.substr(at, piece));
   }
   read.is_whole = reader.finish();
   read.line = reader.line();
@@ -91,7 +90,7 @@ bool same(const RecordedParticle& left, const RecordedParticle& right) {
 }  // namespace
 
 TEST(ParticleTableReaderTest, ReadsBackEveryParticleInPiecesOfAnySize) {
-  for (const std::size_t type : {pion_type, lambda_type}) {
+  for (const std::size_t type : {test::positive_pion, test::lambda_type}) {
     const auto made = records(type, 30, lively);
     for (const std::size_t piece : {std::size_t{1}, std::size_t{100}, std::size_t{1U << 20U}}) {
       const ReadEvents read = read_table(table_of(made), piece);
@@ -106,7 +105,7 @@ TEST(ParticleTableReaderTest, ReadsBackEveryParticleInPiecesOfAnySize) {
 }
 
 TEST(ParticleTableReaderTest, RefusesWhatIsDamagedAndSaysWhere) {
-  const std::string whole = table_of(records(pion_type, 3, lively));
+  const std::string whole = table_of(records(test::positive_pion, 3, lively));
   const std::size_t second = whole.find('\n') + 1;
   const auto with = [&](const std::string& line) { return whole.substr(0, second) + line + "\n"; };
   const std::string tail = ",0,0,0,1,0,0,140,,,";
@@ -145,7 +144,7 @@ TEST(ParticleTableReaderTest, RefusesWhatIsDamagedAndSaysWhere) {
 TEST(EventSampleTest, ADecayLengthIsTheFlightOfThePrimaryAndWhatLeftIsMarked) {
   int decayed = 0;
   int left = 0;
-  for (const ParticleRecord& record : records(pion_type, 200, lively)) {
+  for (const ParticleRecord& record : records(test::positive_pion, 200, lively)) {
     const auto noted = measurement_of(SampledQuantity::decay_length, record.particles(), lively);
     if (record.particles().empty()) {
       EXPECT_FALSE(noted);
@@ -203,7 +202,7 @@ TEST(EventSampleTest, TheDecayLengthOfManyPionsIsFoundAgain) {
   // Most pions of 40 MeV leave a chamber of 5 m.
   MeasurementTable rows;
   double expected = 0.0;
-  for (const ParticleRecord& record : records(pion_type, 4000, lively)) {
+  for (const ParticleRecord& record : records(test::positive_pion, 4000, lively)) {
     if (auto noted = measurement_of(SampledQuantity::decay_length, record.particles(), lively)) {
       rows.push_back(*noted);
       expected = *event_rows(record, lively).front().decay_length_cm;
@@ -221,7 +220,7 @@ TEST(EventNumberingTest, NumbersEachEventThatIsShown) {
   ChamberModel model(1);
   const EventNumbering numbering(model);
   EXPECT_EQ(numbering.nameOfShown(), "");
-  model.setEventType(pion_type);
+  model.setEventType(test::positive_pion);
   model.setNext(lively);
   model.makeNewEvent();
   EXPECT_EQ(numbering.nameOfShown(), "Untitled Type 2 Decay 1");
@@ -235,7 +234,7 @@ TEST(EventNumberingTest, NumbersEachEventThatIsShown) {
 TEST(EventNumberingTest, AnEventThatIsShownAgainKeepsItsNumber) {
   ChamberModel model(1);
   const EventNumbering numbering(model);
-  model.setEventType(pion_type);
+  model.setEventType(test::positive_pion);
   model.setNext(lively);
   for (int i = 0; i < 3; ++i) {
     model.makeNewEvent();

@@ -14,31 +14,20 @@
 #include <string>
 
 #include "events/event_types.h"
+#include "tests/model/made_events.h"
 
 namespace velquon::test {
 
 namespace {
 
-constexpr std::size_t negative_pion = 0;
-constexpr std::size_t positive_pion = 1;
-constexpr std::size_t neutral_pion = 2;
-constexpr std::size_t lambda_type = 5;
-constexpr ChamberValues usual{.B_field = 3.0F, .sides_cm = 500.0F, .kinetic_Mev = 60.0F};
-constexpr ChamberValues without_field{.B_field = 0.0F, .sides_cm = 500.0F, .kinetic_Mev = 60.0F};
 constexpr ChamberValues fast_in_small{.B_field = 3.0F, .sides_cm = 50.0F, .kinetic_Mev = 5000.0F};
 constexpr double step_cm = 12.5;  // 20 drawing units in a chamber of 500 cm
 
-ShownEvent made(std::size_t type, const ChamberValues& values, unsigned seed) {
-  std::srand(seed);
-  TrackBuffer buffer;
-  auto tracks = std::make_shared<EventTracks>();
-  ParticleRecord record;
-  EXPECT_EQ(make_event(event_types()[type], values, buffer, &record), HandOver::yes);
-  tracks->points.assign(buffer.points().begin(), buffer.points().end());
-  tracks->type = type;
-  tracks->values = values;
-  tracks->record = std::move(record);
-  return {.tracks = std::move(tracks), .values = values, .name = {}, .has_event = true};
+ShownEvent shown(std::size_t type, const ChamberValues& values, unsigned seed) {
+  return {.tracks = std::make_shared<EventTracks>(made(type, values, seed)),
+          .values = values,
+          .name = {},
+          .has_event = true};
 }
 
 ShownEvent of_file(std::vector<PlotPoint> points, float side_cm = 500.0F) {
@@ -60,7 +49,7 @@ ShownEvent first_event(std::size_t type, const ChamberValues& values,
                        const std::function<bool(const ShownEvent&)>& is_wanted) {
   constexpr unsigned most_seeds = 3000;
   for (unsigned seed = 1; seed < most_seeds; ++seed) {
-    ShownEvent event = made(type, values, seed);
+    ShownEvent event = shown(type, values, seed);
     if (is_wanted(event)) {
       return event;
     }
@@ -120,17 +109,17 @@ TEST(EventWordsTest, TwoPointsOrATrackAlongZTurnNeitherWay) {
 
 TEST(EventWordsTest, OppositeChargesTurnOppositeWays) {
   const auto bend_of_primary = [](std::size_t type) {
-    return event_in_words(made(type, usual, 1), true).tracks.at(0).bend;
+    return event_in_words(shown(type, usual, 1), true).tracks.at(0).bend;
   };
   EXPECT_EQ(bend_of_primary(positive_pion), Bend::clockwise);
   EXPECT_EQ(bend_of_primary(negative_pion), Bend::anticlockwise);
-  EXPECT_EQ(event_in_words(made(positive_pion, without_field, 1), true).tracks.at(0).bend,
+  EXPECT_EQ(event_in_words(shown(positive_pion, without_field, 1), true).tracks.at(0).bend,
             Bend::straight);
 }
 
 TEST(EventWordsTest, ALengthIsThatOfTheStepsBetweenThePointsInCentimetres) {
   for (const bool answers_shown : {true, false}) {
-    const ShownEvent event = made(positive_pion, usual, 1);
+    const ShownEvent event = shown(positive_pion, usual, 1);
     const SeenTrack track = event_in_words(event, answers_shown).tracks.at(0);
     EXPECT_GT(track.points, 5U);
     EXPECT_NEAR(track.length_cm, static_cast<double>(track.points - 1) * step_cm,
@@ -173,7 +162,7 @@ TEST(EventWordsTest, TheLinesOfAFilesPointsAreTheTracksOfItsEvent) {
   int events = 0;
   for (std::size_t type = 0; type < event_types().size(); ++type) {
     for (unsigned seed = 1; seed <= 200; ++seed) {
-      const ShownEvent event = made(type, usual, seed);
+      const ShownEvent event = shown(type, usual, seed);
       const auto known = event_in_words(event, true).tracks;
       const auto seen = event_in_words(without_record(event), true).tracks;
       ++events;
@@ -236,7 +225,7 @@ TEST(EventWordsTest, HiddenAnswersLeaveWhatIsSeen) {
   const ShownEvent empty = first_event(
       lambda_type, usual, [](const ShownEvent& tried) { return tried.points().empty(); });
   EXPECT_TRUE(event_in_words(empty, false).unseen.empty());
-  const auto tracks = event_in_words(made(negative_pion, usual, 1), false).tracks;
+  const auto tracks = event_in_words(shown(negative_pion, usual, 1), false).tracks;
   ASSERT_FALSE(tracks.empty());
   for (const SeenTrack& track : tracks) {
     EXPECT_EQ(track.particle, nullptr);

@@ -13,30 +13,11 @@
 #include <vector>
 
 #include "events/event_types.h"
+#include "tests/model/made_events.h"
 
 namespace velquon::test {
 
 namespace {
-
-constexpr std::size_t negative_pion = 0;
-constexpr std::size_t neutral_pion = 2;
-constexpr std::size_t negative_muon = 3;
-constexpr std::size_t lambda_type = 5;
-constexpr ChamberValues usual{.B_field = 3.0F, .sides_cm = 500.0F, .kinetic_Mev = 60.0F};
-constexpr ChamberValues without_field{.B_field = 0.0F, .sides_cm = 500.0F, .kinetic_Mev = 60.0F};
-
-EventTracks made(std::size_t type, const ChamberValues& values, unsigned seed) {
-  std::srand(seed);
-  TrackBuffer buffer;
-  EventTracks tracks;
-  ParticleRecord record;
-  EXPECT_EQ(make_event(event_types()[type], values, buffer, &record), HandOver::yes);
-  tracks.points.assign(buffer.points().begin(), buffer.points().end());
-  tracks.type = type;
-  tracks.values = values;
-  tracks.record = std::move(record);
-  return tracks;
-}
 
 EventTracks of_codes(const std::vector<std::int16_t>& codes) {
   EventTracks tracks;
@@ -152,6 +133,7 @@ TEST(LegendTest, HiddenAnswersLeaveTheCodesAlone) {
 TEST(LegendTest, ColoursAreThoseOfTheTable) {
   const auto entries = legend_of(of_codes({2, 3, 4, 5, 6, 7, 8}), true);
   std::vector<std::size_t> rows;
+  rows.reserve(entries.size());
   for (const LegendEntry& entry : entries) {
     rows.push_back(entry.color);
   }

@@ -8,7 +8,9 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <initializer_list>
 #include <random>
+#include <string_view>
 
 #include "tests/support/case_name.h"
 
@@ -29,6 +31,14 @@ Measurement full_row() {
           .longest_cm = unknown_number,
           .note = "first try",
           .file = "anna.csv"};
+}
+
+std::string joined(std::initializer_list<std::string_view> parts) {
+  std::string text;
+  for (const std::string_view part : parts) {
+    text += part;
+  }
+  return text;
 }
 
 MeasurementTable read_back(const MeasurementTable& rows) {
@@ -114,10 +124,10 @@ TEST(MeasurementFileTest, EveryQuantityIsReadBack) {
 
 TEST(MeasurementFileTest, OtherLineEndsAndAMarkBeforeTheTextAreAccepted) {
   const std::string row = "1,e,length,xy,2,,cm,0.6,,,,";
-  for (const std::string& text :
-       {header + "\n" + row + "\n", header + "\r\n" + row, header + "\n" + row + "\n\n\n",
-        "\xEF\xBB\xBF" + header + "\r\n" + row + "\r\n",
-        "\"number\"" + header.substr(6) + "\n" + row}) {
+  for (const std::string& text : {joined({header, "\n", row, "\n"}), joined({header, "\r\n", row}),
+                                  joined({header, "\n", row, "\n\n\n"}),
+                                  joined({"\xEF\xBB\xBF", header, "\r\n", row, "\r\n"}),
+                                  joined({"\"number\"", header.substr(6), "\n", row})}) {
     const auto result = decode_measurements(text);
     ASSERT_TRUE(std::holds_alternative<MeasurementTable>(result)) << text;
     const auto& rows = std::get<MeasurementTable>(result);

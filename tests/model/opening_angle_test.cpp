@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "model/opening_angle.h"
+#include "tests/model/degree.h"
 
 #include <gtest/gtest.h>
 
@@ -13,8 +14,6 @@
 namespace velquon::test {
 
 namespace {
-
-constexpr double degree = std::numbers::pi / 180.0;
 
 Place arm(Place vertex, double length, double direction_deg) {
   return vertex + Place{length * std::cos(direction_deg * degree),

@@ -114,7 +114,7 @@ TEST(ProjectorToolsTest, CurveReadsTheSameLengthsAtEachZoom) {
   for (const float zoom : {1.0F, 2.0F, 3.0F}) {
     Projector projector = projector_with(ProjectorTool::curve);
     projector.setZoom(zoom);
-    const double times = static_cast<double>(zoom);
+    const auto times = static_cast<double>(zoom);
     for (const Place place : half_circle) {
       click(projector, {place.x * times, place.y * times});
     }
@@ -166,7 +166,7 @@ TEST(ProjectorToolsTest, AngleWithAllItsPointsBeginsAnew) {
 TEST(ProjectorToolsTest, APressNearAPointDragsItAndOneFartherOffSetsAnother) {
   struct Case {
     Place press;
-    bool takes_hold;
+    bool takes_hold = false;
   };
   constexpr std::array cases{Case{{100.0, 200.0}, true}, Case{{105.0, 200.0}, true},
                              Case{{97.0, 204.0}, true}, Case{{105.5, 200.0}, false},
@@ -200,7 +200,7 @@ TEST(ProjectorToolsTest, OfTwoPointsInReachTheNearerIsTaken) {
 TEST(ProjectorToolsTest, APointIsSetOntoAPointOfTheEventThatIsNear) {
   struct Case {
     Place click;
-    bool snaps;
+    bool snaps = false;
   };
   constexpr std::array cases{
       Case{displayed + Place{4.0, 0.0}, true}, Case{displayed + Place{-2.8, 2.8}, true},
@@ -237,7 +237,7 @@ TEST(ProjectorToolsTest, SnappingGoesByThePlaneAndTheZoom) {
   projector.show(event_of({{{10.0, 30.0, 50.0, 1.0}, 0.0, 3}}, 1.0F));
   projector.setSnaps(true);
   struct Case {
-    ProjectionPlane plane;
+    ProjectionPlane plane = ProjectionPlane::xy;
     Place across_and_up;
   };
   constexpr std::array cases{Case{ProjectionPlane::xy, {30.0, -10.0}},

@@ -12,7 +12,7 @@ namespace velquon::test {
 TEST(ShownEventTest, ValuesAreTold) {
   struct Case {
     ChamberValues values;
-    const char* text;
+    const char* text = nullptr;
   };
   constexpr std::array cases{
       Case{{}, "B = 0.6 kG, T = 0.4 MeV, L = 5 m"},

@@ -71,12 +71,31 @@ class TrackAnswersTest : public testing::TestWithParam<ChamberValues> {
 bool is_measurable(const MeasuredTrack& track, double radius_cm, double side_cm) {
   const double step_cm = side_cm / 40.0;
   const std::size_t steps = track.places.size() - 1;
-  return steps >= 4 && step_cm<radius_cm&& static_cast<double>(steps) * step_cm> radius_cm / 20;
+  return steps >= 4 && radius_cm > step_cm && static_cast<double>(steps) * step_cm > radius_cm / 20;
+}
+
+double arc_through(const std::vector<Place2>& places, double radius) {
+  double arc = 0.0;
+  for (std::size_t k = 1; k < places.size(); ++k) {
+    arc += 2.0 * radius * std::asin(std::abs(places[k] - places[k - 1]) / (2.0 * radius));
+  }
+  return arc;
+}
+
+/// The track of a particle's parent, or the end.
+std::vector<MeasuredTrack>::const_iterator parent_of(const MeasuredTrack& track,
+                                                     const std::vector<MeasuredTrack>& tracks,
+                                                     const EventTracks& event) {
+  const auto number = track.particle->parent;
+  return number < 0 ? tracks.end()
+                    : std::ranges::find(
+                          tracks, &event.record->particles()[static_cast<std::size_t>(number)],
+                          &MeasuredTrack::particle);
 }
 
 TEST_P(TrackAnswersTest, RadiusLengthAndAngleAreThoseOfTheCirclesThroughThePoints) {
   const ChamberValues values = GetParam();
-  const double side_cm = static_cast<double>(values.sides_cm);
+  const auto side_cm = static_cast<double>(values.sides_cm);
   int radii = 0;
   int angles = 0;
   for (const EventType& type : event_types()) {
@@ -98,18 +117,9 @@ TEST_P(TrackAnswersTest, RadiusLengthAndAngleAreThoseOfTheCirclesThroughThePoint
         EXPECT_NEAR(answer.transverse_momentum,
                     0.3 * std::fabs(static_cast<double>(values.B_field)) * radius,
                     1e-6 * answer.momentum);
-        double arc = 0.0;
-        for (std::size_t k = 1; k < places.size(); ++k) {
-          arc += 2.0 * radius * std::asin(std::abs(places[k] - places[k - 1]) / (2.0 * radius));
-        }
-        EXPECT_NEAR(answer.paper_length_cm / arc, 1.0, 1e-5) << type.key;
+        EXPECT_NEAR(answer.paper_length_cm / arc_through(places, radius), 1.0, 1e-5) << type.key;
         ++radii;
-        const auto parent = std::ranges::find_if(tracks, [&](const MeasuredTrack& track) {
-          return tracks[i].particle->parent >= 0 &&
-                 track.particle ==
-                     &event.record
-                          ->particles()[static_cast<std::size_t>(tracks[i].particle->parent)];
-        });
+        const auto parent = parent_of(tracks[i], tracks, event);
         if (parent == tracks.end()) {
           continue;
         }

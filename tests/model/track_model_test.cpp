@@ -13,7 +13,7 @@
 namespace velquon {
 namespace {
 
-constexpr std::uint64_t start = 1'000'000;  // microseconds
+constexpr std::uint64_t begun = 1'000'000;  // microseconds
 
 /// A model that is used as the window uses it.
 class TrackModelTest : public ::testing::Test {
@@ -25,7 +25,7 @@ class TrackModelTest : public ::testing::Test {
   void begin() {
     model.enter(timed_start);
     model.setTracking(true);
-    model.startPace(start);
+    model.startPace(begun);
   }
   void injectAndBegin() {
     model.inject();
@@ -342,13 +342,13 @@ TEST_F(TrackModelTest, AScreenSpeedIsThePeriodOfTheNextRunAndNoneIsThatOfTheStar
 
 TEST_F(TrackModelTest, ARunKeepsThePaceWithWhichItStarted) {
   injectAndBegin();
-  EXPECT_EQ(model.takeStepsDue(start + 10'000), 1U);
+  EXPECT_EQ(model.takeStepsDue(begun + 10'000), 1U);
   model.setScreenSpeed(ScreenSpeed::faster);
-  EXPECT_EQ(model.takeStepsDue(start + 50'000), 4U) << "periods of 10 ms";
-  EXPECT_EQ(model.takeStepsDue(start + 5'000'000), 1U) << "a standstill is not made up for";
+  EXPECT_EQ(model.takeStepsDue(begun + 50'000), 4U) << "periods of 10 ms";
+  EXPECT_EQ(model.takeStepsDue(begun + 5'000'000), 1U) << "a standstill is not made up for";
   begin();
-  EXPECT_EQ(model.takeStepsDue(start + 5'000), 1U);
-  EXPECT_EQ(model.takeStepsDue(start + 25'000), 4U) << "periods of 5 ms";
+  EXPECT_EQ(model.takeStepsDue(begun + 5'000), 1U);
+  EXPECT_EQ(model.takeStepsDue(begun + 25'000), 4U) << "periods of 5 ms";
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ namespace {
 
 class GrabTest : public ApplicationFixture {
  protected:
-  /// Its place in the picture is (100, 210.3) zoomed at zooms 1, 2 and 3.
+  /// Its place in the picture is (100, 210.3) zoomed at grab_zooms 1, 2 and 3.
   const std::array<PlotPoint, 1> mark_{point_at(0.6, -369.4, 0.0, 3)};
 
   /// The one pixel that the mark adds to the frame.
@@ -49,13 +49,13 @@ class GrabTest : public ApplicationFixture {
   }
 };
 
-struct ZoomCase {
+struct GrabZoom {
   const char* button;
   double across;  ///< pixels of the picture a pixel of the mouse
   double up;
 };
-constexpr std::array zooms{ZoomCase{"zoom_1", 0.5, 0.5}, ZoomCase{"zoom_2", 1.0, 0.5},
-                           ZoomCase{"zoom_3", 1.5, 0.5}};
+constexpr std::array grab_zooms{GrabZoom{"zoom_1", 0.5, 0.5}, GrabZoom{"zoom_2", 1.0, 0.5},
+                                GrabZoom{"zoom_3", 1.5, 0.5}};
 
 }  // namespace
 
@@ -69,7 +69,7 @@ TEST_F(GrabTest, TenUnitsToTheRightMoveThePictureByFive) {
 
 TEST_F(GrabTest, ThePictureMovesByTheRatiosOfTheZoom) {
   clickButton("grab_tool");
-  for (const auto& [button, across, up] : zooms) {
+  for (const auto& [button, across, up] : grab_zooms) {
     SCOPED_TRACE(button);
     clickButton(button);
     clickButton("xy_button");
@@ -140,8 +140,8 @@ TEST_F(GrabTest, EachToolHasItsCursor) {
 
 TEST_F(GrabTest, CursorsHaveTheSizeOfAnyScreenAndTheirHotSpotOnIt) {
   struct Case {
-    double ratio;
-    int side;
+    double ratio = 1.0;
+    int side = 0;
     QPoint crosshairs;
     QPoint grabber;
   };

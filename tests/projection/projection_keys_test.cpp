@@ -253,7 +253,7 @@ TEST_F(ProjectionKeysTest, WhatIsMeasuredIsTold) {
   }
   key(Qt::Key_A);
   EXPECT_EQ(spoken().toStdString(), "There is no event yet. Set the vertex.");
-  const auto label = QAccessible::queryAccessibleInterface(&control<QLabel>("readings_text"));
+  auto* const label = QAccessible::queryAccessibleInterface(&control<QLabel>("readings_text"));
   EXPECT_EQ(label->text(QAccessible::Name), QStringLiteral("Set the vertex."));
 }
 

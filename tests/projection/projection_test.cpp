@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The projection view: frame, points, planes and zooms.
+// The projection view: frame, points, planes and shown_zooms.
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -38,12 +38,12 @@ constexpr std::array<std::array<double, 3>, 5> places{{{-201.3, 33.1, 250.0},
                                                        {-333.3, -20.7, 399.0},
                                                        {-160.9, 77.7, -1.0}}};
 
-struct ZoomCase {
+struct ShownZoom {
   const char* button;
   double zoom;
 };
-constexpr std::array zooms{ZoomCase{"zoom_1", 1.0}, ZoomCase{"zoom_2", 2.0},
-                           ZoomCase{"zoom_3", 3.0}};
+constexpr std::array shown_zooms{ShownZoom{"zoom_1", 1.0}, ShownZoom{"zoom_2", 2.0},
+                                 ShownZoom{"zoom_3", 3.0}};
 
 /// The place of projected drawing units in the picture, from its top left corner.
 QPointF place_of(double across, double upward, double zoom, QPointF offsets = {470.0, 420.0}) {
@@ -110,7 +110,7 @@ TEST_F(ProjectionTest, TheFrameOfZoomOneSpansItsPlace) {
 }
 
 TEST_F(ProjectionTest, TheFrameIsWhereEachZoomPutsIt) {
-  for (const auto& [button, zoom] : zooms) {
+  for (const auto& [button, zoom] : shown_zooms) {
     SCOPED_TRACE(button);
     clickButton(button);
     expectFrame(zoom);
@@ -135,7 +135,7 @@ TEST_F(ProjectionTest, PointsAreAtTheirPlacesInEachPlaneAndZoom) {
       points.push_back(point(across, upward, depth));
     }
     showEvent(points);
-    for (const auto& [button, zoom] : zooms) {
+    for (const auto& [button, zoom] : shown_zooms) {
       clickButton(button);
       const QImage seen = picture();
       for (const auto& [across, upward, depth] : places) {
@@ -220,7 +220,7 @@ TEST_F(ProjectionTest, AZoomKeepsTheOffsets) {
   clickButton("grab_tool");
   drag(projection(), {100, 100}, {160, 130});
   const ProjectionMapping moved = projection().mapping();
-  for (const auto& [button, zoom] : zooms) {
+  for (const auto& [button, zoom] : shown_zooms) {
     clickButton(button);
     EXPECT_EQ(projection().mapping().zoom, zoom);
     EXPECT_EQ(projection().mapping().offset_across, moved.offset_across);

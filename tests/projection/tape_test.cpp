@@ -34,14 +34,14 @@ class TapeTest : public ApplicationFixture {
   }
 };
 
-struct ZoomCase {
+struct TapeZoom {
   const char* button;
   const char* hundred_units;
   int zoom;
 };
-constexpr std::array zooms{ZoomCase{"zoom_1", "D = 125.00 cm", 1},
-                           ZoomCase{"zoom_2", "D = 62.50 cm", 2},
-                           ZoomCase{"zoom_3", "D = 41.67 cm", 3}};
+constexpr std::array tape_zooms{TapeZoom{"zoom_1", "D = 125.00 cm", 1},
+                                TapeZoom{"zoom_2", "D = 62.50 cm", 2},
+                                TapeZoom{"zoom_3", "D = 41.67 cm", 3}};
 
 }  // namespace
 
@@ -52,7 +52,7 @@ TEST_F(TapeTest, ReadsNothingAtStart) {
 }
 
 TEST_F(TapeTest, ReadsAHundredUnitsAtEachZoomAlongAnyDirection) {
-  for (const auto& [button, text, zoom] : zooms) {
+  for (const auto& [button, text, zoom] : tape_zooms) {
     clickButton(button);
     drag(projection(), {100, 100}, {200, 100});
     EXPECT_EQ(reading(), text);
@@ -87,7 +87,7 @@ TEST_F(TapeTest, AFrameWideTapeReadsTheSideAtEveryZoom) {
   for (const float side : {500.0F, 230.0F}) {
     controller().settings().setSidesControl(side);
     choose("new_event_item");
-    for (const auto& [button, text, zoom] : zooms) {
+    for (const auto& [button, text, zoom] : tape_zooms) {
       clickButton(button);
       const int left = zoom * 35;
       drag(projection(), {left, 200}, {left + 400 * zoom, 200});

@@ -18,6 +18,7 @@
 
 #include "record/make_events_dialog.h"
 #include "tests/record/measurements_fixture.h"
+#include "tests/support/type_places.h"
 #include "tests/support/windows/waiting.h"
 
 namespace velquon::test {
@@ -55,7 +56,7 @@ class MakeEventsTest : public MeasurementsFixture {
   }
   /// A program in the place of velquon-events.
   QString script(const QByteArray& text) {
-    const QString file = write(QStringLiteral("tool"), "#!/bin/sh\n" + text);
+    QString file = write(QStringLiteral("tool"), "#!/bin/sh\n" + text);
     QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return file;
   }
@@ -63,8 +64,6 @@ class MakeEventsTest : public MeasurementsFixture {
     return dialogs().alerts.empty() ? "" : dialogs().alerts.back().message.toStdString();
   }
 };
-
-constexpr int lambda_type = 5;
 
 }  // namespace
 
@@ -156,7 +155,8 @@ TEST_F(MakeEventsTest, CancelEndsItAndNothingIsNoted) {
   EXPECT_FALSE(field<QPushButton>("make_button").isEnabled());
   EXPECT_TRUE(field<QProgressBar>("make_events_progress").isVisible());
   QTest::mouseClick(&field<QPushButton>("cancel_button"), Qt::LeftButton);
-  EXPECT_FALSE(dialog() != nullptr && dialog()->isVisible());
+  const MakeEventsDialog* const cancelled = dialog();
+  EXPECT_FALSE(cancelled != nullptr && cancelled->isVisible());
   // The program's own loop would do so.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_EQ(dialog(), nullptr);
@@ -195,6 +195,8 @@ TEST_P(FailingToolTest, IsToldAndNoRowsAreAdded) {
   EXPECT_TRUE(measurements().rows().empty());
 }
 
+// Joined to what follows it in the scripts below.
+// NOLINTNEXTLINE(cppcoreguidelines-macro-usage)
 #define PARTICLE_HEADER                                                                       \
   "event,particle,pdg,parent,fate,code,first_point,points,x,y,z,px,py,pz,energy,end_x,end_y," \
   "end_z"

@@ -404,6 +404,7 @@ TEST_F(MeasurementsWindowTest, EveryControlHasANameForScreenReadersAndTheTabKeyR
 TEST_F(MeasurementsWindowTest, AHundredThousandRowsAreShownAndUndone) {
   openMeasurements();
   std::vector<double> values;
+  values.reserve(100'000);
   for (int i = 0; i < 100'000; ++i) {
     values.push_back(i % 977);
   }

@@ -9,14 +9,9 @@
 #include "record/record_tree.h"
 #include "record/record_window.h"
 #include "tests/support/documents/documents_fixture.h"
+#include "tests/support/type_places.h"
 
 namespace velquon::test {
-
-// Kinds of events.
-inline constexpr int negative_pion = 0;
-inline constexpr int positive_pion = 1;
-inline constexpr int neutral_pion = 2;
-inline constexpr int lambda_type = 5;
 
 /// The whole program, for tests of the window that tells what happened.
 class RecordWindowFixture : public DocumentsFixture {

@@ -6,7 +6,7 @@
 #include <QGuiApplication>
 #include <QSurfaceFormat>
 
-#include "tests/support/leaks.h"
+#include "tests/support/test_run.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
@@ -16,7 +16,5 @@ int main(int argc, char** argv) {
   format.setProfile(QSurfaceFormat::NoProfile);
   QSurfaceFormat::setDefaultFormat(format);
   const QGuiApplication application(argc, argv);
-  const int result = RUN_ALL_TESTS();
-  velquon::test::look_for_leaks();
-  return result;
+  return velquon::test::run_tests();
 }

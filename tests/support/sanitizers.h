@@ -4,6 +4,8 @@
 #pragma once
 
 // Whether AddressSanitizer watches this build; g++ and clang say so in different ways.
+// Read by the preprocessor.
+// NOLINTBEGIN(cppcoreguidelines-macro-usage)
 #if defined(__SANITIZE_ADDRESS__)
 #define VELQUON_ADDRESS_SANITIZER 1
 #elif defined(__has_feature)
@@ -14,3 +16,4 @@
 #ifndef VELQUON_ADDRESS_SANITIZER
 #define VELQUON_ADDRESS_SANITIZER 0
 #endif
+// NOLINTEND(cppcoreguidelines-macro-usage)

@@ -39,6 +39,14 @@ int draw_of(double fraction) {
   return static_cast<int>(fraction * largest_draw);
 }
 
+std::vector<int> joined(const std::vector<std::vector<int>>& lists) {
+  std::vector<int> all;
+  for (const auto& list : lists) {
+    all.insert(all.end(), list.begin(), list.end());
+  }
+  return all;
+}
+
 ScriptedRand::ScriptedRand(std::vector<int> values) : values_(std::move(values)) {
   if (playing != nullptr) {
     give_up("a script plays already");

@@ -17,6 +17,9 @@ inline constexpr int highest_draw = std::numeric_limits<int>::max();
 /// The result of `rand` that makes a draw of this fraction, rounded down.
 [[nodiscard]] int draw_of(double fraction);
 
+/// The values of several lists, one list after another.
+[[nodiscard]] std::vector<int> joined(const std::vector<std::vector<int>>& lists);
+
 /// While one lives, `rand` plays its values. A test program that draws beyond them is ended with a
 /// message, because a walk or a rejection loop could otherwise run for ever.
 class ScriptedRand {

@@ -23,12 +23,12 @@ using test::run_tool;
 using test::TemporaryFolder;
 using test::Words;
 
-constexpr ChamberValues values{.B_field = 2.0F, .sides_cm = 300.0F, .kinetic_Mev = 60.0F};
+constexpr ChamberValues summed_values{.B_field = 2.0F, .sides_cm = 300.0F, .kinetic_Mev = 60.0F};
 
 /// The summary of streams of 300 events, one after another.
 Summary summary_of(const char* type, const std::vector<std::uint32_t>& seeds) {
-  Summary summary =
-      empty_summary({.type = &test::event_type(type), .values = values, .seed = seeds.front()});
+  Summary summary = empty_summary(
+      {.type = &test::event_type(type), .values = summed_values, .seed = seeds.front()});
   for (const std::uint32_t seed : seeds) {
     if (seed != seeds.front()) {
       summary.runs.push_back({.seed = seed, .events = 0});
@@ -37,7 +37,7 @@ Summary summary_of(const char* type, const std::vector<std::uint32_t>& seeds) {
     for (int i = 0; i < 300; ++i) {
       TrackBuffer buffer;
       ParticleRecord record;
-      make_event(test::event_type(type), values, buffer, &record);
+      make_event(test::event_type(type), summed_values, buffer, &record);
       summary.count(buffer.points(), record);
     }
   }
@@ -49,7 +49,7 @@ Words words_of(const char* type, const char* seed) {
           "60",     "--events", "300",     "--seed", seed,     "--format", "summary"};
 }
 
-Summary parsed(const std::string& text) {
+Summary read_summary(const std::string& text) {
   const auto read = summary_from_json(text);
   if (const auto* reason = std::get_if<std::string>(&read)) {
     ADD_FAILURE() << *reason;
@@ -69,7 +69,7 @@ class SummaryOfType : public ::testing::TestWithParam<const char*> {};
 TEST_P(SummaryOfType, OfTheToolIsThatOfTheEvents) {
   const auto run = run_tool(words_of(GetParam(), "5"));
   EXPECT_EQ(run.status, 0);
-  EXPECT_EQ(parsed(run.out), summary_of(GetParam(), {5}));
+  EXPECT_EQ(read_summary(run.out), summary_of(GetParam(), {5}));
 }
 
 TEST_P(SummaryOfType, OfTwoRunsAddedIsThatOfBothStreams) {
@@ -96,8 +96,8 @@ TEST_P(SummaryOfType, OfTwoRunsAddedIsThatOfBothStreams) {
 
 TEST_P(SummaryOfType, KeepsEveryBitInItsText) {
   const Summary summary = summary_of(GetParam(), {9});
-  EXPECT_EQ(parsed(to_json(summary)), summary);
-  EXPECT_EQ(to_json(parsed(to_json(summary))), to_json(summary));
+  EXPECT_EQ(read_summary(to_json(summary)), summary);
+  EXPECT_EQ(to_json(read_summary(to_json(summary))), to_json(summary));
 }
 
 INSTANTIATE_TEST_SUITE_P(Types, SummaryOfType,
@@ -112,7 +112,7 @@ TEST(Summary, CountsWhatTheRecordsSay) {
   for (int i = 0; i < 300; ++i) {
     TrackBuffer buffer;
     ParticleRecord record;
-    make_event(test::event_type("lambda"), values, buffer, &record);
+    make_event(test::event_type("lambda"), summed_values, buffer, &record);
     const RecordedParticle& lambda = record.particles()[0];
     escaped += lambda.fate == Fate::escaped ? 1U : 0U;
     charged += record.particles().size() > 1 && record.particles()[1].pdg == pdg::proton ? 1U : 0U;
@@ -135,7 +135,7 @@ TEST(Summary, CountsWhatTheRecordsSay) {
 TEST(Summary, CountsEventsThatAreNotHandedOver) {
   const auto run = run_tool({"--type", "mu+", "--field", "0", "--side", "1e12", "--seed", "1",
                              "--events", "50", "--format", "summary"});
-  const Summary summary = parsed(run.out);
+  const Summary summary = read_summary(run.out);
   EXPECT_EQ(summary.events, 50U);
   EXPECT_GT(summary.not_handed_over, 10U);
   EXPECT_EQ(summary.particles.at(-pdg::muon).n, 50U - summary.not_handed_over);
@@ -172,9 +172,9 @@ TEST(AddedSummaries, RefuseWhatIsNoneByNameAndReason) {
       {"{}", "a field of a summary is missing or of another kind"},
       {changed("\"version\": 1", "\"version\": 2"), "it is not called a summary of version 1"},
       {changed("\"events\": 300", "\"events\": -3"), "'events' is no count"},
-      {changed("\"without_points\": ", "\"without_points\": \"x\", \"y\": "),
+      {changed("\"without_points\": ", R"("without_points": "x", "y": )"),
        "'without_points' is no count"},
-      {changed("\"particles\": {", "\"particles\": {\"13abc\": {}, "),
+      {changed("\"particles\": {", R"("particles": {"13abc": {}, )"),
        "'13abc' is no particle's number"},
       {changed("\"side_cm\": 300.0", "\"side_cm\": null"), "'side_cm' is no number"},
       {changed("\"side_cm\": 300.0", "\"side_cm\": 301.0"),
@@ -185,7 +185,9 @@ TEST(AddedSummaries, RefuseWhatIsNoneByNameAndReason) {
     const auto run = run_tool({"--add-summaries", good, bad});
     EXPECT_EQ(run.status, 1) << reason;
     EXPECT_EQ(run.out, "");
-    EXPECT_EQ(run.messages, "velquon-events: cannot add " + bad + ": " + reason + "\n");
+    EXPECT_EQ(
+        run.messages,
+        std::string("velquon-events: cannot add ").append(bad).append(": ").append(reason) + "\n");
   }
   const auto run = run_tool({"--add-summaries", (folder.path() / "none").string()});
   EXPECT_EQ(run.status, 1);

@@ -6,7 +6,7 @@
 #include <QApplication>
 #include <clocale>
 
-#include "tests/support/leaks.h"
+#include "tests/support/test_run.h"
 #include "widgets/surface_format.h"
 
 int main(int argc, char** argv) {
@@ -15,7 +15,5 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   setlocale(LC_NUMERIC, "C");
-  const int result = RUN_ALL_TESTS();
-  velquon::test::look_for_leaks();
-  return result;
+  return velquon::test::run_tests();
 }

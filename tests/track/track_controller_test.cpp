@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QApplication>
+#include <QEvent>
 #include <QTest>
 #include <QTimer>
 #include <string>
@@ -209,6 +211,26 @@ TEST(TrackController, LosingTheKeyboardOrBecomingKeyAgainChangesNothing) {
   EXPECT_EQ(rig.activate_item->text(), QStringLiteral("as it was"));
 }
 
+TEST(TrackController, NewsOfTheKeysThatComesAfterTheWindowWasHiddenDoesNotActivateIt) {
+  TrackRig rig;
+  rig.activate();
+  rig.deactivate();
+  QEvent late_news(QEvent::WindowActivate);
+  QCoreApplication::sendEvent(rig.window, &late_news);
+  EXPECT_FALSE(rig.controller->activated());
+  EXPECT_EQ(title_of(rig.activate_item), QStringLiteral("Activate"));
+  rig.activate();
+  EXPECT_TRUE(rig.window->isVisible());
+}
+
+TEST(TrackController, AWindowThatWasGivenTheKeysWhileHiddenIsActivatedWhenItIsShown) {
+  TrackRig rig;
+  QApplication::setActiveWindow(rig.window);
+  EXPECT_FALSE(rig.controller->activated());
+  rig.window->show();
+  EXPECT_TRUE(rig.controller->activated());
+}
+
 TEST(TrackController, AnotherWindowInFrontLeavesItActive) {
   TrackRig rig;
   rig.activate();
@@ -225,7 +247,7 @@ TEST(TrackController, AnotherWindowInFrontLeavesItActive) {
 TEST(TrackController, ClosingTheWindowHidesItAndLeavesItActive) {
   TrackRig rig;
   rig.activate();
-  ASSERT_TRUE(rig.window->close());
+  rig.window->close();
   QTest::qWait(20);
   EXPECT_FALSE(rig.window->isVisible());
   EXPECT_TRUE(rig.controller->activated());

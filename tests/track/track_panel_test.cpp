@@ -206,6 +206,7 @@ TEST(TrackPanel, NumbersHaveUnitsBesideThem) {
 TEST(TrackPanel, TheKeysComeBackToInjectAndDoNotGoOnToClear) {
   TrackRig rig;
   rig.activate();
+  rig.model.setTimerSecs(0.001);
   rig.panel->inject_button()->setFocus();
   QTest::keyClick(rig.window->focusWidget(), Qt::Key_Space);
   ASSERT_TRUE(rig.view->is_tracking());
@@ -217,8 +218,10 @@ TEST(TrackPanel, TheKeysComeBackToInjectAndDoNotGoOnToClear) {
 TEST(TrackPanel, TheKeysStayWhereTheyWereTakenDuringARun) {
   TrackRig rig;
   rig.activate();
+  rig.model.setTimerSecs(0.001);
   rig.panel->inject_button()->setFocus();
   QTest::keyClick(rig.window->focusWidget(), Qt::Key_Space);
+  ASSERT_TRUE(rig.view->is_tracking());
   rig.slider->setFocus();
   ASSERT_TRUE(rig.waitForEnd());
   EXPECT_TRUE(rig.slider->hasFocus());

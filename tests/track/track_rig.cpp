@@ -3,7 +3,6 @@
 
 #include "tests/track/track_rig.h"
 
-#include <QEvent>
 #include <QGuiApplication>
 #include <QTimer>
 #include <QWindow>
@@ -38,19 +37,8 @@ std::vector<QPoint> pixels_of(const QImage& picture, bool (*is_meant)(QRgb)) {
 
 }  // namespace
 
-void KeyWindow::changeEvent(QEvent* event) {
-  QMainWindow::changeEvent(event);
-  if (event->type() == QEvent::ActivationChange) {
-    if (isActiveWindow()) {
-      Q_EMIT becameKey();
-    } else {
-      Q_EMIT resignedKey();
-    }
-  }
-}
-
 TrackRig::TrackRig()
-    : window(new KeyWindow),
+    : window(new GLPanel),
       panel(new TrackPanel(model)),
       view(panel->track_view()),
       slider(panel->vSlider()) {
@@ -61,9 +49,9 @@ TrackRig::TrackRig()
       commands, menus, model, [this]() -> TrackController& { return *controller; },
       [this]() -> NewTrackView& { return *view; });
   panel->setItems(inject_item, clear_item);
-  QObject::connect(window, &KeyWindow::becameKey, controller.get(),
+  QObject::connect(window, &GLPanel::becameKey, controller.get(),
                    &TrackController::windowDidBecomeKey);
-  QObject::connect(window, &KeyWindow::resignedKey, controller.get(),
+  QObject::connect(window, &GLPanel::resignedKey, controller.get(),
                    &TrackController::windowDidResignKey);
   controller->awakeFromNib();
 }

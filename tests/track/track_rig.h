@@ -5,7 +5,6 @@
 
 #include <QAction>
 #include <QImage>
-#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPoint>
@@ -18,21 +17,10 @@
 #include "track/track_controller.h"
 #include "track/track_panel.h"
 #include "ui_menus.h"
+#include "widgets/gl_panel.h"
 #include "widgets/value_slider.h"
 
 namespace velquon::test {
-
-/// A window that tells when it becomes active and when it no longer is.
-class KeyWindow : public QMainWindow {
-  Q_OBJECT
-
- Q_SIGNALS:
-  void becameKey();
-  void resignedKey();
-
- protected:
-  void changeEvent(QEvent* event) override;
-};
 
 /// The track window with the program's menus, of which the Track menu is in its bar, and without the
 /// rest of the program. Made hidden and inactive.
@@ -66,13 +54,13 @@ class TrackRig {
   [[nodiscard]] std::vector<QPoint> redPixels() const;
 
   TrackModel model;
-  KeyWindow* window = nullptr;
+  GLPanel* window = nullptr;
   TrackPanel* panel = nullptr;
   NewTrackView* view = nullptr;
   ValueSlider* slider = nullptr;
 
   QMenuBar bar_of_menus;
-  Ui::Menus menus;
+  Ui::Menus menus{};
   QAction *activate_item = nullptr, *inject_item = nullptr, *clear_item = nullptr;
   QAction *electron_item = nullptr, *positron_item = nullptr;
   QAction *LtoR_item = nullptr, *RtoL_item = nullptr;

@@ -41,7 +41,7 @@ QImage painted(const std::vector<LegendLine>& lines, const LegendStyle& style, Q
   return image;
 }
 
-int pixels_of(const QImage& image, const QColor& color) {
+int count_of(const QImage& image, const QColor& color) {
   int count = 0;
   for (int y = 0; y < image.height(); ++y) {
     for (int x = 0; x < image.width(); ++x) {
@@ -57,10 +57,10 @@ TEST(LegendPaintingTest, EachColourIsOnBlackInAFrame) {
   const auto& lines = two_lines();
   const LegendStyle style = style_of(20, QColor(0x202020));
   const QImage image = painted(lines, style, legend_size(lines, style, 1000.0), Qt::white);
-  EXPECT_GT(pixels_of(image, *lines[0].color), 50);
-  EXPECT_GT(pixels_of(image, *lines[1].color), 50);
-  EXPECT_GT(pixels_of(image, Qt::black), 100);
-  EXPECT_GT(pixels_of(image, style.text), 100);
+  EXPECT_GT(count_of(image, *lines[0].color), 50);
+  EXPECT_GT(count_of(image, *lines[1].color), 50);
+  EXPECT_GT(count_of(image, Qt::black), 100);
+  EXPECT_GT(count_of(image, style.text), 100);
 }
 
 TEST(LegendPaintingTest, WithoutColoursThereAreNoChips) {
@@ -72,7 +72,7 @@ TEST(LegendPaintingTest, WithoutColoursThereAreNoChips) {
   }
   EXPECT_LT(legend_size(lines, style, 1000.0).width(), with_chips - 20.0);
   const QImage image = painted(lines, style, legend_size(lines, style, 1000.0), Qt::white);
-  EXPECT_EQ(pixels_of(image, QColor(255, 0, 0)), 0);
+  EXPECT_EQ(count_of(image, QColor(255, 0, 0)), 0);
 }
 
 TEST(LegendPaintingTest, LinesThatFindNoRoomBesideOthersGoBelow) {
@@ -98,7 +98,7 @@ TEST(LegendPaintingTest, WhereThereIsNoRoomForNamesTheSymbolsRemain) {
   const QSizeF whole = legend_size(lines, style, 1000.0);
   const QSizeF narrow(whole.width() * 0.7, whole.height());
   const QImage image = painted(lines, style, narrow, Qt::white);
-  EXPECT_GT(pixels_of(image, *lines[1].color), 50);
+  EXPECT_GT(count_of(image, *lines[1].color), 50);
   std::vector<LegendLine> without_names = lines;
   for (LegendLine& line : without_names) {
     line.name.clear();

@@ -60,7 +60,7 @@ class PresentationTest : public TrackWindowFixture {
 
 struct Room {
   QSize size;
-  bool panel_beside;  ///< of the chamber's picture
+  bool panel_beside = false;  ///< of the chamber's picture
 };
 
 }  // namespace

@@ -128,8 +128,8 @@ TEST_F(SliderInputTest, PageKeysWalkTheTicksOfEachEnergyRangeExactly) {
       EXPECT_EQ(energy().floatValue(), tick) << "up, range " << range;
       QTest::keyClick(&energy(), Qt::Key_PageUp);
     }
-    for (auto tick = ticks.rbegin(); tick != ticks.rend(); ++tick) {
-      EXPECT_EQ(energy().floatValue(), *tick) << "down, range " << range;
+    for (const auto tick : std::vector(ticks.rbegin(), ticks.rend())) {
+      EXPECT_EQ(energy().floatValue(), tick) << "down, range " << range;
       QTest::keyClick(&energy(), Qt::Key_PageDown);
     }
   }

@@ -5,11 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/type_places.h"
+
 namespace velquon::test {
 
 namespace {
-
-constexpr std::size_t lambda_type = 5;
 
 ShownEvent event_named(const std::string& name, std::optional<std::size_t> type,
                        std::size_t points = 0) {
@@ -64,7 +64,7 @@ TEST(StatusTextTest, TellsWhyThereIsNoTrackForEveryFate) {
   const ShownEvent event = event_named("Untitled Type 6 Decay", lambda_type);
   struct Case {
     UnseenParticles unseen;
-    const char* reason;
+    const char* reason = nullptr;
   };
   const std::array cases{
       Case{missing(pdg::lambda, Fate::escaped), "the Λ left the chamber"},

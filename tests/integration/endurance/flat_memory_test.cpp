@@ -91,6 +91,7 @@ TEST_F(FlatMemoryTest, TwentyThousandNewEventsOfTheModelLeaveNothing) {
 TEST_F(FlatMemoryTest, FiveHundredOpeningsLeaveNothing) {
   const QTemporaryDir folder;
   std::vector<PlotPoint> points;
+  points.reserve(300);
   for (int i = 0; i < 300; ++i) {
     points.push_back(point_at(i, 2.0 * i, -i, static_cast<std::int16_t>(i % 5)));
   }

@@ -23,6 +23,8 @@ int number_from(const char* variable, int otherwise) {
   return is_number ? number : otherwise;
 }
 
+// A signal's handler has no other way to it.
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
 Monkey* at_play = nullptr;
 
 /// Tells what was done before a crash.

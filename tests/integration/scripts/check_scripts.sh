@@ -86,70 +86,77 @@ check_fuzz_misses_a_program() {
   printed_has 'fuzz_event_layout is missing'
 }
 
-# A tree of two sources, and a clang-tidy that notes what it is asked to look at and finds the word
-# "wrong". Two sources in one file with "apart" in them do not compile.
+# A tree as the ci build compiles it: two sources of a folder as one, a third by itself, and what a tool
+# has made.
 lint_tree() {
-  mkdir -p engine
-  echo 'int one();' >engine/one.cpp
-  echo 'int two();' >engine/two.cpp
+  mkdir -p engine app build/ci/engine/Unity build/ci/app
+  cp "$source/.clang-tidy" .
+  printf 'namespace {\nint helper() {\n  return 1;\n}\n}  // namespace\nint one();\nint one() {\n  return helper();\n}\n' >engine/one.cpp
+  printf '#include "engine/two.h"\n\nint two() {\n  return 2;\n}\n' >engine/two.cpp
+  printf '#pragma once\n\nint two();\n' >engine/two.h
+  printf 'int main() {\n  return 0;\n}\n' >app/main.cpp
+  printf 'int made = (int)1.0;\n' >build/ci/app/made.cpp
+  printf '#include "%s"\n\n' "$PWD/engine/one.cpp" "$PWD/engine/two.cpp" \
+    >build/ci/engine/Unity/unity_0_cxx.cxx
   {
     echo '['
-    printf '{"directory": "%s", "command": "c++ -include /x/cmake_pch.hxx -Ix -o y -c %s", "file": "%s"}' \
-      "$PWD/build/ci" "$PWD/engine/one.cpp" "$PWD/engine/one.cpp"
-    printf ',\n{"directory": "%s", "command": "c++ -Ix -Iz -o y -c %s", "file": "%s"}]\n' \
-      "$PWD/build/ci" "$PWD/engine/two.cpp" "$PWD/engine/two.cpp"
+    local file separator=
+    for file in build/ci/engine/Unity/unity_0_cxx.cxx app/main.cpp build/ci/app/made.cpp; do
+      printf '%s{"directory": "%s", "file": "%s", "command": "ccache c++ -include /x/cmake_pch.hxx -Wlogical-op -Wshadow=local -I%s -std=c++20 -o y.o -c %s"}' \
+        "$separator" "$PWD/build/ci" "$PWD/$file" "$PWD" "$PWD/$file"
+      separator=$',\n'
+    done
+    echo ']'
   } >build/ci/compile_commands.json
-  program programs/clang-tidy <<'END'
-for word in "$@"; do
-  case $word in
-    *.cpp) source=$word ;;
-    *cmake_pch*) echo 'a precompiled header'; exit 1 ;;
-  esac
-done
-echo "$source" >>looked-at
-echo '2 warnings generated.' >&2
-mapfile -t read < <(sed -n 's/#include "\(.*\)"/\1/p' "$source")
-if [ ${#read[@]} -gt 1 ] && grep -q apart "${read[@]}"; then
-  echo 'error: another definition [clang-diagnostic-error]'
-  exit 1
-fi
-! grep -H wrong "$source" "${read[@]}"
-END
-}
-
-check_lint_shows_errors() {
-  lint_tree
-  echo 'wrong' >engine/two.cpp
-  run 1 scripts/lint engine/one.cpp engine/two.cpp
-  printed_has 'engine/two.cpp:wrong'
-  printed_has 'engine/two.cpp: not all pass'
-  if grep -q 'generated' <<<"$printed"; then fail "counts are printed"; fi
 }
 
 check_lint_passes() {
   lint_tree
   run 0 scripts/lint
-  printed_has 'Running clang-tidy on 2 sources in 1 groups'
-  [ "$(wc -l <looked-at)" -eq 1 ] || fail "the sources are not looked at as one"
+  [ "$printed" = 'Running clang-tidy on 3 sources' ] || fail "more is printed: $printed"
 }
 
-check_lint_keeps_apart_what_shares_a_name() {
-  lint_tree
-  for name in one two; do
-    printf 'namespace {\n\nint helper() {\n  return 1;\n}\n\n}  // namespace\n' >engine/$name.cpp
+check_lint_finds_an_error_in_each_source() {
+  local file
+  for file in engine/one.cpp engine/two.cpp app/main.cpp; do
+    lint_tree
+    sed -i 's/return \(.*\);/return (int)(\1 + 0.0);/' "$file"
+    run 1 scripts/lint
+    printed_has "/$file:"
+    printed_has '[google-readability-casting'
+    printed_has 'scripts/lint: not all pass of '
+    if grep -q 'generated' <<<"$printed"; then fail "counts are printed"; fi
   done
-  run 0 scripts/lint
-  printed_has 'Running clang-tidy on 2 sources in 2 groups'
 }
 
-check_lint_looks_one_by_one_at_what_does_not_compile_together() {
+check_lint_finds_an_error_in_a_header() {
   lint_tree
-  echo 'apart' >engine/one.cpp
-  run 0 scripts/lint
-  [ "$(wc -l <looked-at)" -eq 3 ] || fail "not looked at one by one: $(cat looked-at)"
-  echo 'apart wrong' >engine/one.cpp
+  echo 'inline int half(double all) { return (int)(all / 2.0); }' >>engine/two.h
   run 1 scripts/lint
-  printed_has 'engine/one.cpp does not pass'
+  printed_has '/engine/two.h:'
+}
+
+check_lint_looks_at_named_sources_alone() {
+  lint_tree
+  sed -i 's/return 2;/return (int)2.0;/' engine/two.cpp
+  run 0 scripts/lint engine/one.cpp app/main.cpp
+  run 1 scripts/lint engine/two.cpp
+  printed_has 'scripts/lint: not all pass of engine/two.cpp'
+}
+
+check_lint_looks_in_halves_at_what_does_not_compile_as_one() {
+  lint_tree
+  # The same name in two units, where no one looks for it.
+  echo 'struct Twice { int first = 1; };' | tee -a engine/one.cpp >>app/main.cpp
+  run 0 scripts/lint
+  sed -i 's/return 0;/return (int)0.0;/' app/main.cpp
+  run 1 scripts/lint
+  printed_has 'scripts/lint: not all pass of app/main.cpp'
+  sed -i 's/return 2;/return (int)2.0;/' engine/two.cpp
+  run 1 scripts/lint
+  printed_has 'scripts/lint: not all pass of app/main.cpp'
+  printed_has 'scripts/lint: not all pass of engine/one.cpp, engine/two.cpp'
+  if grep -q Twice <<<"$printed"; then fail "the clash of units is printed: $printed"; fi
 }
 
 check_lint_misses_its_database() {
@@ -165,7 +172,7 @@ check_lint_misses_a_source() {
   printed_has 'there is no file engine/none.cpp'
   touch engine/new.cpp
   run 2 scripts/lint engine/new.cpp
-  printed_has 'engine/new.cpp is no source of build/ci/compile_commands.json'
+  printed_has 'engine/new.cpp is no source of the ci build'
 }
 
 "check_$check"

@@ -158,4 +158,12 @@ PlotPoint point_at(double x, double y, double z, std::int16_t code) {
   return {{x, y, z, 1.0}, 0.0, code};
 }
 
+std::vector<PlotPoint> spread_points(int count) {
+  std::vector<PlotPoint> points(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) {
+    points[static_cast<std::size_t>(i)] = point_at(0.0, i % 701 - 350, i % 613 - 306, 3);
+  }
+  return points;
+}
+
 }  // namespace velquon::test

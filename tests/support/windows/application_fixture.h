@@ -109,5 +109,7 @@ QAction* item_titled(const QMainWindow& window, const QStringList& path);
 
 /// A point of an event.
 PlotPoint point_at(double x, double y, double z, std::int16_t code);
+/// Points spread over the plane x = 0.
+std::vector<PlotPoint> spread_points(int count);
 
 }  // namespace velquon::test

@@ -10,7 +10,7 @@
 
 #include "app/desktop.h"
 #include "app/x_display.h"
-#include "tests/support/leaks.h"
+#include "tests/support/test_run.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
@@ -21,12 +21,5 @@ int main(int argc, char** argv) {
   velquon::prepare_desktop();
   const QApplication qt_application(argc, argv);
   velquon::finish_desktop();
-  int result = RUN_ALL_TESTS();
-  if (testing::UnitTest::GetInstance()->test_to_run_count() == 0 &&
-      !testing::GTEST_FLAG(list_tests)) {
-    std::fputs("the filter leaves no test to run\n", stderr);
-    result = 1;
-  }
-  velquon::test::look_for_leaks();
-  return result;
+  return velquon::test::run_tests();
 }

@@ -5,27 +5,27 @@
 
 namespace velquon::test {
 
-QPointF Camera::pixel(const Place& place) const {
+QPointF PictureCamera::pixel(const Vector& place) const {
   const auto [x, y] = camera_.pixel(place);
   return {x, chamber_height - y};
 }
 
-Camera Camera::turned(double degrees, const Place& axis) const {
-  velquon::Camera camera = camera_;
+PictureCamera PictureCamera::turned(double degrees, const Vector& axis) const {
+  Camera camera = camera_;
   camera.turn(degrees, axis);
-  return Camera(camera);
+  return PictureCamera(camera);
 }
 
-Camera Camera::scrolled(QPointF origin) const {
-  return Camera(camera_.scrolled(origin.x(), origin.y()));
+PictureCamera PictureCamera::scrolled(QPointF origin) const {
+  return PictureCamera(camera_.scrolled(origin.x(), origin.y()));
 }
 
-Camera resting_camera() {
-  return Camera(velquon::Camera());
+PictureCamera resting_camera() {
+  return PictureCamera(Camera());
 }
 
-Camera overlay_camera() {
-  return Camera(velquon::Camera().overlay());
+PictureCamera overlay_camera() {
+  return PictureCamera(Camera().overlay());
 }
 
 }  // namespace velquon::test

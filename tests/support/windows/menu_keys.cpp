@@ -57,4 +57,20 @@ QStringList letters_of(const QMenu& menu) {
   return letters;
 }
 
+void expect_own_letters(const QList<QAction*>& titles_of_menu) {
+  QList<Qt::Key> taken;
+  for (const QAction* const title : titles_of_menu) {
+    if (title->isSeparator()) {
+      continue;
+    }
+    const Qt::Key letter = letter_of(*title);
+    EXPECT_NE(letter, Qt::Key_unknown) << title->text().toStdString();
+    EXPECT_FALSE(taken.contains(letter)) << title->text().toStdString();
+    taken << letter;
+    if (title->menu() != nullptr) {
+      expect_own_letters(title->menu()->actions());
+    }
+  }
+}
+
 }  // namespace velquon::test

@@ -3,9 +3,11 @@
 
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
+class QAction;
 class QMainWindow;
 class QMenu;
 
@@ -22,5 +24,8 @@ bool choose_by_keys(QMainWindow& window, const char* titles);
 
 /// The letters that pick the items of an open menu, one for each that has one.
 QStringList letters_of(const QMenu& menu);
+
+/// Expects each title of a menu to have a letter that no other has, and so in the menus below.
+void expect_own_letters(const QList<QAction*>& titles_of_menu);
 
 }  // namespace velquon::test

@@ -17,7 +17,7 @@ QImage values_line_unscaled(ChamberView& chamber) {
   target.bind();
   glViewport(0, 0, chamber_width, chamber_height);
   glClear(GL_COLOR_BUFFER_BIT);
-  OverlayText().draw(chamber.values_text(), 1.0, velquon::Camera());
+  OverlayText().draw(chamber.values_text(), 1.0, Camera());
   QImage picture = target.toImage().convertToFormat(QImage::Format_RGB32);
   target.release();
   chamber.doneCurrent();

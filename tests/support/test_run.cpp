@@ -1,7 +1,11 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "tests/support/leaks.h"
+#include "tests/support/test_run.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
 
 #include "tests/support/sanitizers.h"
 
@@ -52,11 +56,18 @@ void wait_until_threads_rest() {
 
 namespace velquon::test {
 
-void look_for_leaks() {
+int run_tests() {
+  int result = RUN_ALL_TESTS();
+  if (testing::UnitTest::GetInstance()->test_to_run_count() == 0 &&
+      !testing::GTEST_FLAG(list_tests)) {
+    std::fputs("the filter leaves no test to run\n", stderr);
+    result = 1;
+  }
 #if VELQUON_ADDRESS_SANITIZER
   wait_until_threads_rest();
   __lsan_do_leak_check();
 #endif
+  return result;
 }
 
 }  // namespace velquon::test

@@ -1,0 +1,100 @@
+# SPDX-FileCopyrightText: The Velquon developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+# Tests of ctest are the suites of the test programs, one run of the program a suite: to start a program,
+# let alone to come up on a screen, costs more than most tests.
+
+# Labels: unit, gui, programs (tests of programs without windows) and sources (of scripts and texts) say what
+# is looked at; long is in no plain run of the tests; once is what says the same of any build, or needs one
+# without sanitizers.
+
+# What holds a program to a time; it runs alone.
+set(timed_tests *TenthOfASecond)
+
+# suites_of(<result> <program>): the names of the suites in the sources of a program, without "Test" at
+# their end.
+function(suites_of result program)
+  get_target_property(sources ${program} SOURCES)
+  list(FILTER sources EXCLUDE REGEX "TARGET_OBJECTS")
+  set(suites)
+  foreach(source IN LISTS sources)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})
+    file(STRINGS ${source} tests REGEX "^TEST(_F|_P)?\\(")
+    foreach(test IN LISTS tests)
+      string(REGEX REPLACE "^TEST[_FP]*\\(([A-Za-z0-9]+),.*" "\\1" suite "${test}")
+      string(REGEX REPLACE "Test$" "" suite "${suite}")
+      list(APPEND suites ${suite})
+    endforeach()
+  endforeach()
+  list(REMOVE_DUPLICATES suites)
+  set(${result} ${suites} PARENT_SCOPE)
+endfunction()
+
+# filter_of(<result> <suite>): what selects the tests of a suite, parameterized ones too.
+function(filter_of result suite)
+  set(${result} ${suite}.*:${suite}Test.*:*/${suite}.*:*/${suite}Test.* PARENT_SCOPE)
+endfunction()
+
+# add_suites(<prefix> <program> LABEL <label> TIMEOUT <seconds> [EXCEPT <suites>...] [LONG <suites>...]
+#            [COMMAND <words that the program is started with>...])
+# A test for each suite but the excepted ones, and one that the program has no other tests. Long ones are
+# in no plain run of the tests.
+function(add_suites prefix program)
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "LABEL;TIMEOUT" "EXCEPT;LONG;COMMAND")
+  suites_of(suites ${program})
+  foreach(named IN LISTS arg_EXCEPT arg_LONG)
+    if(NOT named IN_LIST suites)
+      message(FATAL_ERROR "${program} has no suite ${named}")
+    endif()
+  endforeach()
+  set(filters)
+  foreach(suite IN LISTS suites)
+    filter_of(filter ${suite})
+    list(APPEND filters ${filter})
+    if(suite IN_LIST arg_EXCEPT)
+      continue()
+    endif()
+    add_test(NAME ${prefix}.${suite}
+      COMMAND ${arg_COMMAND} $<TARGET_FILE:${program}> --gtest_filter=${filter}-${timed_tests})
+    set(labels ${arg_LABEL})
+    if(suite IN_LIST arg_LONG)
+      list(APPEND labels long)
+    endif()
+    set_tests_properties(${prefix}.${suite} PROPERTIES LABELS "${labels}" TIMEOUT ${arg_TIMEOUT})
+  endforeach()
+  list(JOIN filters ":" known)
+  add_test(NAME ${prefix}.every_test_of_${program}_is_in_a_suite
+    COMMAND ${arg_COMMAND} ${PROJECT_SOURCE_DIR}/tests/support/no_other_tests
+            $<TARGET_FILE:${program}> ${known})
+  set_tests_properties(${prefix}.every_test_of_${program}_is_in_a_suite PROPERTIES
+    LABELS ${arg_LABEL} TIMEOUT 60)
+endfunction()
+
+# add_window_tests(<prefix> <program> [EXCEPT <suites>...] [LONG <suites>...]): those of a program that
+# shows windows.
+function(add_window_tests prefix program)
+  add_suites(${prefix} ${program} LABEL gui TIMEOUT 300
+    COMMAND ${PROJECT_SOURCE_DIR}/scripts/with-display ${ARGN})
+endfunction()
+
+# add_screen_test(<name> <program> FILTER <filter> [WITH <script>] [ENVIRONMENT <variable=value>...]
+#                 [LONG] [ONCE])
+# Some tests of a program that shows windows, on a screen of their own kind.
+function(add_screen_test name program)
+  cmake_parse_arguments(PARSE_ARGV 2 arg "LONG;ONCE" "FILTER;WITH" "ENVIRONMENT")
+  set(labels gui)
+  if(arg_LONG)
+    list(APPEND labels long)
+  endif()
+  if(arg_ONCE)
+    list(APPEND labels once)
+  endif()
+  if(arg_WITH)
+    set(arg_WITH ${PROJECT_SOURCE_DIR}/scripts/${arg_WITH})
+  endif()
+  add_test(NAME ${name}
+    COMMAND ${PROJECT_SOURCE_DIR}/scripts/with-display ${arg_WITH} $<TARGET_FILE:${program}>
+            --gtest_filter=${arg_FILTER})
+  set_tests_properties(${name} PROPERTIES LABELS "${labels}" TIMEOUT 300
+    ENVIRONMENT "${arg_ENVIRONMENT}")
+endfunction()
