@@ -104,6 +104,10 @@ int MeasurementColumns::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant MeasurementColumns::data(const QModelIndex& index, int role) const {
+  // A table view without a current cell asks for that cell's text, too, when it is told to copy.
+  if (!index.isValid()) {
+    return {};
+  }
   const auto column = static_cast<MeasurementColumn>(index.column());
   if (role == Qt::DisplayRole || role == Qt::EditRole) {
     return text(measurements_.rows()[static_cast<std::size_t>(index.row())], column);
@@ -148,6 +152,19 @@ bool MeasurementColumns::setData(const QModelIndex& index, const QVariant& value
   }
   measurements_.change(place, std::move(row));
   return true;
+}
+
+QString MeasurementColumns::linesOf(const std::vector<std::size_t>& rows) const {
+  QStringList lines;
+  for (const std::size_t row : rows) {
+    QStringList cells;
+    for (int column = 0; column < columnCount(); ++column) {
+      // A tab parts cells, and whatever a note holds is one line.
+      cells << index(static_cast<int>(row), column).data().toString().simplified();
+    }
+    lines << cells.join(QLatin1Char('\t'));
+  }
+  return lines.join(QLatin1Char('\n'));
 }
 
 void MeasurementColumns::refresh() {

@@ -5,6 +5,7 @@
 
 #include <QAbstractTableModel>
 #include <cstdint>
+#include <vector>
 
 #include "model/measurements.h"
 
@@ -44,6 +45,10 @@ class MeasurementColumns : public QAbstractTableModel {
                                     int role) const override;
   [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
   bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+  /// \param rows indices below the number of rows
+  /// \return the texts of the rows as they are shown, a line each, cells parted by tabs
+  [[nodiscard]] QString linesOf(const std::vector<std::size_t>& rows) const;
 
   /// Shows the present rows: told apart are rows changed in place and rows added at the end, at which
   /// the view keeps what is chosen in it.

@@ -3,7 +3,9 @@
 
 #include "record/measurements_window.h"
 
+#include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
@@ -88,11 +90,15 @@ void MeasurementsWindow::addItems() {
   record_item_ = addItem("record_item", tr("&Record"), QKeySequence(Qt::CTRL | Qt::Key_Return),
                          [this] { Q_EMIT recordAsked(); });
   record_item_->setToolTip(tr("Note what the projector's tool reads (Ctrl+Return)"));
+  copy_item_ =
+      addItem("copy_rows_item", tr("&Copy Rows"), QKeySequence::Copy, [this] { copyRows(); });
   delete_item_ = addItem("delete_item", tr("&Delete Rows"), QKeySequence(Qt::Key_Delete),
                          [this] { deleteRows(); });
-  // Where an editor or another control has the keys, Delete is its own.
-  delete_item_->setShortcutContext(Qt::WidgetShortcut);
-  table_->addAction(delete_item_);
+  // Where an editor or another control has the keys, these are its own.
+  for (QAction* const item : {copy_item_, delete_item_}) {
+    item->setShortcutContext(Qt::WidgetShortcut);
+    table_->addAction(item);
+  }
   menu_->addSeparator();
   undo_item_ = addItem("undo_item", tr("&Undo"), QKeySequence(Qt::CTRL | Qt::Key_Z),
                        [this] { measurements_.undo(); });
@@ -191,6 +197,7 @@ void MeasurementsWindow::refresh() {
   }
   histogram_->refresh();
   tell({});
+  copy_item_->setEnabled(rows > 0);
   delete_item_->setEnabled(rows > 0);
   undo_item_->setEnabled(measurements_.canUndo());
   redo_item_->setEnabled(measurements_.canRedo());
@@ -208,16 +215,30 @@ void MeasurementsWindow::fitColumns(bool may_shrink) {
   }
 }
 
-void MeasurementsWindow::deleteRows() {
+std::vector<std::size_t> MeasurementsWindow::chosenRows() const {
   std::vector<std::size_t> places;
   for (const QModelIndex& index : table_->selectionModel()->selectedRows()) {
     places.push_back(static_cast<std::size_t>(index.row()));
   }
+  std::ranges::sort(places);
+  return places;
+}
+
+void MeasurementsWindow::copyRows() {
+  const std::vector<std::size_t> places = chosenRows();
+  if (places.empty()) {
+    tell(tr("Choose the rows to copy."));
+    return;
+  }
+  QGuiApplication::clipboard()->setText(columns_->linesOf(places));
+}
+
+void MeasurementsWindow::deleteRows() {
+  const std::vector<std::size_t> places = chosenRows();
   if (places.empty()) {
     tell(tr("Choose the rows to delete."));
     return;
   }
-  std::ranges::sort(places);
   measurements_.remove(places);
   // The row that took the place of the first one, so that the keys can go on.
   const int next = std::min(static_cast<int>(places.front()), columns_->rowCount() - 1);

@@ -4,6 +4,8 @@
 #pragma once
 
 #include <QPointer>
+#include <cstddef>
+#include <vector>
 
 #include "model/chamber_model.h"
 #include "model/measurements.h"
@@ -57,6 +59,9 @@ class MeasurementsWindow : public GLPanel {
   /// Makes columns as wide as their texts, but for long ones.
   /// \param may_shrink whether a column that is wider becomes narrower
   void fitColumns(bool may_shrink);
+  /// \return the places of the rows that are chosen in the table, rising
+  [[nodiscard]] std::vector<std::size_t> chosenRows() const;
+  void copyRows();
   void deleteRows();
   void makeEvents();
   void savePlot();
@@ -71,6 +76,7 @@ class MeasurementsWindow : public GLPanel {
   HistogramPanel* histogram_;
   QLabel* message_;
   QAction* record_item_ = nullptr;
+  QAction* copy_item_ = nullptr;
   QAction* delete_item_ = nullptr;
   QAction* undo_item_ = nullptr;
   QAction* redo_item_ = nullptr;

@@ -1591,6 +1591,14 @@ Soll die Datei ersetzt werden?</translation>
         <source>PNG pictures (*.png);;PDF documents (*.pdf)</source>
         <translation>PNG-Bilder (*.png);;PDF-Dokumente (*.pdf)</translation>
     </message>
+    <message>
+        <source>&amp;Copy Rows</source>
+        <translation>Zeilen &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Choose the rows to copy.</source>
+        <translation>Wählen Sie die Zeilen, die kopiert werden sollen.</translation>
+    </message>
 </context>
 <context>
     <name>velquon::Model</name>

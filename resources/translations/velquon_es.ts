@@ -1591,6 +1591,14 @@ Do you want to replace it?</source>
         <source>PNG pictures (*.png);;PDF documents (*.pdf)</source>
         <translation>Imágenes PNG (*.png);;Documentos PDF (*.pdf)</translation>
     </message>
+    <message>
+        <source>&amp;Copy Rows</source>
+        <translation>C&amp;opiar filas</translation>
+    </message>
+    <message>
+        <source>Choose the rows to copy.</source>
+        <translation>Elija las filas que copiar.</translation>
+    </message>
 </context>
 <context>
     <name>velquon::Model</name>

@@ -1591,6 +1591,14 @@ Voulez-vous le remplacer&#xa0;?</translation>
         <source>PNG pictures (*.png);;PDF documents (*.pdf)</source>
         <translation>Images PNG (*.png);;Documents PDF (*.pdf)</translation>
     </message>
+    <message>
+        <source>&amp;Copy Rows</source>
+        <translation>Co&amp;pier des lignes</translation>
+    </message>
+    <message>
+        <source>Choose the rows to copy.</source>
+        <translation>Choisissez les lignes à copier.</translation>
+    </message>
 </context>
 <context>
     <name>velquon::Model</name>

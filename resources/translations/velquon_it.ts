@@ -1591,6 +1591,14 @@ Vuoi sostituirlo?</translation>
         <source>PNG pictures (*.png);;PDF documents (*.pdf)</source>
         <translation>Immagini PNG (*.png);;Documenti PDF (*.pdf)</translation>
     </message>
+    <message>
+        <source>&amp;Copy Rows</source>
+        <translation>C&amp;opia righe</translation>
+    </message>
+    <message>
+        <source>Choose the rows to copy.</source>
+        <translation>Scegli le righe da copiare.</translation>
+    </message>
 </context>
 <context>
     <name>velquon::Model</name>

@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -247,6 +248,61 @@ TEST_F(MeasurementsWindowTest, ChosenRowsAreDeletedInOneStep) {
   QTest::keyClick(&table(), Qt::Key_Z, Qt::ControlModifier);
   ASSERT_EQ(rows(), 4);
   EXPECT_EQ(cell(2, Column::value), "30");
+}
+
+TEST_F(MeasurementsWindowTest, ChosenRowsAreCopiedAsLinesOfCellsPartedByTabs) {
+  addRows(Quantity::length, {10.0, 20.0, 30.0});
+  openMeasurements();
+  typeInto(2, Column::note, QStringLiteral("a\tnote"));
+  clickCell(2, Column::event);
+  clickCell(0, Column::event, Qt::ControlModifier);
+  QTest::keyClick(&table(), Qt::Key_C, Qt::ControlModifier);
+  const QStringList lines = QApplication::clipboard()->text().split(QLatin1Char('\n'));
+  ASSERT_EQ(lines.size(), 2);
+  for (const int line : {0, 1}) {
+    const QStringList cells = lines[line].split(QLatin1Char('\t'));
+    ASSERT_EQ(cells.size(), table().model()->columnCount());
+    for (int column = 0; column < cells.size(); ++column) {
+      const std::string shown = cell(2 * line, static_cast<Column>(column));
+      EXPECT_EQ(cells[column].toStdString(), shown == "a\tnote" ? "a note" : shown);
+    }
+  }
+}
+
+TEST_F(MeasurementsWindowTest, TheKeysOfCopyDoNothingWithoutRowsAndSayWhatToChoose) {
+  openMeasurements();
+  QApplication::clipboard()->setText(QStringLiteral("from before"));
+  QTest::keyClick(&table(), Qt::Key_C, Qt::ControlModifier);
+  addRows(Quantity::length, {10.0});
+  table().clearSelection();
+  QTest::keyClick(&table(), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(message(), "Choose the rows to copy.");
+  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "from before");
+}
+
+TEST_F(MeasurementsWindowTest, CopyInANoteTakesItsWords) {
+  addRows(Quantity::length, {10.0});
+  openMeasurements();
+  typeInto(0, Column::note, QStringLiteral("my words"));
+  clickCell(0, Column::note);
+  QTest::keyClick(&table(), Qt::Key_F2);
+  auto* const editor = table().findChild<QLineEdit*>();
+  ASSERT_NE(editor, nullptr);
+  editor->selectAll();
+  QTest::keyClick(editor, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "my words");
+}
+
+TEST_F(MeasurementsWindowTest, CopyInTheTableOfBinsTakesABinAndNoRows) {
+  addRows(Quantity::length, {10.0, 20.0});
+  openMeasurements();
+  table().selectAll();
+  windowControl<QTabWidget>("histogram_tabs").setCurrentIndex(1);
+  auto& bins = windowControl<QTableWidget>("bins_table");
+  bins.setFocus();
+  bins.setCurrentCell(0, 2);
+  QTest::keyClick(&bins, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), bins.item(0, 2)->text().toStdString());
 }
 
 TEST_F(MeasurementsWindowTest, DeleteInANoteTakesALetterAndNoRow) {
