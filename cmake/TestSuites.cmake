@@ -11,6 +11,9 @@
 # What holds a program to a time; it runs alone.
 set(timed_tests *TenthOfASecond)
 
+# What takes a minute or so begins first: begun last it would run with a processor idle.
+set(cost_of_minutes 1000)
+
 # suites_of(<result> <program>): the names of the suites in the sources of a program, without "Test" at
 # their end.
 function(suites_of result program)
