@@ -10,6 +10,7 @@
 #include <QPdfWriter>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cmath>
 
 namespace velquon {
 
@@ -29,6 +30,19 @@ QPalette paper_palette() {
 bool is_dark(const QPalette& palette) {
   return palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness();
 }
+
+/// Marks whole numbers alone, as there are no halves of a measurement.
+class CountTicker : public QCPAxisTicker {
+ protected:
+  double getTickStep(const QCPRange& range) override {
+    return std::max(1.0, std::ceil(QCPAxisTicker::getTickStep(range)));
+  }
+  int getSubTickCount(double step) override {
+    constexpr double largest_parted_in_ones = 5.0;
+    return step > largest_parted_in_ones ? QCPAxisTicker::getSubTickCount(step)
+                                         : static_cast<int>(step) - 1;
+  }
+};
 
 /// A plot by QCustomPlot.
 class DrawnHistogram : public HistogramPlot {
@@ -54,6 +68,7 @@ DrawnHistogram::DrawnHistogram()
     : plot_(new QCustomPlot(this)),
       bars_(new QCPBars(plot_->xAxis, plot_->yAxis)),
       curve_(plot_->addGraph()) {
+  plot_->yAxis->setTicker(QSharedPointer<CountTicker>::create());
   bars_->setWidthType(QCPBars::wtPlotCoords);
   plot_->setFocusPolicy(Qt::NoFocus);
   constexpr QSize smallest(220, 150);

@@ -8,7 +8,9 @@
 #include <QLabel>
 #include <QTest>
 #include <QTimer>
+#include <cmath>
 #include <ctime>
+#include <vector>
 
 #include "tests/record/measurements_fixture.h"
 #include "tests/support/documents/pdf_page.h"
@@ -180,6 +182,27 @@ TEST_F(MeasurementFilesTest, ThePlotIsSavedAsAPictureAndAsAPage) {
     words += word.text + QLatin1Char(' ');
   }
   EXPECT_TRUE(words.contains(QStringLiteral("decay length (cm)"))) << words.toStdString();
+}
+
+TEST_F(MeasurementFilesTest, TheNumbersInBinsAreMarkedByWholeNumbers) {
+  // The length's axis has none below 100, so that small numbers on the page are those of bins.
+  for (const std::vector<double>& values :
+       {std::vector<double>{200.0}, {200.0, 400.0, 400.0}, std::vector<double>(12, 300.0)}) {
+    addRows(Quantity::length, values);
+    openMeasurements();
+    dialogs().answer = path(QStringLiteral("plot.pdf"));
+    run("save_plot_item");
+    int marks = 0;
+    for (const PaperWord& word : words_of_pdf(path(QStringLiteral("plot.pdf")))) {
+      bool is_number = false;
+      const double number = word.text.toDouble(&is_number);
+      if (is_number && number < 100.0) {
+        EXPECT_EQ(number, std::floor(number)) << word.text.toStdString();
+        ++marks;
+      }
+    }
+    EXPECT_GE(marks, 2);
+  }
 }
 
 TEST_F(MeasurementFilesTest, QuittingAsksAboutUnsavedRowsAndCancelKeepsTheProgram) {
