@@ -241,6 +241,17 @@ TEST(SeedRunsOnATerminal, SeedsThatWereThereTookNoTime) {
       << terminal.text();
 }
 
+/// Whether a process has a file of a folder open.
+bool has_file_open(const fs::path& descriptors, const fs::path& folder) {
+  std::error_code none;
+  for (const fs::directory_entry& descriptor : fs::directory_iterator(descriptors, none)) {
+    if (fs::read_symlink(descriptor, none).string().starts_with(folder.string() + "/")) {
+      return true;
+    }
+  }
+  return false;
+}
+
 TEST(ClosedStreams, AreNoDataFilesOfTheTool) {
   const TemporaryFolder folder;
   const RunningTool tool({"--type", "pi0", "--energy", "100", "--events", endless_events,
@@ -248,9 +259,10 @@ TEST(ClosedStreams, AreNoDataFilesOfTheTool) {
                          {});
   const fs::path files = "/proc/" + std::to_string(tool.process()) + "/fd";
   std::error_code none;
-  for (int i = 0; i < 1000 && !fs::exists(files / "4", none); ++i) {
+  for (int i = 0; i < 3000 && !has_file_open(files, folder.path()); ++i) {
     std::this_thread::sleep_for(std::chrono::milliseconds(10));
   }
+  ASSERT_TRUE(has_file_open(files, folder.path()));
   EXPECT_EQ(fs::read_symlink(files / "1", none), "/dev/null");
   EXPECT_EQ(fs::read_symlink(files / "2", none), "/dev/null");
   ::kill(tool.process(), SIGKILL);
