@@ -64,7 +64,9 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
       pictures_(std::make_unique<PictureFiles>(*controller_, *chamber_window_->view(),
                                                *projector_window_->view(), dialogs)),
       measurement_files_(std::make_unique<MeasurementFiles>(measurements_, dialogs)),
-      help_(std::make_unique<HelpCommands>(*menus_)),
+      help_(std::make_unique<HelpCommands>(
+          // The bar that holds a menu besides those of all windows.
+          *menus_, [this] { return measurementsWindow().menuBar()->actions(); })),
       dialogs_(dialogs),
       presentations_(std::make_unique<Presentations>()),
       commands_(std::make_unique<Commands>()) {

@@ -4,6 +4,7 @@
 #include "app/help_commands.h"
 
 #include <QApplication>
+#include <utility>
 
 #include "app/commands.h"
 #include "app/menus.h"
@@ -15,7 +16,8 @@
 
 namespace velquon {
 
-HelpCommands::HelpCommands(const Menus& menus) : menus_(menus) {}
+HelpCommands::HelpCommands(const Menus& menus, std::function<QList<QAction*>()> all_menus)
+    : menus_(menus), all_menus_(std::move(all_menus)) {}
 
 HelpCommands::~HelpCommands() = default;
 
@@ -36,7 +38,7 @@ void HelpCommands::showGuide() {
 
 void HelpCommands::showShortcuts() {
   if (!shortcuts_window_) {
-    shortcuts_window_ = std::make_unique<ShortcutsWindow>(menus_.menus());
+    shortcuts_window_ = std::make_unique<ShortcutsWindow>(all_menus_());
   }
   bring_to_front(*shortcuts_window_);
 }

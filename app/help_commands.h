@@ -3,7 +3,11 @@
 
 #pragma once
 
+#include <QList>
+#include <functional>
 #include <memory>
+
+class QAction;
 
 namespace velquon {
 
@@ -15,7 +19,9 @@ class ShortcutsWindow;
 /// The commands of the Help menu with the windows that they show, each made when first asked for.
 class HelpCommands {
  public:
-  explicit HelpCommands(const Menus& menus);
+  /// \param menus holds the items; must outlive this
+  /// \param all_menus gives each menu of the program, those of single windows too, for the list of keys
+  HelpCommands(const Menus& menus, std::function<QList<QAction*>()> all_menus);
   ~HelpCommands();
   HelpCommands(const HelpCommands&) = delete;
   HelpCommands& operator=(const HelpCommands&) = delete;
@@ -30,6 +36,7 @@ class HelpCommands {
   void showShortcuts();
 
   const Menus& menus_;
+  std::function<QList<QAction*>()> all_menus_;
   std::unique_ptr<GuideWindow> guide_window_;
   std::unique_ptr<ShortcutsWindow> shortcuts_window_;
 };

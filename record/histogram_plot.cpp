@@ -37,11 +37,7 @@ class CountTicker : public QCPAxisTicker {
   double getTickStep(const QCPRange& range) override {
     return std::max(1.0, std::ceil(QCPAxisTicker::getTickStep(range)));
   }
-  int getSubTickCount(double step) override {
-    constexpr double largest_parted_in_ones = 5.0;
-    return step > largest_parted_in_ones ? QCPAxisTicker::getSubTickCount(step)
-                                         : static_cast<int>(step) - 1;
-  }
+  int getSubTickCount(double /*step*/) override { return 0; }
 };
 
 /// A plot by QCustomPlot.

@@ -4,6 +4,7 @@
 #include "record/measurement_columns.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 #include <array>
 #include <cmath>
 
@@ -104,7 +105,7 @@ int MeasurementColumns::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant MeasurementColumns::data(const QModelIndex& index, int role) const {
-  // A table view without a current cell asks for that cell's text, too, when it is told to copy.
+  // QAbstractItemView copies the data of its current index, which is invalid while no cell is current.
   if (!index.isValid()) {
     return {};
   }
@@ -121,6 +122,10 @@ QVariant MeasurementColumns::data(const QModelIndex& index, int role) const {
 QVariant MeasurementColumns::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation == Qt::Vertical) {
     return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
+  }
+  // Assistive programs ask for columns that there are not.
+  if (section < 0 || section >= columnCount()) {
+    return {};
   }
   if (role == Qt::DisplayRole) {
     return tr(column_titles.at(static_cast<std::size_t>(section)));
@@ -155,12 +160,14 @@ bool MeasurementColumns::setData(const QModelIndex& index, const QVariant& value
 }
 
 QString MeasurementColumns::linesOf(const std::vector<std::size_t>& rows) const {
+  const QString space(QLatin1Char(' '));
   QStringList lines;
   for (const std::size_t row : rows) {
     QStringList cells;
     for (int column = 0; column < columnCount(); ++column) {
-      // A tab parts cells, and whatever a note holds is one line.
-      cells << index(static_cast<int>(row), column).data().toString().simplified();
+      // In a note these would begin another cell or row.
+      static const QRegularExpression separators(QStringLiteral("[\\t\\r\\n]"));
+      cells << index(static_cast<int>(row), column).data().toString().replace(separators, space);
     }
     lines << cells.join(QLatin1Char('\t'));
   }

@@ -47,7 +47,7 @@ class MeasurementColumns : public QAbstractTableModel {
   bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
   /// \param rows indices below the number of rows
-  /// \return the texts of the rows as they are shown, a line each, cells parted by tabs
+  /// \return the texts of the rows as they are shown, a line each, cells separated by tabs
   [[nodiscard]] QString linesOf(const std::vector<std::size_t>& rows) const;
 
   /// Shows the present rows: told apart are rows changed in place and rows added at the end, at which

@@ -92,6 +92,7 @@ void MeasurementsWindow::addItems() {
   record_item_->setToolTip(tr("Note what the projector's tool reads (Ctrl+Return)"));
   copy_item_ =
       addItem("copy_rows_item", tr("&Copy Rows"), QKeySequence::Copy, [this] { copyRows(); });
+  copy_item_->setShortcuts(QKeySequence::Copy);
   delete_item_ = addItem("delete_item", tr("&Delete Rows"), QKeySequence(Qt::Key_Delete),
                          [this] { deleteRows(); });
   // Where an editor or another control has the keys, these are its own.
@@ -130,8 +131,19 @@ QAction* MeasurementsWindow::addItem(const char* name, const QString& text,
   QAction* const item = menu_->addAction(text);
   item->setObjectName(QLatin1String(name));
   item->setShortcut(shortcut);
-  connect(item, &QAction::triggered, this, run);
+  connect(item, &QAction::triggered, this, [this, run] {
+    finishEdit();
+    run();
+  });
   return item;
+}
+
+void MeasurementsWindow::finishEdit() {
+  // A change of the rows would put the old text into the editor, which hands on what is typed when it
+  // loses the focus.
+  if (table_->isAncestorOf(focusWidget())) {
+    table_->setFocus();
+  }
 }
 
 void MeasurementsWindow::fillToolBar() {
@@ -231,6 +243,7 @@ void MeasurementsWindow::copyRows() {
     return;
   }
   QGuiApplication::clipboard()->setText(columns_->linesOf(places));
+  tell({});
 }
 
 void MeasurementsWindow::deleteRows() {

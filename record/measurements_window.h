@@ -55,11 +55,13 @@ class MeasurementsWindow : public GLPanel {
   QAction* addItem(const char* name, const QString& text, const QKeySequence& shortcut,
                    const std::function<void()>& run);
   void fillToolBar();
+  /// Takes over what is typed in a cell that is being edited.
+  void finishEdit();
   void refresh();
   /// Makes columns as wide as their texts, but for long ones.
   /// \param may_shrink whether a column that is wider becomes narrower
   void fitColumns(bool may_shrink);
-  /// \return the places of the rows that are chosen in the table, rising
+  /// \return the places of the rows that are chosen in the table, ascending
   [[nodiscard]] std::vector<std::size_t> chosenRows() const;
   void copyRows();
   void deleteRows();

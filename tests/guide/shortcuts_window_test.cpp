@@ -58,6 +58,12 @@ TEST_F(ShortcutsWindowTest, ListsEachItemThatHasAKey) {
   EXPECT_GT(with_keys, 15);
 }
 
+TEST_F(ShortcutsWindowTest, ListsTheKeysOfTheMeasurementsMenu) {
+  const auto listed = listedKeys();
+  EXPECT_EQ(listed.at(QStringLiteral("Copy Rows")), QStringLiteral("Ctrl+C"));
+  EXPECT_EQ(listed.at(QStringLiteral("Make Events…")), QStringLiteral("Ctrl+Alt+M"));
+}
+
 TEST_F(ShortcutsWindowTest, ListsTheKeysOfTheViews) {
   const auto listed = listedKeys();
   EXPECT_EQ(listed.at(QStringLiteral("Stop the turntable")), QStringLiteral("Escape, Space"));

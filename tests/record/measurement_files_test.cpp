@@ -185,9 +185,8 @@ TEST_F(MeasurementFilesTest, ThePlotIsSavedAsAPictureAndAsAPage) {
 }
 
 TEST_F(MeasurementFilesTest, TheNumbersInBinsAreMarkedByWholeNumbers) {
-  // The length's axis has none below 100, so that small numbers on the page are those of bins.
-  for (const std::vector<double>& values :
-       {std::vector<double>{200.0}, {200.0, 400.0, 400.0}, std::vector<double>(12, 300.0)}) {
+  // One bin from 0 to 500 has no mark of a length between 0 and 100.
+  for (const auto& values : {std::vector<double>{200.0}, std::vector<double>(12, 300.0)}) {
     addRows(Quantity::length, values);
     openMeasurements();
     dialogs().answer = path(QStringLiteral("plot.pdf"));

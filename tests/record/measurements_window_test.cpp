@@ -250,10 +250,12 @@ TEST_F(MeasurementsWindowTest, ChosenRowsAreDeletedInOneStep) {
   EXPECT_EQ(cell(2, Column::value), "30");
 }
 
-TEST_F(MeasurementsWindowTest, ChosenRowsAreCopiedAsLinesOfCellsPartedByTabs) {
+TEST_F(MeasurementsWindowTest, ChosenRowsAreCopiedAsLinesOfCellsSeparatedByTabs) {
   addRows(Quantity::length, {10.0, 20.0, 30.0});
+  Measurement noted = measurements().rows()[2];
+  noted.note = "a\tnote\nmore  of it";
+  measurements().change(2, noted);
   openMeasurements();
-  typeInto(2, Column::note, QStringLiteral("a\tnote"));
   clickCell(2, Column::event);
   clickCell(0, Column::event, Qt::ControlModifier);
   QTest::keyClick(&table(), Qt::Key_C, Qt::ControlModifier);
@@ -264,9 +266,10 @@ TEST_F(MeasurementsWindowTest, ChosenRowsAreCopiedAsLinesOfCellsPartedByTabs) {
     ASSERT_EQ(cells.size(), table().model()->columnCount());
     for (int column = 0; column < cells.size(); ++column) {
       const std::string shown = cell(2 * line, static_cast<Column>(column));
-      EXPECT_EQ(cells[column].toStdString(), shown == "a\tnote" ? "a note" : shown);
+      EXPECT_EQ(cells[column].toStdString(), shown == noted.note ? "a note more  of it" : shown);
     }
   }
+  EXPECT_TRUE(lines[1].contains(QStringLiteral("a note more")));
 }
 
 TEST_F(MeasurementsWindowTest, TheKeysOfCopyDoNothingWithoutRowsAndSayWhatToChoose) {
@@ -278,6 +281,32 @@ TEST_F(MeasurementsWindowTest, TheKeysOfCopyDoNothingWithoutRowsAndSayWhatToChoo
   QTest::keyClick(&table(), Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(message(), "Choose the rows to copy.");
   EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "from before");
+  clickCell(0, Column::event);
+  QTest::keyClick(&table(), Qt::Key_Insert, Qt::ControlModifier);
+  EXPECT_EQ(message(), "");
+  EXPECT_TRUE(QApplication::clipboard()->text().contains(QStringLiteral("\tlength\t")));
+}
+
+TEST_F(MeasurementsWindowTest, ANoteThatIsBeingTypedStaysWhenRowsChange) {
+  addRows(Quantity::length, {10.0, 20.0});
+  makeEvent(1);
+  activate(projectorWindow());
+  layTape(QPoint(100, 200), QPoint(200, 200));
+  openMeasurements();
+  clickCell(0, Column::note);
+  QTest::keyClick(&table(), Qt::Key_F2);
+  auto* const editor = table().findChild<QLineEdit*>();
+  ASSERT_NE(editor, nullptr);
+  QTest::keyClicks(editor, QStringLiteral("half a"));
+  QTest::keyClick(editor, Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(rows(), 3);
+  EXPECT_EQ(measurements().rows()[0].note, "half a");
+}
+
+TEST_F(MeasurementsWindowTest, AColumnThatThereIsNotHasNoTitle) {
+  for (const int column : {-1, table().model()->columnCount()}) {
+    EXPECT_FALSE(table().model()->headerData(column, Qt::Horizontal).isValid());
+  }
 }
 
 TEST_F(MeasurementsWindowTest, CopyInANoteTakesItsWords) {
