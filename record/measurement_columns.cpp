@@ -160,13 +160,13 @@ bool MeasurementColumns::setData(const QModelIndex& index, const QVariant& value
 }
 
 QString MeasurementColumns::linesOf(const std::vector<std::size_t>& rows) const {
+  // In a note these would begin another cell or row.
+  const QRegularExpression separators(QStringLiteral("[\\t\\r\\n]"));
   const QString space(QLatin1Char(' '));
   QStringList lines;
   for (const std::size_t row : rows) {
     QStringList cells;
     for (int column = 0; column < columnCount(); ++column) {
-      // In a note these would begin another cell or row.
-      static const QRegularExpression separators(QStringLiteral("[\\t\\r\\n]"));
       cells << index(static_cast<int>(row), column).data().toString().replace(separators, space);
     }
     lines << cells.join(QLatin1Char('\t'));
