@@ -4,6 +4,7 @@
 #include "tests/record/measurements_fixture.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QTest>
 
 #include "model/measurement_file.h"
@@ -50,6 +51,10 @@ void MeasurementsFixture::run(const char* item_name) {
   ASSERT_NE(item, nullptr) << item_name;
   ASSERT_TRUE(item->isEnabled()) << item_name;
   item->trigger();
+}
+
+std::string MeasurementsFixture::message() {
+  return windowControl<QLabel>("measurements_message").text().toStdString();
 }
 
 std::string MeasurementsFixture::cell(int row, MeasurementColumn column) {

@@ -27,6 +27,10 @@ class MeasurementsFixture : public DocumentsFixture {
   void addRows(Quantity quantity, const std::vector<double>& values);
   /// Chooses an item of the window's own menu.
   void run(const char* item_name);
+  /// What is told below the table.
+  [[nodiscard]] std::string message();
+  /// The number of rows in the table.
+  [[nodiscard]] int rows() { return table().model()->rowCount(); }
   /// A cell's text on the screen.
   [[nodiscard]] std::string cell(int row, MeasurementColumn column);
   /// Clicks a cell as a person does.

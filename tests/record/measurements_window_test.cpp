@@ -1,15 +1,13 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The window of measurements through mouse and keyboard: recording, editing, deleting, undoing, the
-// histogram.
+// The window of measurements through mouse and keyboard: recording, the
+// histogram, many rows.
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -18,7 +16,6 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
-#include <cmath>
 #include <ctime>
 
 #include "model/projector.h"
@@ -36,24 +33,7 @@ using Column = MeasurementColumn;
 
 class MeasurementsWindowTest : public MeasurementsFixture {
  protected:
-  std::string message() {
-    return windowControl<QLabel>("measurements_message").text().toStdString();
-  }
   std::string summary() { return windowControl<QLabel>("histogram_summary").text().toStdString(); }
-  int rows() { return table().model()->rowCount(); }
-  /// Edits a cell by F2 and the keyboard.
-  void typeInto(int row, Column column, const QString& text) {
-    clickCell(row, column);
-    QTest::keyClick(&table(), Qt::Key_F2);
-    auto* const editor = table().findChild<QLineEdit*>();
-    ASSERT_NE(editor, nullptr);
-    editor->selectAll();
-    QTest::keyClicks(editor, text);
-    QTest::keyClick(editor, Qt::Key_Return);
-    handle_waiting_events();
-    // The editor goes before another one comes.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  }
 };
 
 }  // namespace
@@ -184,175 +164,6 @@ TEST_F(MeasurementsWindowTest, RecordWithoutAToolLaidOutSaysWhatToDo) {
   EXPECT_EQ(rows(), 0);
   EXPECT_EQ(message(), "Nothing is measured: lay out a tool of the projector first.");
   EXPECT_TRUE(windowControl<QLabel>("measurements_message").isVisible());
-}
-
-TEST_F(MeasurementsWindowTest, ANoteIsEditedInItsPlaceAndUndoneByTheKeys) {
-  addRows(Quantity::length, {10.0, 20.0});
-  openMeasurements();
-  typeInto(1, Column::note, QStringLiteral("=my note, first"));
-  EXPECT_EQ(measurements().rows()[1].note, "=my note, first");
-  EXPECT_EQ(cell(1, Column::note), "=my note, first");
-  QTest::keyClick(&table(), Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(cell(1, Column::note), "");
-  QTest::keyClick(&table(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_EQ(cell(1, Column::note), "=my note, first");
-}
-
-TEST_F(MeasurementsWindowTest, TheLongestLengthIsANumberAboveZeroOrNothing) {
-  addRows(Quantity::length, {10.0});
-  openMeasurements();
-  typeInto(0, Column::longest, QStringLiteral("250.5"));
-  EXPECT_EQ(measurements().rows()[0].longest_cm, 250.5);
-  for (const char* const refused : {"-1", "0", "nan", "inf", "1,234.5", "1,234,567", "far"}) {
-    typeInto(0, Column::longest, QLatin1String(refused));
-    EXPECT_EQ(measurements().rows()[0].longest_cm, 250.5) << refused;
-  }
-  typeInto(0, Column::longest, QStringLiteral("1,234"));
-  EXPECT_EQ(measurements().rows()[0].longest_cm, 1.234) << "a comma is a decimal point";
-  typeInto(0, Column::longest, QStringLiteral(" "));
-  EXPECT_TRUE(std::isnan(measurements().rows()[0].longest_cm));
-}
-
-TEST_F(MeasurementsWindowTest, WhatBecameOfATrackIsChosenFromAPopUp) {
-  addRows(Quantity::length, {10.0});
-  openMeasurements();
-  clickCell(0, Column::ending);
-  QTest::keyClick(&table(), Qt::Key_F2);
-  auto* const popup = table().findChild<QComboBox*>(QStringLiteral("ending_popup"));
-  ASSERT_NE(popup, nullptr);
-  QTest::keyClick(popup, Qt::Key_End);
-  QTest::keyClick(popup, Qt::Key_Return);
-  table().setFocus();
-  handle_waiting_events();
-  EXPECT_EQ(measurements().rows()[0].ending, Ending::left);
-  EXPECT_EQ(cell(0, Column::ending), "left");
-}
-
-TEST_F(MeasurementsWindowTest, ValuesCannotBeEdited) {
-  addRows(Quantity::length, {10.0});
-  openMeasurements();
-  clickCell(0, Column::value);
-  QTest::keyClick(&table(), Qt::Key_F2);
-  EXPECT_EQ(table().findChild<QLineEdit*>(), nullptr);
-}
-
-TEST_F(MeasurementsWindowTest, ChosenRowsAreDeletedInOneStep) {
-  addRows(Quantity::length, {10.0, 20.0, 30.0, 40.0});
-  openMeasurements();
-  clickCell(0, Column::event);
-  clickCell(2, Column::event, Qt::ControlModifier);
-  QTest::keyClick(&table(), Qt::Key_Delete);
-  ASSERT_EQ(rows(), 2);
-  EXPECT_EQ(cell(0, Column::value), "20");
-  EXPECT_EQ(cell(1, Column::value), "40");
-  QTest::keyClick(&table(), Qt::Key_Z, Qt::ControlModifier);
-  ASSERT_EQ(rows(), 4);
-  EXPECT_EQ(cell(2, Column::value), "30");
-}
-
-TEST_F(MeasurementsWindowTest, ChosenRowsAreCopiedAsLinesOfCellsSeparatedByTabs) {
-  addRows(Quantity::length, {10.0, 20.0, 30.0});
-  Measurement noted = measurements().rows()[2];
-  noted.note = "a\tnote\nmore  of it";
-  measurements().change(2, noted);
-  openMeasurements();
-  clickCell(2, Column::event);
-  clickCell(0, Column::event, Qt::ControlModifier);
-  QTest::keyClick(&table(), Qt::Key_C, Qt::ControlModifier);
-  const QStringList lines = QApplication::clipboard()->text().split(QLatin1Char('\n'));
-  ASSERT_EQ(lines.size(), 2);
-  for (const int line : {0, 1}) {
-    const QStringList cells = lines[line].split(QLatin1Char('\t'));
-    ASSERT_EQ(cells.size(), table().model()->columnCount());
-    for (int column = 0; column < cells.size(); ++column) {
-      const std::string shown = cell(2 * line, static_cast<Column>(column));
-      EXPECT_EQ(cells[column].toStdString(), shown == noted.note ? "a note more  of it" : shown);
-    }
-  }
-  EXPECT_TRUE(lines[1].contains(QStringLiteral("a note more")));
-}
-
-TEST_F(MeasurementsWindowTest, TheKeysOfCopyDoNothingWithoutRowsAndSayWhatToChoose) {
-  openMeasurements();
-  QApplication::clipboard()->setText(QStringLiteral("from before"));
-  QTest::keyClick(&table(), Qt::Key_C, Qt::ControlModifier);
-  addRows(Quantity::length, {10.0});
-  table().clearSelection();
-  QTest::keyClick(&table(), Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(message(), "Choose the rows to copy.");
-  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "from before");
-  clickCell(0, Column::event);
-  QTest::keyClick(&table(), Qt::Key_Insert, Qt::ControlModifier);
-  EXPECT_EQ(message(), "");
-  EXPECT_TRUE(QApplication::clipboard()->text().contains(QStringLiteral("\tlength\t")));
-}
-
-TEST_F(MeasurementsWindowTest, ANoteThatIsBeingTypedStaysWhenRowsChange) {
-  addRows(Quantity::length, {10.0, 20.0});
-  makeEvent(1);
-  activate(projectorWindow());
-  layTape(QPoint(100, 200), QPoint(200, 200));
-  openMeasurements();
-  clickCell(0, Column::note);
-  QTest::keyClick(&table(), Qt::Key_F2);
-  auto* const editor = table().findChild<QLineEdit*>();
-  ASSERT_NE(editor, nullptr);
-  QTest::keyClicks(editor, QStringLiteral("half a"));
-  QTest::keyClick(editor, Qt::Key_Return, Qt::ControlModifier);
-  EXPECT_EQ(rows(), 3);
-  EXPECT_EQ(measurements().rows()[0].note, "half a");
-}
-
-TEST_F(MeasurementsWindowTest, AColumnThatThereIsNotHasNoTitle) {
-  for (const int column : {-1, table().model()->columnCount()}) {
-    EXPECT_FALSE(table().model()->headerData(column, Qt::Horizontal).isValid());
-  }
-}
-
-TEST_F(MeasurementsWindowTest, CopyInANoteTakesItsWords) {
-  addRows(Quantity::length, {10.0});
-  openMeasurements();
-  typeInto(0, Column::note, QStringLiteral("my words"));
-  clickCell(0, Column::note);
-  QTest::keyClick(&table(), Qt::Key_F2);
-  auto* const editor = table().findChild<QLineEdit*>();
-  ASSERT_NE(editor, nullptr);
-  editor->selectAll();
-  QTest::keyClick(editor, Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "my words");
-}
-
-TEST_F(MeasurementsWindowTest, CopyInTheTableOfBinsTakesABinAndNoRows) {
-  addRows(Quantity::length, {10.0, 20.0});
-  openMeasurements();
-  table().selectAll();
-  windowControl<QTabWidget>("histogram_tabs").setCurrentIndex(1);
-  auto& bins = windowControl<QTableWidget>("bins_table");
-  bins.setFocus();
-  bins.setCurrentCell(0, 2);
-  QTest::keyClick(&bins, Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), bins.item(0, 2)->text().toStdString());
-}
-
-TEST_F(MeasurementsWindowTest, DeleteInANoteTakesALetterAndNoRow) {
-  addRows(Quantity::length, {10.0});
-  openMeasurements();
-  typeInto(0, Column::note, QStringLiteral("ab"));
-  clickCell(0, Column::note);
-  QTest::keyClick(&table(), Qt::Key_F2);
-  auto* const editor = table().findChild<QLineEdit*>();
-  ASSERT_NE(editor, nullptr);
-  editor->setCursorPosition(0);
-  QTest::keyClick(editor, Qt::Key_Delete);
-  QTest::keyClick(editor, Qt::Key_Return);
-  handle_waiting_events();
-  EXPECT_EQ(rows(), 1);
-  EXPECT_EQ(measurements().rows()[0].note, "b");
-  // Nor does it where another control has the keys.
-  auto& popup = windowControl<QComboBox>("quantity_popup");
-  popup.setFocus();
-  QTest::keyClick(&popup, Qt::Key_Delete);
-  EXPECT_EQ(rows(), 1);
 }
 
 TEST_F(MeasurementsWindowTest, TheHistogramFillsWhileOneMeasures) {
