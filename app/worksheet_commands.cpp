@@ -21,7 +21,7 @@ namespace velquon {
 
 namespace {
 
-struct Worksheet {
+struct WorksheetTexts {
   Q_DECLARE_TR_FUNCTIONS(velquon::Worksheet)
 };
 
@@ -44,19 +44,19 @@ struct WorksheetFiles {
 
 /// Asks for the names of the files; nothing when the user gives up.
 std::optional<WorksheetFiles> ask_for_files(UserDialogs& dialogs, bool with_answers) {
-  const QString filter = Worksheet::tr("PDF files (*.pdf)");
+  const QString filter = WorksheetTexts::tr("PDF files (*.pdf)");
   const QString suffix = QStringLiteral("pdf");
   WorksheetFiles files;
-  files.sheets = dialogs.fileToSave(Worksheet::tr("Save Worksheets"), Worksheet::tr("Worksheets"),
-                                    filter, suffix);
+  files.sheets = dialogs.fileToSave(WorksheetTexts::tr("Save Worksheets"),
+                                    WorksheetTexts::tr("Worksheets"), filter, suffix);
   if (files.sheets.isEmpty() || !with_answers) {
     return files.sheets.isEmpty() ? std::nullopt : std::optional(files);
   }
-  files.answers = dialogs.fileToSave(Worksheet::tr("Save Answers"),
-                                     Worksheet::tr("Worksheet Answers"), filter, suffix);
+  files.answers = dialogs.fileToSave(WorksheetTexts::tr("Save Answers"),
+                                     WorksheetTexts::tr("Worksheet Answers"), filter, suffix);
   if (!files.answers.isEmpty() && is_one_file(files.answers, files.sheets)) {
-    dialogs.alert(Worksheet::tr("Not saved"),
-                  Worksheet::tr("The worksheets and their answers need files of two names."));
+    dialogs.alert(WorksheetTexts::tr("Not saved"),
+                  WorksheetTexts::tr("The worksheets and their answers need files of two names."));
     return std::nullopt;
   }
   return files.answers.isEmpty() ? std::nullopt : std::optional(files);
@@ -66,9 +66,9 @@ std::optional<WorksheetFiles> ask_for_files(UserDialogs& dialogs, bool with_answ
 /// \return nothing when the user ends it
 std::optional<WorksheetDocuments> make_with_progress(const WorksheetOrder& order) {
   constexpr int long_work = 1000;  // milliseconds
-  QProgressDialog progress(Worksheet::tr("Making worksheets…"), Worksheet::tr("Cancel"), 0,
-                           order.events, QApplication::activeWindow());
-  progress.setWindowTitle(Worksheet::tr("Print Worksheets"));
+  QProgressDialog progress(WorksheetTexts::tr("Making worksheets…"), WorksheetTexts::tr("Cancel"),
+                           0, order.events, QApplication::activeWindow());
+  progress.setWindowTitle(WorksheetTexts::tr("Print Worksheets"));
   progress.setWindowModality(Qt::ApplicationModal);
   progress.setMinimumDuration(long_work);
   progress.setValue(0);
@@ -81,8 +81,8 @@ std::optional<WorksheetDocuments> make_with_progress(const WorksheetOrder& order
 bool save(UserDialogs& dialogs, const QString& path, const QByteArray& bytes) {
   const auto reason = write_whole_file(path, bytes);
   if (reason) {
-    dialogs.alert(Worksheet::tr("Not saved"),
-                  Worksheet::tr("Velquon can't write the file %1: %2.").arg(path, *reason));
+    dialogs.alert(WorksheetTexts::tr("Not saved"),
+                  WorksheetTexts::tr("Velquon can't write the file %1: %2.").arg(path, *reason));
   }
   return !reason;
 }

@@ -26,8 +26,8 @@ namespace velquon::bench {
 
 namespace {
 
-constexpr int repetitions = 21;
-constexpr double shortest_time = 0.05;  // seconds of one repetition
+constexpr int drawing_repetitions = 21;
+constexpr double shortest_drawing_time = 0.05;  // seconds of one repetition
 
 /// Draws a scene again and again, and something else after it.
 template <typename DrawBesides>
@@ -86,7 +86,7 @@ class Canvas {
   bool ready_ = false;
 };
 
-int run(int argc, char** argv) {
+int measure_drawing(int argc, char** argv) {
   use_compatibility_contexts();
   const QGuiApplication application(argc, argv);
   glutInit(&argc, argv);
@@ -104,7 +104,7 @@ int run(int argc, char** argv) {
     measured->Unit(benchmark::kMillisecond)
         ->UseRealTime()
         ->MeasureProcessCPUTime()
-        ->MinTime(shortest_time);
+        ->MinTime(shortest_drawing_time);
   }
   // How many times as fast in processor time of all threads, which on an idle machine is the time
   // on the clock.
@@ -122,7 +122,7 @@ int run(int argc, char** argv) {
     return (medians.of("glut/" + points, "processor time") - empty) /
            (medians.of("array/" + points, "processor time") - empty);
   };
-  return run_benchmarks(argc, argv, repetitions,
+  return run_benchmarks(argc, argv, drawing_repetitions,
                         {{"drawing 350 points, times a cube a GLUT call", Bound::at_least, 8.0,
                           [=](const Medians& m) { return gain(m, "350"); }},
                          {"a pass without points, times 350 by a cube a GLUT call", Bound::none,
@@ -142,5 +142,5 @@ int run(int argc, char** argv) {
 }  // namespace velquon::bench
 
 int main(int argc, char** argv) {
-  return velquon::bench::run(argc, argv);
+  return velquon::bench::measure_drawing(argc, argv);
 }

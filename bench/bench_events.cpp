@@ -22,8 +22,7 @@ namespace velquon::bench {
 namespace {
 
 constexpr int batch = 1000;
-constexpr int repetitions = 21;
-constexpr double shortest_time = 0.02;  // seconds of one repetition
+constexpr int events_repetitions = 21;
 
 constexpr std::size_t positive_pion = 1;
 
@@ -82,18 +81,11 @@ void generation_and_text(benchmark::State& state, std::size_t type, const Chambe
   count_events(state, points);
 }
 
-template <typename Function>
-void add(const std::string& name, Function function) {
-  benchmark::RegisterBenchmark(name.c_str(), function)
-      ->Unit(benchmark::kMillisecond)
-      ->MinTime(shortest_time);
-}
-
 std::string name_of(const std::string& what, std::size_t type, const std::string& values) {
   return what + "/" + std::string(event_types()[type].key) + "/" + values;
 }
 
-int run(int argc, char** argv) {
+int measure_events(int argc, char** argv) {
   struct Setting {
     const char* name;
     ChamberValues values;
@@ -104,11 +96,12 @@ int run(int argc, char** argv) {
                                       {"9999 MeV", {.kinetic_Mev = 9999.0F}}};
   for (std::size_t type = 0; type < event_types().size(); ++type) {
     for (const auto& [setting, values] : settings) {
-      add(name_of("make", type, setting),
+      add_benchmark(
+          name_of("make", type, setting),
           [type, chosen = values](benchmark::State& state) { generation(state, type, chosen); });
     }
-    add(name_of("make+csv", type, settings.front().name),
-        [type](benchmark::State& state) { generation_and_text(state, type, {}); });
+    add_benchmark(name_of("make+csv", type, settings.front().name),
+                  [type](benchmark::State& state) { generation_and_text(state, type, {}); });
   }
 
   const auto rate = [](const Medians& medians, const std::string& what, std::size_t type) {
@@ -129,7 +122,7 @@ int run(int argc, char** argv) {
                               return rate(medians, "make+csv", type) / rate(medians, "make", type);
                             }});
   }
-  return run_benchmarks(argc, argv, repetitions, requirements);
+  return run_benchmarks(argc, argv, events_repetitions, requirements);
 }
 
 }  // namespace
@@ -137,5 +130,5 @@ int run(int argc, char** argv) {
 }  // namespace velquon::bench
 
 int main(int argc, char** argv) {
-  return velquon::bench::run(argc, argv);
+  return velquon::bench::measure_events(argc, argv);
 }

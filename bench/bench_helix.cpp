@@ -20,8 +20,8 @@ namespace {
 
 constexpr std::int16_t points = event_point_limit;
 constexpr double bound = 404.0;
-constexpr int repetitions = 25;
-constexpr double shortest_time = 0.05;  // seconds of one repetition
+constexpr int helix_repetitions = 25;
+constexpr double shortest_helix_time = 0.05;  // seconds of one repetition
 
 /// A circle well inside the chamber that rises slowly enough to stay there for all points.
 HelixPath long_helix() {
@@ -77,14 +77,14 @@ void floor_of_the_walk(benchmark::State& state) {
       benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 }
 
-int run(int argc, char** argv) {
+int measure_helix(int argc, char** argv) {
   for (benchmark::internal::Benchmark* const measured :
        {benchmark::RegisterBenchmark("helix", walk),
         benchmark::RegisterBenchmark("floor", floor_of_the_walk)}) {
-    measured->Unit(benchmark::kMicrosecond)->MinTime(shortest_time);
+    measured->Unit(benchmark::kMicrosecond)->MinTime(shortest_helix_time);
   }
   return run_benchmarks(
-      argc, argv, repetitions,
+      argc, argv, helix_repetitions,
       {{"point of a long helix, times the floor", Bound::at_most, 1.15, [](const Medians& medians) {
           return medians.of("helix", "ns/point") / medians.of("floor", "ns/point");
         }}});
@@ -95,5 +95,5 @@ int run(int argc, char** argv) {
 }  // namespace velquon::bench
 
 int main(int argc, char** argv) {
-  return velquon::bench::run(argc, argv);
+  return velquon::bench::measure_helix(argc, argv);
 }

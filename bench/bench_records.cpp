@@ -22,9 +22,8 @@ namespace velquon::bench {
 
 namespace {
 
-constexpr int batch = 1000;
-constexpr int repetitions = 21;
-constexpr double shortest_time = 0.02;  // seconds of one repetition
+constexpr int records_of_batch = 1000;
+constexpr int records_repetitions = 21;
 
 struct Setting {
   const char* name;
@@ -39,7 +38,7 @@ void make_batch(benchmark::State& state, std::size_t type, const ChamberValues& 
   TrackBuffer event;
   for ([[maybe_unused]] auto _ : state) {
     std::srand(1);
-    for (int i = 0; i < batch; ++i) {
+    for (int i = 0; i < records_of_batch; ++i) {
       make_event(event_types()[type], values, event, record);
       benchmark::ClobberMemory();
     }
@@ -49,7 +48,7 @@ void make_batch(benchmark::State& state, std::size_t type, const ChamberValues& 
 /// Records of a pion's or a Lambda's events as they come.
 std::vector<ParticleRecord> some_records(std::size_t type) {
   std::srand(1);
-  std::vector<ParticleRecord> records(batch);
+  std::vector<ParticleRecord> records(records_of_batch);
   TrackBuffer event;
   for (ParticleRecord& record : records) {
     make_event(event_types()[type], {.B_field = 2.0F, .kinetic_Mev = 50.0F}, event, &record);
@@ -104,27 +103,20 @@ void write_records(benchmark::State& state, std::size_t type) {
   }
 }
 
-template <typename Function>
-void add(const std::string& name, Function function) {
-  benchmark::RegisterBenchmark(name.c_str(), function)
-      ->Unit(benchmark::kMillisecond)
-      ->MinTime(shortest_time);
-}
-
 double time_of(const Medians& medians, const std::string& name) {
   return medians.of(name, "processor time");
 }
 
-int run(int argc, char** argv) {
+int measure_records(int argc, char** argv) {
   std::vector<Requirement> requirements;
   for (std::size_t type = 0; type < event_types().size(); ++type) {
     const std::string key(event_types()[type].key);
     for (const Setting& setting : settings) {
       const std::string name = key + "/" + setting.name;
-      add("make/" + name, [type, values = setting.values](benchmark::State& state) {
+      add_benchmark("make/" + name, [type, values = setting.values](benchmark::State& state) {
         make_batch(state, type, values, nullptr);
       });
-      add("record/" + name, [type, values = setting.values](benchmark::State& state) {
+      add_benchmark("record/" + name, [type, values = setting.values](benchmark::State& state) {
         ParticleRecord record;
         make_batch(state, type, values, &record);
       });
@@ -135,8 +127,10 @@ int run(int argc, char** argv) {
                               }});
     }
     if (key == "pi-" || key == "lambda") {
-      add("ready/" + key, [type](benchmark::State& state) { write_ready_made(state, type); });
-      add("hepmc3/" + key, [type](benchmark::State& state) { write_records(state, type); });
+      add_benchmark("ready/" + key,
+                    [type](benchmark::State& state) { write_ready_made(state, type); });
+      add_benchmark("hepmc3/" + key,
+                    [type](benchmark::State& state) { write_records(state, type); });
       requirements.push_back({"HepMC3 files of " + key + ", speed of its writer's own",
                               Bound::at_least, 0.5, [key](const Medians& medians) {
                                 return time_of(medians, "ready/" + key) /
@@ -144,7 +138,7 @@ int run(int argc, char** argv) {
                               }});
     }
   }
-  return run_benchmarks(argc, argv, repetitions, requirements);
+  return run_benchmarks(argc, argv, records_repetitions, requirements);
 }
 
 }  // namespace
@@ -152,5 +146,5 @@ int run(int argc, char** argv) {
 }  // namespace velquon::bench
 
 int main(int argc, char** argv) {
-  return velquon::bench::run(argc, argv);
+  return velquon::bench::measure_records(argc, argv);
 }

@@ -39,7 +39,7 @@ namespace velquon::bench {
 
 namespace {
 
-constexpr int repetitions = 15;
+constexpr int track_repetitions = 15;
 constexpr int timed_steps = 150;
 
 // In this field a track of speed 1 is a circle of radius 100: half of it when the particle comes in
@@ -140,7 +140,7 @@ void fly(benchmark::State& state, Application& application) {
   view.show();
 }
 
-int run(int argc, char** argv) {
+int measure_track(int argc, char** argv) {
   if (const std::string missing = missing_for_windows(); !missing.empty()) {
     std::fprintf(stderr, "bench_track: %s\n", missing.c_str());
     return 1;
@@ -172,7 +172,7 @@ int run(int argc, char** argv) {
       ->Iterations(1);
   constexpr double nominal_steps = 200.0;  // a second
   return run_benchmarks(
-      argc, argv, repetitions,
+      argc, argv, track_repetitions,
       {{"track step after 9000 points, times one after 100", Bound::at_most, 1.1,
         [](const Medians& m) {
           return m.of("step/9000", "ms/step") / m.of("step/100", "ms/step");
@@ -186,5 +186,5 @@ int run(int argc, char** argv) {
 }  // namespace velquon::bench
 
 int main(int argc, char** argv) {
-  return velquon::bench::run(argc, argv);
+  return velquon::bench::measure_track(argc, argv);
 }

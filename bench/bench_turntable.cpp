@@ -32,7 +32,7 @@ namespace velquon::bench {
 
 namespace {
 
-constexpr int repetitions = 3;
+constexpr int turntable_repetitions = 3;
 constexpr double nominal_steps = 200.0;  // a second, at the fastest rate
 constexpr int settling_time = 500;       // milliseconds
 constexpr int counting_time = 3000;      // milliseconds
@@ -71,7 +71,7 @@ void turn(benchmark::State& state, Application& application) {
   state.counters["processors"] = processor / seconds;
 }
 
-int run(int argc, char** argv) {
+int measure_turntable(int argc, char** argv) {
   if (const std::string missing = missing_for_windows(); !missing.empty()) {
     std::fprintf(stderr, "bench_turntable: %s\n", missing.c_str());
     return 1;
@@ -91,7 +91,7 @@ int run(int argc, char** argv) {
       ->UseRealTime()
       ->Iterations(1);
   return run_benchmarks(
-      argc, argv, repetitions,
+      argc, argv, turntable_repetitions,
       {{"turntable steps with 350 points, share of 200 a second", Bound::at_least, 0.95,
         [](const Medians& m) { return m.of("turn/350", "steps/s") / nominal_steps; }},
        {"turntable steps with 5000 points, share of 200 a second", Bound::at_least, 0.95,
@@ -103,5 +103,5 @@ int run(int argc, char** argv) {
 }  // namespace velquon::bench
 
 int main(int argc, char** argv) {
-  return velquon::bench::run(argc, argv);
+  return velquon::bench::measure_turntable(argc, argv);
 }

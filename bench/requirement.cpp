@@ -123,6 +123,14 @@ bool report_requirements(const Medians& medians, const std::vector<Requirement>&
   return measured && (file.empty() || lines.good());
 }
 
+void add_benchmark(const std::string& name,
+                   const std::function<void(benchmark::State&)>& function) {
+  constexpr double shortest_time = 0.02;  // seconds of one repetition
+  benchmark::RegisterBenchmark(name.c_str(), function)
+      ->Unit(benchmark::kMillisecond)
+      ->MinTime(shortest_time);
+}
+
 int run_benchmarks(int argc, char** argv, int repetitions,
                    const std::vector<Requirement>& requirements) {
   const std::string file = take_option(argc, argv, "requirements");

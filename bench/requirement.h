@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <benchmark/benchmark.h>
+
 #include <functional>
 #include <map>
 #include <string>
@@ -37,6 +39,9 @@ struct Requirement {
   double limit;  ///< of no meaning without a bound
   std::function<double(const Medians&)> figure;
 };
+
+/// Registers a benchmark of which a repetition takes 0.02 s at least.
+void add_benchmark(const std::string& name, const std::function<void(benchmark::State&)>& function);
 
 /// Runs the registered benchmarks, their repetitions in a random order so that a change of the
 /// machine's speed falls on all alike, and prints a line for each requirement at the end. With

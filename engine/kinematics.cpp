@@ -18,6 +18,10 @@ double magnitude(const Vector3& vector) {
   return std::sqrt(dot_product(vector, vector));
 }
 
+double distance(const Vector3& from, const Vector3& to) {
+  return magnitude({to[0] - from[0], to[1] - from[1], to[2] - from[2]});
+}
+
 double total_energy(double mass, double momentum) {
   return std::sqrt(mass * mass + momentum * momentum);
 }

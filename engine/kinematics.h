@@ -15,6 +15,9 @@ inline constexpr double PI = 3.141592653589793;
 /// Magnitude of a vector.
 [[nodiscard]] double magnitude(const Vector3& vector);
 
+/// Distance between two points.
+[[nodiscard]] double distance(const Vector3& from, const Vector3& to);
+
 /// Total energy in MeV of a mass (MeV/c^2) and a momentum magnitude (MeV/c): E^2 = m^2 + p^2, the
 /// relativistic relation in units in which c is 1.
 [[nodiscard]] double total_energy(double mass, double momentum);

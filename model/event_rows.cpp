@@ -29,10 +29,6 @@ std::string_view words_of(Fate fate) {
   return words[static_cast<std::size_t>(fate)];
 }
 
-double distance(const Vector3& from, const Vector3& to) {
-  return magnitude({to[0] - from[0], to[1] - from[1], to[2] - from[2]});
-}
-
 EventRow row_of(const RecordedParticle& particle, const ChamberValues& values) {
   const ParticleKind& kind = particle_kind(particle.pdg);
   const auto field = static_cast<double>(values.B_field);

@@ -24,7 +24,7 @@ namespace {
 // Points. Heights count from the upper margin downwards.
 constexpr double head_depth = 78.0;
 constexpr double first_line_depth = 106.0;
-constexpr double line_height = 15.0;
+constexpr double answer_line_height = 15.0;
 constexpr double notes_height = 52.0;
 
 struct AnswerKey {
@@ -140,7 +140,7 @@ std::vector<AnswerLine> answer_lines(int number, const std::vector<TrackAnswer>&
 
 int lines_on_key_page(QSizeF paper) {
   const double room = paper.height() - 2.0 * page_margin - first_line_depth - notes_height;
-  return static_cast<int>(room / line_height);
+  return static_cast<int>(room / answer_line_height);
 }
 
 void paint_key_page(QPainter& page, QSizeF paper, const WorksheetOrder& order,
@@ -161,7 +161,7 @@ void paint_key_page(QPainter& page, QSizeF paper, const WorksheetOrder& order,
     for (std::size_t column = 0; column < lines[i].size(); ++column) {
       print_in(page, columns[column], place, lines[i][column]);
     }
-    place.ry() -= line_height;
+    place.ry() -= answer_line_height;
   }
   place.setY(page_margin + static_cast<double>(notes.size() - 1) * note_height);
   for (const char* const note : notes) {

@@ -15,7 +15,7 @@ namespace velquon {
 namespace {
 
 // A mark at the very end of the side counts in spite of the rounding of its place.
-constexpr double rounding = 1e-6;
+constexpr double place_rounding = 1e-6;
 
 double mark_length(int part) {
   constexpr double longest = 9.0;
@@ -34,11 +34,11 @@ RulerMarks ruler_marks(double side_cm) {
   const double power = std::pow(10.0, std::floor(std::log10(side_cm / most_steps)));
   double step = power;
   for (const double factor : {2.0, 5.0, 10.0}) {
-    if (side_cm > most_steps * step * (1.0 + rounding)) {
+    if (side_cm > most_steps * step * (1.0 + place_rounding)) {
       step = factor * power;
     }
   }
-  const double parts = side_cm / step * RulerMarks::parts_of_step + rounding;
+  const double parts = side_cm / step * RulerMarks::parts_of_step + place_rounding;
   return {step, static_cast<int>(std::floor(parts))};
 }
 

@@ -22,7 +22,7 @@ namespace velquon {
 
 namespace {
 
-std::unique_ptr<Ui::ProjectorWindow> controls_in(QMainWindow& window) {
+std::unique_ptr<Ui::ProjectorWindow> set_up_controls(QMainWindow& window) {
   auto controls = std::make_unique<Ui::ProjectorWindow>();
   controls->setupUi(&window);
   return controls;
@@ -60,7 +60,7 @@ void connect_choices(ProjectionView* view, void (ProjectionView::*choose)(Value)
 }  // namespace
 
 ProjectorWindow::ProjectorWindow(Projector& projector)
-    : ui_(controls_in(*this)),
+    : ui_(set_up_controls(*this)),
       projector_(projector),
       view_(new ProjectionView(projector, ui_->projector_area->viewport())) {
   view_->setObjectName(QStringLiteral("projection_view"));

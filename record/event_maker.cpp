@@ -13,7 +13,7 @@ namespace velquon {
 namespace {
 
 /// A number that the command line takes as the same one.
-QString exact_text(float number) {
+QString option_value(float number) {
   constexpr int digits = 9;
   return QString::number(static_cast<double>(number), 'g', digits);
 }
@@ -21,9 +21,9 @@ QString exact_text(float number) {
 QStringList arguments_of(const EventOrder& order) {
   // Joined to their options: a value that begins with a minus sign is none of its own.
   return {QStringLiteral("--type=") + QString::fromUtf8(event_types()[order.type].key),
-          QStringLiteral("--field=") + exact_text(order.values.B_field),
-          QStringLiteral("--side=") + exact_text(order.values.sides_cm),
-          QStringLiteral("--energy=") + exact_text(order.values.kinetic_Mev),
+          QStringLiteral("--field=") + option_value(order.values.B_field),
+          QStringLiteral("--side=") + option_value(order.values.sides_cm),
+          QStringLiteral("--energy=") + option_value(order.values.kinetic_Mev),
           QStringLiteral("--seed=") + QString::number(order.seed),
           QStringLiteral("--events=") + QString::number(order.events),
           QStringLiteral("--format=particles")};

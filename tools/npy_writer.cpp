@@ -13,7 +13,7 @@ namespace {
 
 static_assert(std::endian::native == std::endian::little, "the header says little-endian");
 
-constexpr std::size_t piece = 1U << 16U;
+constexpr std::size_t written_at_once = 1U << 16U;
 constexpr std::size_t row_size = 8 + 4 + 3 * 8 + 2;
 constexpr std::size_t header_size = 192;  // a multiple of 64, as NumPy pads its own
 
@@ -57,7 +57,7 @@ std::error_code NpyWriter::write(std::uint64_t number, std::span<const PlotPoint
     out = put(out, points[i].code);
   }
   rows_ += points.size();
-  return bytes_.size() < piece ? std::error_code() : flush();
+  return bytes_.size() < written_at_once ? std::error_code() : flush();
 }
 
 std::error_code NpyWriter::finish() {

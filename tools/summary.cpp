@@ -26,10 +26,6 @@ std::string mode_of(std::span<const RecordedParticle> rows, std::size_t parent) 
   return mode;
 }
 
-double distance(const Vector3& a, const Vector3& b) {
-  return magnitude({b[0] - a[0], b[1] - a[1], b[2] - a[2]});
-}
-
 }  // namespace
 
 void ParticleSums::add(const ParticleSums& other) {

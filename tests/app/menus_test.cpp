@@ -32,7 +32,7 @@ class MenusTest : public ApplicationFixture {
 
 const std::vector<const char*> types{"piminus_item", "piplus_item", "pizero_item",
                                      "muminus_item", "muplus_item", "lambda_item"};
-const std::vector<const char*> axes{"x_item", "y_item", "z_item"};
+const std::vector<const char*> axis_items{"x_item", "y_item", "z_item"};
 const std::vector<const char*> rates{"rotate_faster_item", "default_rotate_item",
                                      "rotate_slower_item"};
 const std::vector<const char*> monitors{"mon_chamber", "mon_projector"};
@@ -213,7 +213,7 @@ TEST_F(MenusTest, CheckMarksAtStartAreTheViewsState) {
   EXPECT_FALSE(chamber().reset_each());
   EXPECT_FALSE(item("slomo_item").isChecked());
   EXPECT_FALSE(chamber().slomo());
-  expectOnlyChecked(axes, "x_item");
+  expectOnlyChecked(axis_items, "x_item");
   EXPECT_EQ(chamber().rotation_axis(), 1);
   expectOnlyChecked(monitors, "mon_chamber");
   expectOnlyChecked(types, "piminus_item");
@@ -242,9 +242,9 @@ TEST_F(MenusTest, ChoosingATypeStopsTheTurntable) {
 
 TEST_F(MenusTest, AxesAreNumberedFromOne) {
   for (const std::size_t i : {2U, 1U, 0U, 0U}) {
-    choose(axes[i]);
+    choose(axis_items[i]);
     EXPECT_EQ(chamber().rotation_axis(), static_cast<int>(i) + 1);
-    expectOnlyChecked(axes, axes[i]);
+    expectOnlyChecked(axis_items, axis_items[i]);
   }
 }
 

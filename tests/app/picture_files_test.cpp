@@ -12,6 +12,7 @@
 #include "tests/support/sanitizers.h"
 #include "tests/support/type_places.h"
 #include "tests/support/windows/input.h"
+#include "tests/support/windows/light.h"
 #include "tests/support/windows/pictures.h"
 #include "tests/support/windows/waiting.h"
 
@@ -30,31 +31,6 @@ class PictureFilesTest : public PictureFilesFixture {
     }
   }
 };
-
-double brightness(QRgb pixel) {
-  return std::max({qRed(pixel), qGreen(pixel), qBlue(pixel)}) / 255.0;
-}
-
-/// Pixels that are lit in one picture and nowhere near in the other.
-int strangers(const QImage& one, const QImage& other) {
-  const auto brightest_near = [&](int x, int y) {
-    double brightest = 0.0;
-    for (const int dy : {-1, 0, 1}) {
-      for (const int dx : {-1, 0, 1}) {
-        brightest = std::max(
-            brightest, other.valid(x + dx, y + dy) ? brightness(other.pixel(x + dx, y + dy)) : 0.0);
-      }
-    }
-    return brightest;
-  };
-  int count = 0;
-  for (int y = 0; y < one.height(); ++y) {
-    for (int x = 0; x < one.width(); ++x) {
-      count += brightness(one.pixel(x, y)) > 0.5 && brightest_near(x, y) < 0.2 ? 1 : 0;
-    }
-  }
-  return count;
-}
 
 double light_of(const QImage& picture) {
   double light = 0.0;

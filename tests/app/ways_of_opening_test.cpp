@@ -196,7 +196,7 @@ TEST_F(WaysOfOpeningTest, WhatIsNoFileIsNotTaken) {
 }
 
 /// The program itself, started with a file.
-class ProgramTest : public testing::Test {
+class StartedProgramTest : public testing::Test {
  protected:
   QString write(const QString& name, const QByteArray& bytes) {
     QFile file(folder_.filePath(name));
@@ -220,7 +220,7 @@ class ProgramTest : public testing::Test {
   QTemporaryDir folder_;
 };
 
-TEST_F(ProgramTest, OpensTheFileItIsStartedWith) {
+TEST_F(StartedProgramTest, OpensTheFileItIsStartedWith) {
   expectTitles(write(QStringLiteral("event.cwd"), event_file(spiral(7))),
                QStringLiteral("event.cwd"));
 }
@@ -230,7 +230,7 @@ std::size_t pixels_in(RunningProgram& program, const QString& title, QRgb color)
   return pixels_of(program.windowPicture(title), color).size();
 }
 
-TEST_F(ProgramTest, ShowsTheFileItIsStartedWithInBothViews) {
+TEST_F(StartedProgramTest, ShowsTheFileItIsStartedWithInBothViews) {
   std::vector<PlotPoint> points = spiral(300);
   for (PlotPoint& point : points) {
     point.code = 3;  // red
@@ -253,7 +253,7 @@ TEST_F(ProgramTest, ShowsTheFileItIsStartedWithInBothViews) {
   }));
 }
 
-TEST_F(ProgramTest, OpensAFileOfThePcEdition) {
+TEST_F(StartedProgramTest, OpensAFileOfThePcEdition) {
   expectTitles(write(QStringLiteral("EVENT.CWD"), pc_file(spiral(7))), QStringLiteral("EVENT.CWD"));
 }
 
@@ -282,7 +282,7 @@ TEST_F(WaysOfOpeningTest, AFileOfTheCommandLineThatCannotBeLoadedIsToldWithTheRe
   EXPECT_EQ(differences(before, shown()), "");
 }
 
-TEST_F(ProgramTest, SaysWhyAFileCannotBeLoadedAndGoesOn) {
+TEST_F(StartedProgramTest, SaysWhyAFileCannotBeLoadedAndGoesOn) {
   RunningProgram program(VELQUON_PROGRAM, {QStringLiteral("/no/such\n/file.cwd")});
   const QStringList empty{QStringLiteral("Particle Chamber: Empty"),
                           QStringLiteral("Projector: Empty")};
@@ -298,7 +298,7 @@ TEST_F(ProgramTest, SaysWhyAFileCannotBeLoadedAndGoesOn) {
   EXPECT_TRUE(program.isRunning());
 }
 
-TEST_F(ProgramTest, TellsOfAFileThatItRefuses) {
+TEST_F(StartedProgramTest, TellsOfAFileThatItRefuses) {
   RunningProgram program(VELQUON_PROGRAM, {write(QStringLiteral("a.cwd"), hex("50"))});
   const QStringList titles{QStringLiteral("Bad data"), QStringLiteral("Particle Chamber: Empty"),
                            QStringLiteral("Projector: Empty")};

@@ -19,8 +19,8 @@ namespace velquon::test {
 
 namespace {
 
-constexpr int many_points = 5000;  // a replay of 50 s at least
-constexpr int some_points = 120;   // 1.2 s at least, more than xdotool needs to begin
+constexpr int many_points = 5000;        // a replay of 50 s at least
+constexpr int points_of_a_second = 120;  // 1.2 s at least, more than xdotool needs to begin
 
 class ReplayEndTest : public ApplicationFixture {
  protected:
@@ -112,8 +112,8 @@ TEST_F(ReplayEndTest, AClickOnReplayEndsItAndStartsNoOther) {
 }
 
 TEST_F(ReplayEndTest, TheWheelDoesNotEndIt) {
-  showPoints(some_points);
-  EXPECT_GE(replayDuring(QStringLiteral("click 4 click 5")), some_points);
+  showPoints(points_of_a_second);
+  EXPECT_GE(replayDuring(QStringLiteral("click 4 click 5")), points_of_a_second);
   expectTheWholeEvent();
 }
 
@@ -134,12 +134,12 @@ TEST_F(ReplayEndTest, ClosingTheWindowEndsItAndIsThenHandled) {
 }
 
 TEST_F(ReplayEndTest, OtherKeysDoNotEndItAndAreHandledAfterIt) {
-  showPoints(some_points);
+  showPoints(points_of_a_second);
   const QSignalSpy made(&item("new_event_item"), &QAction::triggered);
   int shown_when_made = 0;
   QObject::connect(&item("new_event_item"), &QAction::triggered, &chamber(),
                    [&] { shown_when_made = replays(); });
-  EXPECT_GE(replayWith(QStringLiteral("key q key ctrl+n")), some_points);
+  EXPECT_GE(replayWith(QStringLiteral("key q key ctrl+n")), points_of_a_second);
   ASSERT_TRUE(wait_until([&] { return !made.isEmpty(); }));
   EXPECT_EQ(made.size(), 1);
   EXPECT_EQ(shown_when_made, 1);
@@ -159,7 +159,7 @@ TEST_F(ReplayEndTest, AReplayAskedForWhileOneIsDueIsDropped) {
 }
 
 TEST_F(ReplayEndTest, KeysOfReplayPressedWhileItRunsStartNoOther) {
-  showPoints(some_points);
+  showPoints(points_of_a_second);
   const QSignalSpy chosen(&item("replay_item"), &QAction::triggered);
   replayDuring(QStringLiteral("key ctrl+r key ctrl+r key ctrl+r"));
   run_loop_for(200);
@@ -184,7 +184,7 @@ TEST_F(ReplayEndTest, ReplayHeldDownReplaysOnce) {
 
 TEST_F(ReplayEndTest, AnEventMadeByAKeyDuringASlowReplayIsShownWithoutAnother) {
   choose("slomo_item");
-  showPoints(some_points);
+  showPoints(points_of_a_second);
   const QSignalSpy made(&item("new_event_item"), &QAction::triggered);
   replayWith(QStringLiteral("key ctrl+n"));
   ASSERT_TRUE(wait_until([&] { return !made.isEmpty(); }));

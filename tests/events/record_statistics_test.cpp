@@ -10,14 +10,14 @@
 #include "tests/support/event_making.h"
 #include "tests/support/statistics.h"
 
-// Branching and lifetimes from the record alone. Each step of a track is one trial of its survival,
+// Branching and lifetimes from the record alone. Each step_length of a track is one trial of its survival,
 // so the decays of many tracks are counted against the sum of the steps' probabilities; a right
 // program misses by more than `critical_z` once in ten thousand times, and the seeds are fixed.
 
 namespace velquon {
 namespace {
 
-constexpr double step = 20.0;
+constexpr double step_length = 20.0;
 
 /// Decays counted against those that the steps' probabilities let expect.
 struct Trials {
@@ -50,7 +50,7 @@ void add_track(Trials& trials, const RecordedParticle& row, const ChamberValues&
   const bool decayed = row.fate == Fate::decayed;
   const double steps = row.points - (decayed || row.fate == Fate::full ? 1 : 0);
   const double length_cm = test::length(row.momentum) / test::mass_of(row.pdg) * decay_length;
-  const double step_cm = step * static_cast<double>(values.sides_cm) / 800.0;
+  const double step_cm = step_length * static_cast<double>(values.sides_cm) / 800.0;
   trials.add(steps, decayed, std::exp(-step_cm / length_cm));
 }
 

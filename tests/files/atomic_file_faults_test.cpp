@@ -249,12 +249,12 @@ TEST(RemoveTemporary, FindsWhatAKilledProgramHasLeftBesideTheTargetOfALink) {
   EXPECT_EQ(folder.names(), Names{"link.cwd"});
 }
 
-struct Ending {
+struct SaveEnd {
   std::string name;
   int signal = SIGKILL;
   std::vector<CallFault> faults;
 };
-class EndedSaves : public ::testing::TestWithParam<Ending> {};
+class EndedSaves : public ::testing::TestWithParam<SaveEnd> {};
 
 TEST_P(EndedSaves, LeaveTheOldOrTheNewFileAndNothingElse) {
   ASSERT_EQ(::prctl(PR_SET_CHILD_SUBREAPER, 1), 0);
@@ -273,10 +273,10 @@ TEST_P(EndedSaves, LeaveTheOldOrTheNewFileAndNothingElse) {
 
 INSTANTIATE_TEST_SUITE_P(
     Signals, EndedSaves,
-    ::testing::Values(Ending{"Killed", SIGKILL, {}}, Ending{"Terminated", SIGTERM, {}},
-                      Ending{"TerminatedWithATemporaryName", SIGTERM, {no_file_without_a_name}},
-                      Ending{"InterruptedWithATemporaryName", SIGINT, {no_file_without_a_name}}),
-    test::case_name<Ending>);
+    ::testing::Values(SaveEnd{"Killed", SIGKILL, {}}, SaveEnd{"Terminated", SIGTERM, {}},
+                      SaveEnd{"TerminatedWithATemporaryName", SIGTERM, {no_file_without_a_name}},
+                      SaveEnd{"InterruptedWithATemporaryName", SIGINT, {no_file_without_a_name}}),
+    test::case_name<SaveEnd>);
 
 /// Writes a file under a temporary name for some seconds, piece by piece, and then outlives SIGTERM.
 /// \return false when a piece is not taken

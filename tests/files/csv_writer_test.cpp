@@ -21,7 +21,7 @@ struct CloseFile {
 };
 using File = std::unique_ptr<std::FILE, CloseFile>;
 
-const std::string header = "event,point,x,y,z,code\n";
+const std::string first_line = "event,point,x,y,z,code\n";
 
 /// What a writer makes of events numbered from 1.
 std::string written(const std::vector<std::vector<PlotPoint>>& events) {
@@ -39,7 +39,7 @@ std::string written(const std::vector<std::vector<PlotPoint>>& events) {
 }
 
 TEST(CsvWriter, WithoutEventsWritesTheHeader) {
-  EXPECT_EQ(written({}), header);
+  EXPECT_EQ(written({}), first_line);
 }
 
 TEST(CsvWriter, NumbersPointsFrom0AndLeavesOutTheFourthCoordinateAndTheTime) {
@@ -47,13 +47,13 @@ TEST(CsvWriter, NumbersPointsFrom0AndLeavesOutTheFourthCoordinateAndTheTime) {
                       {.coords = {-0.0, 0.1, 1e-9, 1.0}, .code = -2}},
                      {},
                      {{.coords = {1.0, 2.0, 3.0, 1.0}, .code = 6}}}),
-            header + "1,0,0.5,-380,0,3\n" +
+            first_line + "1,0,0.5,-380,0,3\n" +
                 "1,1,-0,0.10000000000000001,1.0000000000000001e-09,-2\n" + "3,0,1,2,3,6\n");
 }
 
 TEST(CsvWriter, WritesManyEventsThroughItsBufferWithoutALoss) {
   const std::vector<PlotPoint> points(350, {.coords = {0.1, -0.1, 123.456, 1.0}, .code = 4});
-  std::string expected = header;
+  std::string expected = first_line;
   for (int event = 1; event <= 50; ++event) {
     for (int point = 0; point < 350; ++point) {
       expected += std::to_string(event) + ',' + std::to_string(point) +
@@ -75,7 +75,7 @@ TEST(CsvWriter, HasRoomForTheLongestLine) {
     EXPECT_FALSE(writer.finish());
   }
   const std::string number = "-1.2345678901234567e-308";
-  EXPECT_EQ(test::file_text(path), header + "18446744073709551615,0," + number + ',' + number +
+  EXPECT_EQ(test::file_text(path), first_line + "18446744073709551615,0," + number + ',' + number +
                                        ',' + number + ",-32768\n");
 }
 

@@ -18,7 +18,7 @@
 namespace velquon {
 namespace {
 
-constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr double infinite = std::numeric_limits<double>::infinity();
 
 /// The text, checked to stay within its room.
 std::string decimal_text(double value) {
@@ -62,8 +62,8 @@ TEST(WriteDecimal, WritesKnownNumbers) {
   EXPECT_EQ(decimal_text(1e300), "1.0000000000000001e+300");
   EXPECT_EQ(decimal_text(5e-324), "4.9406564584124654e-324");
   EXPECT_EQ(decimal_text(-std::numeric_limits<double>::max()), "-1.7976931348623157e+308");
-  EXPECT_EQ(decimal_text(infinity), "inf");
-  EXPECT_EQ(decimal_text(-infinity), "-inf");
+  EXPECT_EQ(decimal_text(infinite), "inf");
+  EXPECT_EQ(decimal_text(-infinite), "-inf");
   EXPECT_EQ(decimal_text(std::numeric_limits<double>::quiet_NaN()), "nan");
 }
 
@@ -75,7 +75,7 @@ TEST(WriteDecimal, IsExactAtPowersOfTenAndTheirNeighbours) {
     ASSERT_TRUE(same_text(power));
     for (int i = 0; i < 20; ++i) {
       below = std::nextafter(below, 0.0);
-      above = std::nextafter(above, infinity);
+      above = std::nextafter(above, infinite);
       ASSERT_TRUE(same_text(below));
       ASSERT_TRUE(same_text(above));
     }
@@ -87,7 +87,7 @@ TEST(WriteDecimal, IsExactAtPowersOfTwoAndTheirNeighbours) {
     const double power = std::ldexp(1.0, exponent);
     ASSERT_TRUE(same_text(power));
     ASSERT_TRUE(same_text(std::nextafter(power, 0.0)));
-    ASSERT_TRUE(same_text(std::nextafter(power, infinity)));
+    ASSERT_TRUE(same_text(std::nextafter(power, infinite)));
   }
 }
 

@@ -65,7 +65,7 @@ TEST(PcLayout, ANegativeFieldBecomesItsAbsoluteValueAndIsReported) {
   EXPECT_TRUE(std::get<StoredEvent>(result).field_was_negative);
 }
 
-struct FieldCase {
+struct StoredField {
   const char* name;
   const char* digits;
   float field;
@@ -73,11 +73,11 @@ struct FieldCase {
 };
 
 TEST(PcLayout, OnlyAFieldBelow0IsReported) {
-  for (const FieldCase& row :
-       {FieldCase{"5", "0000000000001440", 5.0F, false},
-        FieldCase{"0", "0000000000000000", 0, false},
-        FieldCase{"-0", "0000000000000080", -0.0F, false},
-        FieldCase{"too small for single precision, yet below 0", "0100000000000080", 0.0F, true}}) {
+  for (const StoredField& row : {StoredField{"5", "0000000000001440", 5.0F, false},
+                                 StoredField{"0", "0000000000000000", 0, false},
+                                 StoredField{"-0", "0000000000000080", -0.0F, false},
+                                 StoredField{"too small for single precision, yet below 0",
+                                             "0100000000000080", 0.0F, true}}) {
     SCOPED_TRACE(row.name);
     Bytes file = hex_bytes(two_point_file);
     put_hex(file, pc_field_offset, row.digits);

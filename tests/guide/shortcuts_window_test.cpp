@@ -33,14 +33,6 @@ class ShortcutsWindowTest : public ApplicationFixture {
   }
 };
 
-QList<QAction*> items_of(const QList<QAction*>& actions) {
-  QList<QAction*> items;
-  for (QAction* const action : actions) {
-    items += action->menu() != nullptr ? items_of(action->menu()->actions()) : QList{action};
-  }
-  return items;
-}
-
 }  // namespace
 
 TEST_F(ShortcutsWindowTest, ListsEachItemThatHasAKey) {

@@ -17,7 +17,7 @@ namespace velquon::test {
 
 namespace {
 
-constexpr int patience = 30'000;  // milliseconds
+constexpr int program_patience = 30'000;  // milliseconds
 
 /// A screen with a depth of our own choice.
 class OtherScreen {
@@ -28,7 +28,7 @@ class OtherScreen {
         QStringLiteral("Xvfb"),
         {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
          QStringLiteral("0"), size_and_depth, QStringLiteral("-nolisten"), QStringLiteral("tcp")});
-    EXPECT_TRUE(server_.waitForReadyRead(patience));
+    EXPECT_TRUE(server_.waitForReadyRead(program_patience));
     name_ = QLatin1Char(':') + QString::fromLatin1(server_.readLine()).trimmed();
   }
   ~OtherScreen() {
@@ -63,7 +63,7 @@ class ProgramTest : public testing::Test {
   }
   /// The end with a status and a last line of errors.
   void expectEnd(int status, const QByteArray& last_line) {
-    ASSERT_TRUE(program_.waitForFinished(patience));
+    ASSERT_TRUE(program_.waitForFinished(program_patience));
     EXPECT_EQ(program_.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(program_.exitCode(), status);
     const QByteArray errors = program_.readAllStandardError();

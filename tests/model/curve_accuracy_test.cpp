@@ -33,7 +33,7 @@ constexpr double most_of_a_circle = 0.85 * 2.0 * std::numbers::pi;
 constexpr double least_arc = 220.0;  // pixels
 constexpr double accuracy = 0.03;
 
-struct Track {
+struct BentTrack {
   double momentum = 0.0;      ///< across the field, MeV/c
   std::vector<Place> places;  ///< of its points on the screen, as far as its first turn goes
   double turn = 0.0;          ///< from the first to the last, radians
@@ -41,8 +41,8 @@ struct Track {
 };
 
 /// The charged tracks of an event as the projector displays them.
-std::vector<Track> tracks_of(const EventTracks& event, const Projector& projector) {
-  std::vector<Track> tracks;
+std::vector<BentTrack> tracks_of(const EventTracks& event, const Projector& projector) {
+  std::vector<BentTrack> tracks;
   const auto answers = answers_of(*event.record, event.values);
   auto answer = answers.begin();
   const auto particles = event.record->particles();
@@ -51,7 +51,7 @@ std::vector<Track> tracks_of(const EventTracks& event, const Projector& projecto
     if (particles[row].points == 0) {
       continue;
     }
-    Track track;
+    BentTrack track;
     track.momentum = answer->transverse_momentum;
     for (std::size_t i = 0; i < event.points.size(); ++i) {
       if (event.record->owners()[i] == row) {
@@ -125,7 +125,7 @@ TEST(CurveAccuracyTest, ThreeClicksAPixelOffGiveTheMomentumWithinThreePerCent) {
       Projector projector;
       lay_curves(projector, event);
       projector.setSnaps(false);
-      for (const Track& track : tracks_of(*event->tracks, projector)) {
+      for (const BentTrack& track : tracks_of(*event->tracks, projector)) {
         if (track.turn < third_of_a_circle || track.length < least_arc) {
           continue;
         }
@@ -165,7 +165,7 @@ TEST(CurveAccuracyTest, ThreeClicksThatSnapGiveTheMomentumItself) {
     const std::shared_ptr<const ShownEvent> event = event_of(std::move(made), values);
     Projector projector;
     lay_curves(projector, event);
-    for (const Track& track : tracks_of(*event->tracks, projector)) {
+    for (const BentTrack& track : tracks_of(*event->tracks, projector)) {
       if (track.length < least_arc) {
         continue;
       }

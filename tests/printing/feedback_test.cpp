@@ -27,7 +27,7 @@ constexpr auto polygon = static_cast<float>(GL_POLYGON_TOKEN);
 constexpr auto mark = static_cast<float>(GL_PASS_THROUGH_TOKEN);
 constexpr auto point = static_cast<float>(GL_POINT_TOKEN);
 constexpr auto bitmap = static_cast<float>(GL_BITMAP_TOKEN);
-constexpr float not_a_number = std::numeric_limits<float>::quiet_NaN();
+constexpr float no_number = std::numeric_limits<float>::quiet_NaN();
 constexpr float infinite = std::numeric_limits<float>::infinity();
 
 TEST(FeedbackTest, ABufferHasRoomForTheLinesAndSixFacesAPoint) {
@@ -87,28 +87,27 @@ TEST_P(HostileFeedbackTest, EndsWithoutALineOrACube) {
 
 INSTANTIATE_TEST_SUITE_P(
     Streams, HostileFeedbackTest,
-    testing::Values(HostileStream{"empty", {}},  //
-                    HostileStream{"zeros", std::vector<float>(217, 0.0F)},
-                    HostileStream{"line_cut_in_its_end", {line, 1, 2, 0, 3, 4}},
-                    HostileStream{"line_token_alone", {line}},
-                    HostileStream{"polygon_token_alone", {mark, 1, polygon}},
-                    HostileStream{"mark_alone", {mark}},
-                    HostileStream{"polygon_without_vertices", {mark, 1, polygon, 0}},
-                    HostileStream{"negative_count", {mark, 1, polygon, -3}},
-                    HostileStream{"count_not_a_number", {mark, 1, polygon, not_a_number}},
-                    HostileStream{"infinite_count", {mark, 1, polygon, infinite}},
-                    HostileStream{"huge_count", {mark, 1, polygon, 2.0e9F}},
-                    HostileStream{"count_beyond_integers", {mark, 1, polygon, 3.0e38F}},
-                    HostileStream{"token_not_a_number", {not_a_number, 1, 2}},
-                    HostileStream{"negative_token", {-1794.0F, 1, 2, 0, 3, 4, 0}},
-                    HostileStream{"infinite_token", {infinite, -infinite, 3.0e38F}},
-                    HostileStream{"polygon_without_a_mark",
-                                  {polygon, 3, 1, 1, 0, 2, 1, 0, 2, 3, 0}},
-                    HostileStream{"line_to_nowhere", {line, 1, 2, 0, not_a_number, 4, 0}},
-                    HostileStream{"line_from_infinity", {line, infinite, 2, 0, 3, 4, 0}},
-                    HostileStream{"cube_nowhere",
-                                  {mark, 1, polygon, 3, not_a_number, 1, 0, not_a_number, 1, 0,
-                                   not_a_number, 3, 0}}),
+    testing::Values(
+        HostileStream{"empty", {}},  //
+        HostileStream{"zeros", std::vector<float>(217, 0.0F)},
+        HostileStream{"line_cut_in_its_end", {line, 1, 2, 0, 3, 4}},
+        HostileStream{"line_token_alone", {line}},
+        HostileStream{"polygon_token_alone", {mark, 1, polygon}},
+        HostileStream{"mark_alone", {mark}},
+        HostileStream{"polygon_without_vertices", {mark, 1, polygon, 0}},
+        HostileStream{"negative_count", {mark, 1, polygon, -3}},
+        HostileStream{"count_not_a_number", {mark, 1, polygon, no_number}},
+        HostileStream{"infinite_count", {mark, 1, polygon, infinite}},
+        HostileStream{"huge_count", {mark, 1, polygon, 2.0e9F}},
+        HostileStream{"count_beyond_integers", {mark, 1, polygon, 3.0e38F}},
+        HostileStream{"token_not_a_number", {no_number, 1, 2}},
+        HostileStream{"negative_token", {-1794.0F, 1, 2, 0, 3, 4, 0}},
+        HostileStream{"infinite_token", {infinite, -infinite, 3.0e38F}},
+        HostileStream{"polygon_without_a_mark", {polygon, 3, 1, 1, 0, 2, 1, 0, 2, 3, 0}},
+        HostileStream{"line_to_nowhere", {line, 1, 2, 0, no_number, 4, 0}},
+        HostileStream{"line_from_infinity", {line, infinite, 2, 0, 3, 4, 0}},
+        HostileStream{"cube_nowhere",
+                      {mark, 1, polygon, 3, no_number, 1, 0, no_number, 1, 0, no_number, 3, 0}}),
     [](const auto& tested) { return tested.param.name; });
 
 TEST(FeedbackTest, AStreamOfHugeCountsIsReadAtOnce) {

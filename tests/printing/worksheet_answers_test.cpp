@@ -55,7 +55,22 @@ double rounding_of(double value) {
 }
 
 /// Columns of the table of particles that `velquon-events` prints.
-enum Column { event, particle, pdg, parent, fate, code, first_point, points, x, y, z, px, py, pz };
+enum AnswerColumn {
+  event,
+  particle,
+  pdg,
+  parent,
+  fate,
+  code,
+  first_point,
+  points,
+  x,
+  y,
+  z,
+  px,
+  py,
+  pz
+};
 
 double number(const QStringList& row, int column) {
   return row[column].toDouble();

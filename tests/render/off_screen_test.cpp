@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "render/chamber_scene.h"
+#include "tests/support/windows/light.h"
 
 namespace velquon::test {
 
@@ -50,36 +51,6 @@ QImage drawn_with_marks(std::size_t points, const std::vector<std::size_t>& mark
   });
   EXPECT_TRUE(picture);
   return picture.value_or(QImage());
-}
-
-double brightness(QRgb pixel) {
-  return std::max({qRed(pixel), qGreen(pixel), qBlue(pixel)}) / 255.0;
-}
-
-/// Brightest pixel of a place and its neighbours.
-double brightest_near(const QImage& picture, int x, int y) {
-  double brightest = 0.0;
-  for (int dy = -1; dy <= 1; ++dy) {
-    for (int dx = -1; dx <= 1; ++dx) {
-      if (picture.valid(x + dx, y + dy)) {
-        brightest = std::max(brightest, brightness(picture.pixel(x + dx, y + dy)));
-      }
-    }
-  }
-  return brightest;
-}
-
-/// Pixels that are lit in one picture and nowhere near in the other.
-int strangers(const QImage& one, const QImage& other) {
-  int count = 0;
-  for (int y = 0; y < one.height(); ++y) {
-    for (int x = 0; x < one.width(); ++x) {
-      if (brightness(one.pixel(x, y)) > 0.5 && brightest_near(other, x, y) < 0.25) {
-        ++count;
-      }
-    }
-  }
-  return count;
 }
 
 int lit(const QImage& picture) {

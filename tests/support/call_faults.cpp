@@ -32,28 +32,28 @@ namespace {
 
 constexpr const char* variable_name = "VELQUON_CALL_FAULT";
 
-struct Counts {
+struct CallCounts {
   int spared;
   int times;
 };
 
-/// Counts in memory that a process shares with its children.
-std::shared_ptr<Counts> shared_counts(int spared, int times) {
-  void* const memory =
-      ::mmap(nullptr, sizeof(Counts), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+/// CallCounts in memory that a process shares with its children.
+std::shared_ptr<CallCounts> shared_counts(int spared, int times) {
+  void* const memory = ::mmap(nullptr, sizeof(CallCounts), PROT_READ | PROT_WRITE,
+                              MAP_SHARED | MAP_ANONYMOUS, -1, 0);
   if (memory == MAP_FAILED) {
     std::perror("mmap");
     std::abort();
   }
-  return {new (memory) Counts{spared, times},
-          [](Counts* counts) { ::munmap(counts, sizeof *counts); }};
+  return {new (memory) CallCounts{spared, times},
+          [](CallCounts* counts) { ::munmap(counts, sizeof *counts); }};
 }
 
 /// A fault, and the process that made it. Child processes count the calls with it.
 struct InForce {
   CallFault fault;
   pid_t owner = ::getpid();
-  std::shared_ptr<Counts> counts = shared_counts(fault.spared, fault.times);
+  std::shared_ptr<CallCounts> counts = shared_counts(fault.spared, fault.times);
 };
 
 /// Faults written as "CALL ERRNO SPARED TIMES" with blanks between them.

@@ -31,10 +31,10 @@ const std::vector<int> one_event_not_handed_over{lowest_draw,  highest_draw, dra
                                                  highest_draw, lowest_draw,  lowest_draw,
                                                  lowest_draw,  highest_draw};
 
-struct CloseFile {
+struct CloseOutput {
   void operator()(std::FILE* file) const { std::fclose(file); }
 };
-using File = std::unique_ptr<std::FILE, CloseFile>;
+using OutputFile = std::unique_ptr<std::FILE, CloseOutput>;
 
 struct Written {
   std::string out;
@@ -54,8 +54,8 @@ Written write_two_events(const std::string& format, const std::string& output) {
 
   const TemporaryFolder folder;
   {
-    const File out(std::fopen((folder.path() / "out").c_str(), "w"));
-    const File messages(std::fopen((folder.path() / "messages").c_str(), "w"));
+    const OutputFile out(std::fopen((folder.path() / "out").c_str(), "w"));
+    const OutputFile messages(std::fopen((folder.path() / "messages").c_str(), "w"));
     const test::ScriptedRand script(one_event_not_handed_over, lowest_draw);
     EXPECT_EQ(write_events(parsed.options.value(), out.get(), messages.get()), 0);
     EXPECT_TRUE(script.played_out());

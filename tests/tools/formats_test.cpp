@@ -30,7 +30,7 @@ using test::run_tool;
 using test::TemporaryFolder;
 using test::Words;
 
-constexpr ChamberValues values{.B_field = 2.0F, .sides_cm = 300.0F, .kinetic_Mev = 60.0F};
+constexpr ChamberValues run_values{.B_field = 2.0F, .sides_cm = 300.0F, .kinetic_Mev = 60.0F};
 
 Words with_values(const std::string& type, const Words& more) {
   return test::with({"--type", type, "--field", "2", "--side", "300", "--energy", "60", "--seed",
@@ -103,7 +103,7 @@ TEST_P(ParticlesFormat, IsTheRecordRowByRow) {
   for (int number = 1; number <= 60; ++number) {
     TrackBuffer buffer;
     ParticleRecord record;
-    make_event(test::event_type(GetParam()), values, buffer, &record);
+    make_event(test::event_type(GetParam()), run_values, buffer, &record);
     for (std::size_t i = 0; i < record.particles().size(); ++i, ++line) {
       ASSERT_LT(line, table.size());
       ASSERT_EQ(table[line].size(), 18U);

@@ -45,7 +45,7 @@ struct ReadBack {
 
 constexpr int events_of_a_run = 200;
 
-ReadBack read_back(const Case& made) {
+ReadBack written_and_read(const Case& made) {
   const TemporaryFolder folder;
   const auto path = folder.path() / "a run.hepmc3";
   const auto tool =
@@ -77,7 +77,7 @@ ReadBack read_back(const Case& made) {
 class Hepmc3File : public ::testing::TestWithParam<Case> {};
 
 TEST_P(Hepmc3File, HoldsEveryEventAndEndsWithItsLastLine) {
-  const ReadBack read = read_back(GetParam());
+  const ReadBack read = written_and_read(GetParam());
   ASSERT_EQ(read.events.size(), static_cast<std::size_t>(events_of_a_run));
   EXPECT_TRUE(read.text.ends_with("HepMC::Asciiv3-END_EVENT_LISTING\n\n") ||
               read.text.ends_with("HepMC::Asciiv3-END_EVENT_LISTING\n"));
@@ -88,7 +88,7 @@ TEST_P(Hepmc3File, HoldsEveryEventAndEndsWithItsLastLine) {
 }
 
 TEST_P(Hepmc3File, TellsTheRun) {
-  const ReadBack read = read_back(GetParam());
+  const ReadBack read = written_and_read(GetParam());
   ASSERT_TRUE(read.run);
   const auto number = [&read](const char* name) {
     const auto attribute = read.run->attribute<HepMC3::DoubleAttribute>(name);
@@ -136,7 +136,7 @@ void expect_particle(const HepMC3::GenParticle& particle, const ParticleRecord& 
 }
 
 TEST_P(Hepmc3File, IsTheRecordFieldByField) {
-  const ReadBack read = read_back(GetParam());
+  const ReadBack read = written_and_read(GetParam());
   ASSERT_EQ(read.events.size(), read.records.size());
   for (std::size_t event = 0; event < read.events.size(); ++event) {
     const auto& particles = read.events[event]->particles();
@@ -168,7 +168,7 @@ TEST_P(Hepmc3File, IsTheRecordFieldByField) {
 }
 
 TEST_P(Hepmc3File, HasOneBeamNoOrphansAndBalance) {
-  const ReadBack read = read_back(GetParam());
+  const ReadBack read = written_and_read(GetParam());
   int vertices = 0;
   for (const auto& event : read.events) {
     int beams = 0;

@@ -15,7 +15,7 @@ namespace velquon::test {
 
 namespace {
 
-constexpr int patience = 30'000;  // milliseconds
+constexpr int track_patience = 30'000;  // milliseconds
 
 void insist(bool true_thing, const char* what) {
   if (!true_thing) {
@@ -23,7 +23,7 @@ void insist(bool true_thing, const char* what) {
   }
 }
 
-std::vector<QPoint> pixels_of(const QImage& picture, bool (*is_meant)(QRgb)) {
+std::vector<QPoint> pixels_where(const QImage& picture, bool (*is_meant)(QRgb)) {
   std::vector<QPoint> places;
   for (int row = 0; row < picture.height(); ++row) {
     for (int column = 0; column < picture.width(); ++column) {
@@ -128,15 +128,15 @@ void TrackRig::injectAndCircle(int straight_steps, double field, int steps) {
 bool TrackRig::waitForEnd() const {
   return wait_until(
       [this] { return view->trackTimer() != nullptr && !view->trackTimer()->isActive(); },
-      patience);
+      track_patience);
 }
 
 std::vector<QPoint> TrackRig::whitePixels() const {
-  return pixels_of(picture(), [](QRgb color) { return (color & 0xFFFFFFU) == 0xFFFFFFU; });
+  return pixels_where(picture(), [](QRgb color) { return (color & 0xFFFFFFU) == 0xFFFFFFU; });
 }
 
 std::vector<QPoint> TrackRig::redPixels() const {
-  return pixels_of(picture(), [](QRgb color) { return (color & 0xFFFFFFU) == 0xFF0000U; });
+  return pixels_where(picture(), [](QRgb color) { return (color & 0xFFFFFFU) == 0xFF0000U; });
 }
 
 }  // namespace velquon::test

@@ -201,11 +201,11 @@ TEST_F(TrackView, ItsTimerCanBeReplaced) {
   EXPECT_EQ(rig.view->trackTimer(), given);
 }
 
-struct FieldCase {
+struct SliderField {
   double slider, field;
 };
 
-class TrackField : public ::testing::TestWithParam<FieldCase> {};
+class TrackField : public ::testing::TestWithParam<SliderField> {};
 
 TEST_P(TrackField, SnapsToATickThatIsNextToIt) {
   const TrackRig rig;
@@ -217,13 +217,13 @@ TEST_P(TrackField, SnapsToATickThatIsNextToIt) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, TrackField,
-                         ::testing::Values(FieldCase{0.0, 0.0}, FieldCase{0.0049, 0.0},
-                                           FieldCase{-0.0049, 0.0}, FieldCase{0.006, 0.006},
-                                           FieldCase{-0.006, -0.006}, FieldCase{0.304, 0.3},
-                                           FieldCase{0.296, 0.3}, FieldCase{0.306, 0.306},
-                                           FieldCase{0.294, 0.294}, FieldCase{-0.704, -0.7},
-                                           FieldCase{-0.65, -0.65}, FieldCase{0.997, 1.0},
-                                           FieldCase{1.0, 1.0}, FieldCase{-1.0, -1.0}));
+                         ::testing::Values(SliderField{0.0, 0.0}, SliderField{0.0049, 0.0},
+                                           SliderField{-0.0049, 0.0}, SliderField{0.006, 0.006},
+                                           SliderField{-0.006, -0.006}, SliderField{0.304, 0.3},
+                                           SliderField{0.296, 0.3}, SliderField{0.306, 0.306},
+                                           SliderField{0.294, 0.294}, SliderField{-0.704, -0.7},
+                                           SliderField{-0.65, -0.65}, SliderField{0.997, 1.0},
+                                           SliderField{1.0, 1.0}, SliderField{-1.0, -1.0}));
 
 TEST_F(TrackView, ATickIsTakenExactly) {
   rig.slider->moveTo(0.3);

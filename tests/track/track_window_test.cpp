@@ -47,7 +47,7 @@ class TrackWindowTest : public TrackWindowFixture {
   }
 };
 
-struct TitleCase {
+struct TrackTitleCase {
   const char* titles;
   const char* name;
   const char* shortcut;
@@ -67,20 +67,20 @@ TEST_F(TrackWindowTest, IsMadeWhenItIsFirstWanted) {
 }
 
 TEST_F(TrackWindowTest, ItemsAreFoundByTheirTitlesInEveryWindow) {
-  constexpr std::array cases{TitleCase{"Track/Activate", "activate_item", "Ctrl+K"},
-                             TitleCase{"Track/Inject Particle", "inject_item", "Ctrl+J"},
-                             TitleCase{"Track/Clear Screen", "clear_screen_item", "Ctrl+L"},
-                             TitleCase{"Track/Particle/Electron", "electron_item", ""},
-                             TitleCase{"Track/Particle/Positron", "positron_item", ""},
-                             TitleCase{"Track/Direction/Left to Right", "LtoR_item", ""},
-                             TitleCase{"Track/Direction/Right to Left", "RtoL_item", ""},
-                             TitleCase{"Track/Speed/v", "v_item", ""},
-                             TitleCase{"Track/Speed/2v", "two_v_item", ""},
-                             TitleCase{"Track/Speed/3v", "three_v_item", ""},
-                             TitleCase{"Track/Screen Speed/Faster", "faster_item", ""},
-                             TitleCase{"Track/Screen Speed/Default", "default_item", ""},
-                             TitleCase{"Track/Screen Speed/Slower", "slower_item", ""},
-                             TitleCase{"Window/Track", "track_window_item", ""}};
+  constexpr std::array cases{TrackTitleCase{"Track/Activate", "activate_item", "Ctrl+K"},
+                             TrackTitleCase{"Track/Inject Particle", "inject_item", "Ctrl+J"},
+                             TrackTitleCase{"Track/Clear Screen", "clear_screen_item", "Ctrl+L"},
+                             TrackTitleCase{"Track/Particle/Electron", "electron_item", ""},
+                             TrackTitleCase{"Track/Particle/Positron", "positron_item", ""},
+                             TrackTitleCase{"Track/Direction/Left to Right", "LtoR_item", ""},
+                             TrackTitleCase{"Track/Direction/Right to Left", "RtoL_item", ""},
+                             TrackTitleCase{"Track/Speed/v", "v_item", ""},
+                             TrackTitleCase{"Track/Speed/2v", "two_v_item", ""},
+                             TrackTitleCase{"Track/Speed/3v", "three_v_item", ""},
+                             TrackTitleCase{"Track/Screen Speed/Faster", "faster_item", ""},
+                             TrackTitleCase{"Track/Screen Speed/Default", "default_item", ""},
+                             TrackTitleCase{"Track/Screen Speed/Slower", "slower_item", ""},
+                             TrackTitleCase{"Window/Track", "track_window_item", ""}};
   for (const auto& [titles, name, shortcut] : cases) {
     const QStringList path = menu_path(titles);
     EXPECT_EQ(item_titled(chamberWindow(), path), &item(name)) << name;

@@ -58,7 +58,7 @@ class PresentationTest : public TrackWindowFixture {
   const PlotPoint point_ = point_at(120.0, -100.0, 200.0, 3);
 };
 
-struct Room {
+struct ScreenRoom {
   QSize size;
   bool panel_beside = false;  ///< of the chamber's picture
 };
@@ -68,9 +68,10 @@ struct Room {
 TEST(PresentedPlacesTest, ThePictureIsAsLargeAsTheRoomBesideThePanelAllows) {
   const QSize chamber(682, 500);
   for (const auto& [room, panel_beside] :
-       {Room{{800, 600}, false}, Room{{1280, 1024}, false}, Room{{1400, 1050}, false},
-        Room{{1080, 1920}, false}, Room{{1920, 1080}, true}, Room{{1920, 1200}, true},
-        Room{{3840, 2160}, true}, Room{{2560, 1080}, true}}) {
+       {ScreenRoom{{800, 600}, false}, ScreenRoom{{1280, 1024}, false},
+        ScreenRoom{{1400, 1050}, false}, ScreenRoom{{1080, 1920}, false},
+        ScreenRoom{{1920, 1080}, true}, ScreenRoom{{1920, 1200}, true},
+        ScreenRoom{{3840, 2160}, true}, ScreenRoom{{2560, 1080}, true}}) {
     const auto [picture, magnification, panel] = presented_places(room, chamber);
     const QRect all(QPoint(0, 0), room);
     EXPECT_TRUE(all.contains(picture)) << room.width();

@@ -17,6 +17,7 @@
 #include <cmath>
 
 #include "app/menus.h"
+#include "tests/support/windows/application_fixture.h"
 #include "ui_menus.h"
 #include "widgets/gl_panel.h"
 
@@ -24,7 +25,7 @@ namespace velquon::test {
 
 namespace {
 
-constexpr std::array keys{
+constexpr std::array monkey_keys{
     Qt::Key_Return, Qt::Key_Escape,   Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Space,
     Qt::Key_Left,   Qt::Key_Right,    Qt::Key_Up,     Qt::Key_Down,    Qt::Key_PageUp,
     Qt::Key_Home,   Qt::Key_PageDown, Qt::Key_Delete, Qt::Key_End,     Qt::Key_Backspace,
@@ -40,14 +41,6 @@ constexpr std::array modifiers{
 constexpr std::array buttons{Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::RightButton,
                              Qt::MiddleButton};
 constexpr std::array texts{"5", "0", "-1", "1e308", "nan", "2.5", "1,5", "9999999999", "", "kink"};
-
-QList<QAction*> items_of(const QList<QAction*>& actions) {
-  QList<QAction*> items;
-  for (QAction* const action : actions) {
-    items += action->menu() != nullptr ? items_of(action->menu()->actions()) : QList{action};
-  }
-  return items;
-}
 
 QString name_of(const QWidget& widget) {
   return QLatin1String(widget.metaObject()->className()) + QLatin1Char(' ') + widget.objectName();
@@ -187,7 +180,7 @@ void Monkey::pressKey() {
   if (widget == nullptr) {
     return;
   }
-  const Qt::Key key = chance_.oneOf(keys);
+  const Qt::Key key = chance_.oneOf(monkey_keys);
   const Qt::KeyboardModifiers held = chance_.oneOf(modifiers);
   note(QStringLiteral("key %1 on %2").arg(QKeySequence(key | held).toString(), name_of(*widget)));
   QTest::keyClick(widget, key, held);

@@ -16,12 +16,12 @@ namespace velquon::test {
 
 namespace {
 
-constexpr int patience = 60'000;  // milliseconds
+constexpr int answer_patience = 60'000;  // milliseconds
 
 QString output_of(const QString& tool, const QStringList& arguments) {
   QProcess process;
   process.start(tool, arguments);
-  if (!process.waitForFinished(patience)) {
+  if (!process.waitForFinished(answer_patience)) {
     throw std::runtime_error("no answer from " + tool.toStdString());
   }
   return QString::fromUtf8(process.readAllStandardOutput());
@@ -45,7 +45,7 @@ ProgramEnd run_program(const char* program, const QStringList& arguments,
   QProcess process;
   process.setEnvironment(environment_with(variables));
   process.start(QString::fromUtf8(program), arguments);
-  if (!process.waitForFinished(patience)) {
+  if (!process.waitForFinished(answer_patience)) {
     throw std::runtime_error("the program does not end");
   }
   return {process.exitStatus() == QProcess::CrashExit, process.exitCode(),
@@ -57,7 +57,7 @@ RunningProgram::RunningProgram(const char* program, const QStringList& arguments
                                const QStringList& variables) {
   process_.setEnvironment(environment_with(variables));
   process_.start(QString::fromUtf8(program), arguments);
-  if (!process_.waitForStarted(patience)) {
+  if (!process_.waitForStarted(answer_patience)) {
     throw std::runtime_error("the program does not start");
   }
 }
@@ -68,7 +68,7 @@ RunningProgram::~RunningProgram() {
 
 void RunningProgram::kill() {
   process_.kill();
-  process_.waitForFinished(patience);
+  process_.waitForFinished(answer_patience);
   // The next program may get the same window numbers.
   EXPECT_TRUE(wait_for_window_manager());
 }
@@ -79,7 +79,7 @@ bool RunningProgram::isRunning() {
 
 QString RunningProgram::nextLine() {
   while (!process_.canReadLine()) {
-    if (!process_.waitForReadyRead(patience)) {
+    if (!process_.waitForReadyRead(answer_patience)) {
       throw std::runtime_error("the program says nothing");
     }
   }

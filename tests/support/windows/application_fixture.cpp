@@ -135,6 +135,14 @@ void ApplicationFixture::hideAxesAndValues() {
   chamber().set_show_values(false);
 }
 
+QList<QAction*> items_of(const QList<QAction*>& actions) {
+  QList<QAction*> items;
+  for (QAction* const action : actions) {
+    items += action->menu() != nullptr ? items_of(action->menu()->actions()) : QList{action};
+  }
+  return items;
+}
+
 QAction* item_named(const QMainWindow& window, const QString& name) {
   return find_named(window.menuBar()->actions(), name);
 }

@@ -102,6 +102,8 @@ class ApplicationFixture : public ::testing::Test {
   ProjectionView* projection_ = nullptr;
 };
 
+/// The items of menus and of the menus in them.
+QList<QAction*> items_of(const QList<QAction*>& actions);
 /// The menu item under a window's menu bar with an object name; null without one.
 QAction* item_named(const QMainWindow& window, const QString& name);
 /// The menu item at a path of titles without their key marks; null without one.
