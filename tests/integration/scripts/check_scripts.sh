@@ -146,17 +146,33 @@ check_lint_looks_at_named_sources_alone() {
 
 check_lint_looks_in_halves_at_what_does_not_compile_as_one() {
   lint_tree
-  # The same name in two units, where no one looks for it.
+  # The same name in two sources, where no one looks for it.
   echo 'struct Twice { int first = 1; };' | tee -a engine/one.cpp >>app/main.cpp
   run 0 scripts/lint
   sed -i 's/return 0;/return (int)0.0;/' app/main.cpp
   run 1 scripts/lint
-  printed_has 'scripts/lint: not all pass of app/main.cpp'
-  sed -i 's/return 2;/return (int)2.0;/' engine/two.cpp
+  printed_has 'scripts/lint: not all pass of engine/two.cpp, app/main.cpp'
+  sed -i 's/return 1;/return (int)1.0;/' engine/one.cpp
   run 1 scripts/lint
-  printed_has 'scripts/lint: not all pass of app/main.cpp'
+  printed_has 'scripts/lint: not all pass of engine/two.cpp, app/main.cpp'
+  printed_has 'scripts/lint: not all pass of engine/one.cpp'
+  if grep -q Twice <<<"$printed"; then fail "the clash of sources is printed: $printed"; fi
+}
+
+# with_helper FILE LINE: the file keeps the line to itself, and does not pass.
+with_helper() {
+  printf 'namespace {\n%s\n}  // namespace\nint call_of_%s() { return helper((int)2.0); }\n' "$2" \
+    "$(basename "$1" .cpp)" >>"$1"
+}
+
+check_lint_looks_apart_at_sources_with_a_name_in_common() {
+  lint_tree
+  with_helper engine/two.cpp 'int helper(int number) { return number; }'
+  with_helper app/main.cpp 'int helper(int number) { return number; }'
+  run 1 scripts/lint
+  # Of other arguments than that of the first.
   printed_has 'scripts/lint: not all pass of engine/one.cpp, engine/two.cpp'
-  if grep -q Twice <<<"$printed"; then fail "the clash of units is printed: $printed"; fi
+  printed_has 'scripts/lint: not all pass of app/main.cpp'
 }
 
 check_lint_misses_its_database() {
