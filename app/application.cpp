@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QEvent>
 #include <QOpenGLContext>
-#include <QPointer>
 #include <algorithm>
 
 #include "app/chamber_commands.h"
@@ -115,7 +114,7 @@ void Application::showWindows() {
   place_on_screen(*chamber_window_, chamber_corner);
   // Rather over the other window than beyond the edge of a narrow screen.
   place_on_screen(*projector_window_, chamber_corner + QPoint(chamber_window_->width() + gap, 0));
-  // The keys go to the chamber's window at once, not first to the one that comes up before it.
+  // The chamber's window gets the focus at once, not first the one that comes up before it.
   projector_window_->setAttribute(Qt::WA_ShowWithoutActivating);
   projector_window_->show();
   projector_window_->setAttribute(Qt::WA_ShowWithoutActivating, false);
@@ -297,13 +296,8 @@ void Application::addPresentation() {
                                                .legend = legend(coloring_of_projector(model_)),
                                                .readings = projector_window_->shownReadings()};
                        }});
-  const auto refresh = [presentations = QPointer(presentations_.get())] {
-    if (presentations != nullptr) {
-      presentations->refresh();
-    }
-  };
   for (Listeners* const changes : {&model_.changed, &projector_.changed, &track_model_.changed}) {
-    changes->add(refresh);
+    presentations_->refreshOn(*changes);
   }
 }
 

@@ -43,7 +43,7 @@ class Application : public QObject {
  public:
   /// Needs the QApplication.
   /// \param seed    seed of the random generator; without one the clock's
-  /// \param dialogs asks and tells the user; must outlive this object
+  /// \param dialogs asks and tells the user
   Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs);
   ~Application() override;
   Application(const Application&) = delete;

@@ -4,7 +4,6 @@
 #include "app/chamber_commands.h"
 
 #include <QMenu>
-#include <QPointer>
 
 #include "app/chamber_controller.h"
 #include "app/commands.h"
@@ -104,11 +103,7 @@ void add_chamber_commands(Commands& commands, const Ui::Menus& menus, ChamberCon
   add_choices(commands, menus, controller, view);
   QObject::connect(&controller, &ChamberController::printViewChanged, &commands,
                    &Commands::refresh);
-  controller.model().changed.add([table = QPointer(&commands)] {
-    if (table != nullptr) {
-      table->refresh();
-    }
-  });
+  commands.refreshOn(controller.model().changed);
 }
 
 }  // namespace velquon

@@ -14,7 +14,6 @@ class ChamberView;
 class Commands;
 
 /// Adds what the menus Action, Event and Settings and the item Print do to the table of commands.
-/// All of these must outlive the table.
 void add_chamber_commands(Commands& commands, const Ui::Menus& menus, ChamberController& controller,
                           ChamberView& view);
 

@@ -51,8 +51,8 @@ ChamberController::ChamberController(ChamberModel& model, ChamberWindow& chamber
       dialogs_(dialogs),
       print_choices_(std::make_unique<PrintChoices>()) {
   connectWindows();
-  model_.changed.add([this] { handOver(); });
-  model_.marks_changed.add([this] { displayViews(); });
+  changes_ = model_.changed.add([this] { handOver(); });
+  changed_marks_ = model_.marks_changed.add([this] { displayViews(); });
 }
 
 ChamberController::~ChamberController() = default;
@@ -145,7 +145,7 @@ void ChamberController::displayViews() {
 }
 
 void ChamberController::print() {
-  // The panel takes the keys from the view's window, and with them the choice of what is printed.
+  // The panel becomes the active window in place of the view's, and with that the choice of what is printed.
   Printable* const view = print_view_;
   if (view == nullptr) {
     return;
@@ -216,8 +216,8 @@ void ChamberController::setPrintView(Printable* view) {
 }
 
 void ChamberController::keyWindowChanged() {
-  // A window hears that it has the keys before the other one hears that it lost them, so both look
-  // at where the keys are. The turntable runs only while the chamber's window has them.
+  // A window hears that it is active before the other one hears that it no longer is, so both look
+  // which one is. The turntable runs only while the chamber's window is active.
   if (chamber_window_.isActiveWindow()) {
     setPrintView(&chamber_view_);
     return;

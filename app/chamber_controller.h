@@ -10,6 +10,7 @@
 
 #include "engine/event_record.h"
 #include "model/chamber_model.h"
+#include "model/listeners.h"
 
 class QAction;
 
@@ -37,7 +38,6 @@ class ChamberController : public QObject {
   Q_OBJECT
 
  public:
-  /// All of these must outlive the controller.
   ChamberController(ChamberModel& model, ChamberWindow& chamber_window,
                     ProjectorWindow& projector_window, UserDialogs& dialogs);
   ~ChamberController() override;
@@ -79,7 +79,7 @@ class ChamberController : public QObject {
   void renameWindows(const QString& name);
   /// Brings the window that the user wants in front there.
   void reorderWindows();
-  /// Prints the view whose window has the keys: shows the print panel.
+  /// Prints the view whose window is active: shows the print panel.
   void print();
   /// Draws both views.
   void displayViews();
@@ -99,7 +99,7 @@ class ChamberController : public QObject {
 
   /// Whether an item of this controller may be chosen now.
   [[nodiscard]] bool validateMenuItem(const QAction& item) const;
-  /// The view that is printed; null while neither view's window has the keys.
+  /// The view that is printed; null while neither view's window is active.
   [[nodiscard]] Printable* printView() const { return print_view_; }
 
  Q_SIGNALS:
@@ -121,6 +121,8 @@ class ChamberController : public QObject {
   UserDialogs& dialogs_;
   Printable* print_view_ = nullptr;
   std::unique_ptr<PrintChoices> print_choices_;
+  Subscription changes_;
+  Subscription changed_marks_;
 };
 
 }  // namespace velquon

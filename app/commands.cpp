@@ -47,4 +47,8 @@ void Commands::refresh() const {
   }
 }
 
+void Commands::refreshOn(Listeners& changes) {
+  changes_.push_back(changes.add([this] { refresh(); }));
+}
+
 }  // namespace velquon

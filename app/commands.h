@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+#include "model/listeners.h"
+
 class QAction;
 
 namespace velquon {
@@ -41,9 +43,12 @@ class Commands : public QObject {
 
   /// Makes each item look as the program's state says.
   void refresh() const;
+  /// Does so whenever something has changed.
+  void refreshOn(Listeners& changes);
 
  private:
   std::vector<Command> commands_;
+  std::vector<Subscription> changes_;
 };
 
 /// The commands of items of which one is chosen at a time: each chooses its value, and the one whose

@@ -23,7 +23,7 @@ namespace velquon {
 
 namespace {
 
-/// The window that a dialog belongs to. It is the one with the keys or, while another program has
+/// The window that a dialog belongs to. It is the active one or, while another program has
 /// them, the one that a person would expect a dialog of this program to be in front of.
 QWidget* owner_of_dialog() {
   QWidget* const active = QApplication::activeWindow();

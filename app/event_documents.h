@@ -18,7 +18,6 @@ class EventDocuments : public QObject {
   Q_OBJECT
 
  public:
-  /// All of these must outlive this object.
   EventDocuments(ChamberController& controller, UserDialogs& dialogs);
 
   /// Asks for a name and writes the shown event there, whole or not at all. A failure leaves a file

@@ -18,7 +18,6 @@ class EventExports : public QObject {
   Q_OBJECT
 
  public:
-  /// Both must outlive this object.
   EventExports(ChamberModel& model, UserDialogs& dialogs);
 
   [[nodiscard]] bool hasPoints() const;

@@ -16,7 +16,7 @@ EventTelling::EventTelling(ChamberModel& model, const EventNumbering& numbering,
       numbering_(numbering),
       chamber_window_(chamber_window),
       projector_window_(projector_window) {
-  model_.changed.add([this] { refresh(); });
+  changes_ = model_.changed.add([this] { refresh(); });
 }
 
 void EventTelling::setSeed(std::optional<std::uint32_t> seed) {

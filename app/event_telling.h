@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "model/chamber_model.h"
+#include "model/listeners.h"
 
 namespace velquon {
 
@@ -23,7 +24,6 @@ class EventTelling : public QObject {
   Q_OBJECT
 
  public:
-  /// All of these must outlive this object and tell no more changes after it.
   /// \param numbering hears of changes of the model before this object does
   EventTelling(ChamberModel& model, const EventNumbering& numbering, ChamberWindow& chamber_window,
                ProjectorWindow& projector_window);
@@ -57,6 +57,7 @@ class EventTelling : public QObject {
   std::optional<std::uint32_t> seed_;
   QKeySequence begin_key_;
   std::optional<State> told_;
+  Subscription changes_;
 };
 
 }  // namespace velquon

@@ -19,7 +19,7 @@ class ShortcutsWindow;
 /// The commands of the Help menu with the windows that they show, each made when first asked for.
 class HelpCommands {
  public:
-  /// \param menus holds the items; must outlive this
+  /// \param menus holds the items
   /// \param all_menus gives each menu of the program, those of single windows too, for the list of keys
   HelpCommands(const Menus& menus, std::function<QList<QAction*>()> all_menus);
   ~HelpCommands();
@@ -28,7 +28,6 @@ class HelpCommands {
   HelpCommands(HelpCommands&&) = delete;
   HelpCommands& operator=(HelpCommands&&) = delete;
 
-  /// \param commands must not outlive this
   void addTo(Commands& commands);
 
  private:

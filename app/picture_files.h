@@ -30,7 +30,6 @@ class PictureFiles : public QObject {
   Q_OBJECT
 
  public:
-  /// All of these must outlive this object.
   PictureFiles(ChamberController& controller, ChamberView& chamber, ProjectionView& projection,
                UserDialogs& dialogs);
 

@@ -41,7 +41,7 @@ std::size_t Presentations::toPresent() const {
   if (is_on_screen(presentables_.at(in_front_))) {
     return in_front_;
   }
-  // The one that had the keys last is closed.
+  // The one that was active last is closed.
   const auto found = std::ranges::find_if(presentables_, is_on_screen);
   return found == presentables_.end() ? 0 : static_cast<std::size_t>(found - presentables_.begin());
 }
@@ -79,6 +79,10 @@ void Presentations::refresh() const {
   if (isOn()) {
     panel_->tell(presentables_[in_front_].texts());
   }
+}
+
+void Presentations::refreshOn(Listeners& changes) {
+  changes_.push_back(changes.add([this] { refresh(); }));
 }
 
 }  // namespace velquon

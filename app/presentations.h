@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+#include "model/listeners.h"
 #include "widgets/presentation_panel.h"
 
 namespace velquon {
@@ -40,16 +41,17 @@ class Presentations : public QObject {
   Presentations(Presentations&&) = delete;
   Presentations& operator=(Presentations&&) = delete;
 
-  /// Adds a window, which must outlive this object. The first is presented when none is on the
-  /// screen.
+  /// Adds a window. The first is presented when none is on the screen.
   void add(const Presentable& presentable);
 
   [[nodiscard]] bool isOn() const { return presentation_ != nullptr; }
   /// Starts the presentation or ends it.
   void toggle();
   void end();
-  /// Tells the present titles, legend and readings.
+  /// Shows the present titles, legend and readings.
   void refresh() const;
+  /// Does so whenever something has changed.
+  void refreshOn(Listeners& changes);
 
  Q_SIGNALS:
   /// The presentation has started or ended.
@@ -62,9 +64,10 @@ class Presentations : public QObject {
   void endFromLoop();
 
   std::vector<Presentable> presentables_;
-  std::size_t in_front_ = 0;  ///< which had the keys last, or is presented
+  std::size_t in_front_ = 0;  ///< which was active last, or is presented
   std::unique_ptr<Presentation> presentation_;
   PresentationPanel* panel_ = nullptr;  ///< of the presentation
+  std::vector<Subscription> changes_;
 };
 
 }  // namespace velquon

@@ -5,7 +5,6 @@
 
 #include <QAction>
 #include <QMenu>
-#include <QPointer>
 
 #include "app/commands.h"
 #include "track/new_track_view.h"
@@ -81,11 +80,7 @@ void add_track_commands(Commands& commands, const Ui::Menus& menus, TrackModel& 
   commands.add(choices(menus, model, controller));
   commands.add(screen_speeds(menus, controller));
   enable_items(commands, menus, model);
-  model.changed.add([table = QPointer(&commands)] {
-    if (table != nullptr) {
-      table->refresh();
-    }
-  });
+  commands.refreshOn(model.changed);
   // Whatever has been done to an item: when it is looked at, it tells the present state.
   for (const QMenu* const menu : {menus.track_menu, menus.particle_menu, menus.direction_menu,
                                   menus.velocity_menu, menus.speed_menu}) {

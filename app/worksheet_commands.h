@@ -13,7 +13,7 @@ class ChamberModel;
 class Commands;
 class UserDialogs;
 
-/// Adds the command that prints worksheets. All of these must outlive the table.
+/// Adds the command that prints worksheets.
 void add_worksheet_command(Commands& commands, const Ui::Menus& menus, const ChamberModel& model,
                            UserDialogs& dialogs);
 

@@ -20,7 +20,7 @@ class ValueSlider;
 /// put to is the model's when an event is made.
 class ChamberSettings {
  public:
-  /// Connects the controls; they and the model must outlive this object.
+  /// Connects the controls.
   ChamberSettings(const Ui::ChamberWindow& controls, ChamberModel& model);
 
   /// Puts all controls to the values.

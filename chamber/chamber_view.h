@@ -29,7 +29,7 @@ class ChamberView : public GLView, public Printable {
   Q_OBJECT
 
  public:
-  /// \param model what the view is to show and how; must outlive the view
+  /// \param model what the view is to show and how
   explicit ChamberView(ChamberModel& model, QWidget* parent = nullptr);
   ~ChamberView() override;
   ChamberView(const ChamberView&) = delete;
@@ -122,7 +122,7 @@ class ChamberView : public GLView, public Printable {
   [[nodiscard]] const Camera& camera() const { return camera_; }
 
  Q_SIGNALS:
-  /// The view's window has to come to the front and get the keys.
+  /// The view's window has to come to the front and get the focus.
   void windowWanted();
 
  protected:

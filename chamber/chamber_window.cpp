@@ -47,7 +47,7 @@ std::unique_ptr<Ui::ChamberWindow> controls_in(QMainWindow& window) {
   return controls;
 }
 
-/// Gives a label room for a text; a value beyond all sense in a file does not widen the window.
+/// Gives a label room for a text; a value of many digits in a file does not widen the window.
 void give_room_for(QLabel& label, const QString& text) {
   label.setMinimumWidth(label.fontMetrics().horizontalAdvance(text));
   label.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);

@@ -26,7 +26,7 @@ class ChamberWindow : public GLPanel {
   Q_OBJECT
 
  public:
-  /// \param model what the window shows; must outlive it
+  /// \param model what the window shows
   explicit ChamberWindow(ChamberModel& model);
   ~ChamberWindow() override;
 

@@ -67,8 +67,9 @@ if(NOT VELQUON_SANITIZER)
   # Qt asks for -fPIC itself.
   target_compile_options(physics_options INTERFACE $<${optimised}:-fPIE>)
 else()
-  # Optimizing what the sanitizers add takes most of a build's time. It pays for what every event runs through.
-  target_compile_options(physics_options INTERFACE -O1)
+  # The preset asan does not optimize: that would take most of the build's time, for what the sanitizers add.
+  # It pays for what every event runs through.
+  target_compile_options(physics_options INTERFACE $<$<CONFIG:Debug>:-O1>)
 endif()
 
 add_library(qt_options INTERFACE)

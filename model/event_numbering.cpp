@@ -9,7 +9,7 @@ namespace velquon {
 
 EventNumbering::EventNumbering(ChamberModel& model)
     : model_(model), known_{{model.shown()->tracks, 0}} {
-  model.changed.add([this] { look(); });
+  changes_ = model.changed.add([this] { look(); });
 }
 
 std::string EventNumbering::nameOfShown() const {

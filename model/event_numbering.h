@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "model/chamber_model.h"
+#include "model/listeners.h"
 
 namespace velquon {
 
@@ -17,7 +18,7 @@ namespace velquon {
 /// event that is shown again keeps its number.
 class EventNumbering {
  public:
-  /// \param model where events are shown; it must not outlive this object while it shows others
+  /// \param model where events are shown
   explicit EventNumbering(ChamberModel& model);
   EventNumbering(const EventNumbering&) = delete;
   EventNumbering& operator=(const EventNumbering&) = delete;
@@ -38,6 +39,7 @@ class EventNumbering {
   std::vector<std::pair<std::weak_ptr<const EventTracks>, std::uint64_t>> known_;
   std::uint64_t number_ = 0;  ///< of what is shown
   std::uint64_t last_ = 0;    ///< number given
+  Subscription changes_;
 };
 
 }  // namespace velquon

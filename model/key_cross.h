@@ -20,7 +20,7 @@ struct KeyField {
 /// mouse does. It comes with the first key and goes when the mouse is used.
 class KeyCross {
  public:
-  /// \param projector whose tools the cross works; must outlive it
+  /// \param projector whose tools the cross works
   explicit KeyCross(Projector& projector) : projector_(projector) {}
 
   [[nodiscard]] bool visible() const { return visible_; }

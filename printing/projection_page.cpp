@@ -18,7 +18,7 @@ namespace velquon {
 namespace {
 
 constexpr QPointF projection_page_offset{20.0, 100.0};
-constexpr double half_dot = 0.5;
+constexpr double half_page_square = 0.5;
 constexpr QColor frame_gray(128, 128, 128);
 
 QPointF on_page(Place place) {
@@ -44,7 +44,7 @@ std::vector<QRectF> squares_of(std::span<const PlotPoint> points, ProjectionPlan
   squares.reserve(points.size());
   for (const PlotPoint& point : points) {
     const Place place = mapping.map(project(point, plane));
-    const QPointF corner(place.x - half_dot, place.y - half_dot);
+    const QPointF corner(place.x - half_page_square, place.y - half_page_square);
     if (can_be_on_paper(corner)) {
       squares.emplace_back(corner + projection_page_offset, QSizeF(1.0, 1.0));
     }

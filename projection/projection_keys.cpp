@@ -88,7 +88,7 @@ void ProjectionView::focusInEvent(QFocusEvent* event) {
 
 void ProjectionView::focusOutEvent(QFocusEvent* event) {
   GLView::focusOutEvent(event);
-  // A menu that opens and another window leave the keys to come back here.
+  // A menu that opens and another window give the focus back.
   if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason) {
     hideCross();
   }

@@ -17,7 +17,7 @@ namespace velquon {
 ProjectionView::ProjectionView(Projector& projector, QWidget* parent)
     : GLView(parent), projector_(projector), cross_(projector) {
   setFocusPolicy(Qt::StrongFocus);
-  // A mouse that moves takes the cross of the keys away.
+  // A mouse that moves takes the cross of the arrow keys away.
   setMouseTracking(true);
   makeCursors();
   // A screen of another ratio gives the view another framebuffer, and this signal.

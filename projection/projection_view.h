@@ -31,7 +31,7 @@ class ProjectionView : public GLView, public Printable {
   Q_OBJECT
 
  public:
-  /// \param projector plane, zoom, tools and tape; must outlive the view
+  /// \param projector plane, zoom, tools and tape
   explicit ProjectionView(Projector& projector, QWidget* parent = nullptr);
 
   /// Takes the event to draw. A tape on the screen is read anew, curve and angle are cleared by other

@@ -85,7 +85,7 @@ ProjectorWindow::ProjectorWindow(Projector& projector)
   makeRoomForStatus(long_status());
   connectButtons();
   connectKeys();
-  projector_.changed.add([this] { showReading(); });
+  changes_ = projector_.changed.add([this] { showReading(); });
   showReading();
   setContent(takeCentralWidget());
 }
@@ -181,7 +181,7 @@ void ProjectorWindow::makeRoomForStatus(const QString& longest) {
 }
 
 void ProjectorWindow::describePicture() {
-  // A screen reader tells a description that changes while the view has the keys.
+  // A screen reader tells a description that changes while the view has the focus.
   // While one measures, each step is told alone.
   const bool is_measuring = projector_.tape().visible ||
                             !projector_.curve().points.places().empty() ||

@@ -6,6 +6,7 @@
 #include <QString>
 #include <memory>
 
+#include "model/listeners.h"
 #include "model/projector.h"
 #include "projection/projection_view.h"
 #include "widgets/gl_panel.h"
@@ -27,7 +28,7 @@ class ProjectorWindow : public GLPanel {
   Q_OBJECT
 
  public:
-  /// \param projector what the window shows an event with; must outlive the window
+  /// \param projector what the window shows an event with
   explicit ProjectorWindow(Projector& projector);
   ~ProjectorWindow() override;
 
@@ -58,6 +59,7 @@ class ProjectorWindow : public GLPanel {
   Projector& projector_;
   ProjectionView* view_;
   QString event_in_words_;
+  Subscription changes_;
 };
 
 }  // namespace velquon

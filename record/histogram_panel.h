@@ -27,7 +27,7 @@ class HistogramPanel : public QWidget {
   Q_OBJECT
 
  public:
-  /// \param measurements what it shows; must outlive this object
+  /// \param measurements what it shows
   explicit HistogramPanel(const Measurements& measurements, QWidget* parent = nullptr);
 
   /// Shows the present rows.

@@ -30,7 +30,7 @@ class MakeEventsDialog : public QDialog {
  public:
   /// \param type    kind of events offered, an index of `event_types`
   /// \param values  values offered
-  /// \param dialogs tells of failures; must outlive this object
+  /// \param dialogs tells of failures
   MakeEventsDialog(std::size_t type, const ChamberValues& values, UserDialogs& dialogs,
                    QWidget* parent);
 

@@ -35,7 +35,7 @@ class MeasurementColumns : public QAbstractTableModel {
   Q_OBJECT
 
  public:
-  /// \param measurements what it shows; must outlive this object
+  /// \param measurements what it shows
   explicit MeasurementColumns(Measurements& measurements, QObject* parent = nullptr);
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;

@@ -17,7 +17,6 @@ class MeasurementFiles : public QObject {
   Q_OBJECT
 
  public:
-  /// Both must outlive this object.
   MeasurementFiles(Measurements& measurements, UserDialogs& dialogs, QObject* parent = nullptr);
 
   /// Asks for a name and writes all rows.

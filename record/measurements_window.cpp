@@ -69,11 +69,7 @@ MeasurementsWindow::MeasurementsWindow(Measurements& measurements, MeasurementFi
   addItems();
   fillToolBar();
   layOut();
-  measurements_.changed.add([window = QPointer(this)] {
-    if (window != nullptr) {
-      window->refresh();
-    }
-  });
+  changes_ = measurements_.changed.add([this] { refresh(); });
   refresh();
 }
 
@@ -95,7 +91,7 @@ void MeasurementsWindow::addItems() {
   copy_item_->setShortcuts(QKeySequence::Copy);
   delete_item_ = addItem("delete_item", tr("&Delete Rows"), QKeySequence(Qt::Key_Delete),
                          [this] { deleteRows(); });
-  // Where an editor or another control has the keys, these are its own.
+  // Where an editor or another control has the focus, these keys are its own.
   for (QAction* const item : {copy_item_, delete_item_}) {
     item->setShortcutContext(Qt::WidgetShortcut);
     table_->addAction(item);
@@ -253,7 +249,7 @@ void MeasurementsWindow::deleteRows() {
     return;
   }
   measurements_.remove(places);
-  // The row that took the place of the first one, so that the keys can go on.
+  // The row that took the place of the first one, so that one can go on by the keys.
   const int next = std::min(static_cast<int>(places.front()), columns_->rowCount() - 1);
   table_->setCurrentIndex(columns_->index(next, 0));
 }

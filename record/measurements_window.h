@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "model/chamber_model.h"
+#include "model/listeners.h"
 #include "model/measurements.h"
 #include "record/make_events_dialog.h"
 #include "widgets/gl_panel.h"
@@ -28,7 +29,6 @@ class MeasurementsWindow : public GLPanel {
   Q_OBJECT
 
  public:
-  /// All of these must outlive the window.
   /// \param model gives the kind and values that are offered for many events
   MeasurementsWindow(Measurements& measurements, MeasurementFiles& files, const ChamberModel& model,
                      UserDialogs& dialogs);
@@ -87,6 +87,7 @@ class MeasurementsWindow : public GLPanel {
   QAction* make_events_item_ = nullptr;
   QAction* save_plot_item_ = nullptr;
   QPointer<MakeEventsDialog> make_events_dialog_;
+  Subscription changes_;
 };
 
 }  // namespace velquon

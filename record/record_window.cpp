@@ -6,7 +6,6 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -24,11 +23,7 @@ RecordWindow::RecordWindow(ChamberModel& model)
   setTitle(tr("Event Record"));
   layOut();
   connectControls();
-  model_.changed.add([window = QPointer(this)] {
-    if (window != nullptr) {
-      window->refresh();
-    }
-  });
+  changes_ = model_.changed.add([this] { refresh(); });
   refresh();
 }
 

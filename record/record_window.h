@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "model/chamber_model.h"
+#include "model/listeners.h"
 #include "widgets/gl_panel.h"
 
 class QCheckBox;
@@ -23,7 +24,7 @@ class RecordWindow : public GLPanel {
   Q_OBJECT
 
  public:
-  /// \param model what it shows; it must outlive the window
+  /// \param model what it shows
   explicit RecordWindow(ChamberModel& model);
 
   [[nodiscard]] RecordTree& tree() { return *tree_; }
@@ -48,6 +49,7 @@ class RecordWindow : public GLPanel {
   QPushButton* reveal_button_;
   std::shared_ptr<const EventTracks> tracks_;  ///< what is shown
   bool answers_shown_ = false;                 ///< of these
+  Subscription changes_;
 };
 
 }  // namespace velquon

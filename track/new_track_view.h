@@ -30,7 +30,6 @@ class NewTrackView : public GLView {
   ~NewTrackView() override;
 
   /// Gives the view what it shows. To be called once, before anything else.
-  /// \param model must outlive the view
   void setModel(TrackModel& model) { model_ = &model; }
   /// Makes the cursors, when the window has been built.
   void awakeFromNib();

@@ -21,7 +21,6 @@ class TrackController : public QObject {
   Q_OBJECT
 
  public:
-  /// All of it must outlive the controller.
   TrackController(TrackModel& model, NewTrackView& view, ValueSlider& slider, QWidget& window);
 
   /// Puts choices, view and slider into their start-up state, when all windows have been built.

@@ -28,7 +28,7 @@ constexpr std::array particles{TrackParticle::e_minus, TrackParticle::e_plus};
 constexpr std::array directions{TrackDirection::left_to_right, TrackDirection::right_to_left};
 constexpr std::array speeds{1, 2, 3};
 
-/// Enables a control or disables it. While it is disabled the keys go to another control instead of
+/// Enables a control or disables it. While it is disabled another control gets the focus instead of
 /// the next one, which does something else; they come back with it.
 void enable(QWidget* control, bool enabled, QWidget* keys_meanwhile) {
   const auto has_keys = [](const QWidget* widget) {
@@ -91,7 +91,7 @@ TrackPanel::TrackPanel(TrackModel& model, QWidget* parent)
   connect(ui_->vSlider, &ValueSlider::moved, view_, [this] { view_->setMagField(vSlider()); });
   connectChoices();
   makeRoomForReadings();
-  model_.changed.add([this] { showModel(); });
+  changes_ = model_.changed.add([this] { showModel(); });
   showModel();
 }
 

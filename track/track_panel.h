@@ -6,6 +6,8 @@
 #include <QWidget>
 #include <memory>
 
+#include "model/listeners.h"
+
 class QAbstractButton;
 class QAction;
 class QLabel;
@@ -27,7 +29,7 @@ class TrackPanel : public QWidget {
   Q_OBJECT
 
  public:
-  /// \param model what it shows; it must outlive the panel, and be left alone once that is gone
+  /// \param model what it shows
   explicit TrackPanel(TrackModel& model, QWidget* parent = nullptr);
   ~TrackPanel() override;
 
@@ -52,6 +54,7 @@ class TrackPanel : public QWidget {
   TrackModel& model_;
   std::unique_ptr<Ui::track_panel> ui_;
   NewTrackView* view_ = nullptr;
+  Subscription changes_;
 };
 
 }  // namespace velquon

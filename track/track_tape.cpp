@@ -14,7 +14,7 @@ namespace velquon {
 
 namespace {
 
-Place field_place(QPointF point) {
+Place place_in_view(QPointF point) {
   return {point.x(), point.y()};
 }
 
@@ -28,14 +28,14 @@ void NewTrackView::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) {
     return;
   }
-  model_->press(field_place(locationOf(*event)));
+  model_->press(place_in_view(locationOf(*event)));
 }
 
 void NewTrackView::mouseMoveEvent(QMouseEvent* event) {
   if (!event->buttons().testFlag(Qt::LeftButton)) {
     return;
   }
-  model_->drag(field_place(locationOf(*event)));
+  model_->drag(place_in_view(locationOf(*event)));
   drawing_.showAll();
   redraw();
 }
@@ -45,7 +45,7 @@ void NewTrackView::mouseReleaseEvent(QMouseEvent* event) {
     return;
   }
   clearColorBuffer();
-  model_->release(field_place(locationOf(*event)));
+  model_->release(place_in_view(locationOf(*event)));
   // The whole track now, also after a click that was no drag, and with the next drawing again.
   drawing_.showAll();
   redraw();

@@ -20,7 +20,7 @@ class TrackWindow : public GLPanel {
   Q_OBJECT
 
  public:
-  /// \param model what it shows; it must outlive the window, and be left alone once that is gone
+  /// \param model what it shows
   explicit TrackWindow(TrackModel& model);
   ~TrackWindow() override;
 

@@ -18,7 +18,7 @@ class GLPanel : public QMainWindow {
 
   /// Whether any window of the kind is shown, minimized ones included.
   [[nodiscard]] static bool anyOnScreen();
-  /// The window of the kind that has the keys or, while no window of the program has them, had them
+  /// The window of the kind that is active or, while no window of the program is, was active
   /// last; null when none is shown.
   [[nodiscard]] static GLPanel* inFront();
 
@@ -30,7 +30,7 @@ class GLPanel : public QMainWindow {
   void setTitle(const QString& title);
   [[nodiscard]] const QString& title() const { return title_; }
 
-  /// Brings the window to the front and makes it the one that keys go to.
+  /// Brings the window to the front and activates it.
   void makeKeyAndOrderFront();
 
   /// Whether files may be dropped on the window; at first they may.
@@ -40,7 +40,7 @@ class GLPanel : public QMainWindow {
   [[nodiscard]] QSize sizeHint() const override;
 
  Q_SIGNALS:
-  /// The window, which is shown, is now the one that keys go to.
+  /// The window, which is shown, is now the active one.
   void becameKey();
   void resignedKey();
   /// A file was dropped on the window.

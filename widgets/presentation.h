@@ -25,7 +25,7 @@ class Presentation : public QObject {
   Q_OBJECT
 
  public:
-  /// \param window on the screen; must outlive this object
+  /// \param window on the screen
   /// \param area   holds the view, within the window
   /// \param panel  shown beside the view
   Presentation(QMainWindow& window, ViewScrollArea& area, std::unique_ptr<QWidget> panel);

@@ -8,7 +8,7 @@ namespace velquon {
 ScrollingContent::ScrollingContent(QWidget* content) {
   setFrameShape(QFrame::NoFrame);
   setWidgetResizable(true);
-  // The keys go to what is in it; a control that gets them is scrolled into sight.
+  // What is in it gets the focus; a control that does is scrolled into sight.
   setFocusPolicy(Qt::NoFocus);
   setWidget(content);
 }

@@ -7,7 +7,7 @@ class QWidget;
 
 namespace velquon {
 
-/// Lets a control turn by the wheel only while the keys go to it, so that scrolling past it changes
+/// Lets a control turn by the wheel only while it has the focus, so that scrolling past it changes
 /// nothing.
 void take_wheel_only_with_focus(QWidget& control);
 

@@ -7,7 +7,7 @@ class QWidget;
 
 namespace velquon {
 
-/// Brings a window to the front and makes it the one that keys go to, whether it is hidden,
+/// Brings a window to the front and activates it, whether it is hidden,
 /// minimized or behind others. A maximized window stays so.
 void bring_to_front(QWidget& window);
 

@@ -61,7 +61,7 @@ class EventTellingTest : public ApplicationFixture {
     preferences.hide_answers = hide;
     model().setPreferences(preferences);
   }
-  /// Presses Tab until a widget has the keys.
+  /// Presses Tab until a widget has the focus.
   static bool reachByTab(QWidget& window, const QWidget& wanted) {
     constexpr int most_controls = 60;
     for (int i = 0; i < most_controls && !wanted.hasFocus(); ++i) {

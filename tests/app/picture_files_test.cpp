@@ -45,8 +45,8 @@ double light_of(const QImage& picture) {
 void expect_same_scaled_down(const QImage& plain, const QImage& large) {
   ASSERT_EQ(large.size(), plain.size() * 4);
   const QImage scaled = large.scaled(plain.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-  EXPECT_EQ(strangers(plain, scaled), 0);
-  EXPECT_EQ(strangers(scaled, plain), 0);
+  EXPECT_EQ(strangers(plain, scaled, 0.2), 0);
+  EXPECT_EQ(strangers(scaled, plain, 0.2), 0);
   EXPECT_NEAR(light_of(scaled), light_of(plain), 0.05 * light_of(plain));
 }
 

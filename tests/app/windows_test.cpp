@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Titles and order of the windows, which of them has the keys, closing and coming back.
+// Titles and order of the windows, which of them is active, closing and coming back.
 
 #include <QApplication>
 #include <QContextMenuEvent>

@@ -37,7 +37,7 @@ class TurntableTest : public ApplicationFixture {
     waitUntilTheKeysRest();
   }
 
-  /// A window manager may still move the keys about when windows have just come and gone.
+  /// A window manager may still move the focus about when windows have just come and gone.
   void waitUntilTheKeysRest() {
     constexpr qint64 calm = 100;  // milliseconds
     QElapsedTimer since;

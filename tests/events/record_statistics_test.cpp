@@ -10,7 +10,7 @@
 #include "tests/support/event_making.h"
 #include "tests/support/statistics.h"
 
-// Branching and lifetimes from the record alone. Each step_length of a track is one trial of its survival,
+// Branching and lifetimes from the record alone. Each step of a track is one trial of its survival,
 // so the decays of many tracks are counted against the sum of the steps' probabilities; a right
 // program misses by more than `critical_z` once in ten thousand times, and the seeds are fixed.
 

@@ -69,7 +69,7 @@ class ProgramTest : public testing::Test {
     const QByteArray errors = program_.readAllStandardError();
     EXPECT_TRUE(errors.endsWith(last_line)) << errors.toStdString();
   }
-  /// Gives the keys to a window of the program, when it has come up with the large event.
+  /// Activates a window of the program, when it has come up with the large event.
   static void activateWindow(const char* name) {
     // xdotool gives up when a window that it looks at goes, as those of a program that starts do.
     constexpr int most_tries = 20;
@@ -82,7 +82,7 @@ class ProgramTest : public testing::Test {
         return;
       }
     }
-    FAIL() << "the window " << name << " does not get the keys";
+    FAIL() << "the window " << name << " does not become active";
   }
   /// An event file of 5000 points, whose replay takes 50 s at least.
   [[nodiscard]] QString largeEvent() {

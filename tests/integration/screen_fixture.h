@@ -13,7 +13,7 @@ namespace velquon::test {
 class ScreenFixture : public ApplicationFixture {
  protected:
   /// Expects that the chamber's, the projector's and the track's window are on the screen. The chamber's
-  /// has the keys afterwards.
+  /// is active afterwards.
   void expectWindowsOfViewsOnScreen() {
     expect_on_screen(chamberWindow());
     expect_on_screen(projectorWindow());

@@ -64,7 +64,7 @@ class SmallScreenTest : public ScreenFixture {
   /// Where a widget is seen whole, its own rectangle; else less.
   static QRect seenPart(const QWidget& widget) { return widget.visibleRegion().boundingRect(); }
 
-  /// Goes round a window by the Tab key and expects each control that gets the keys to be seen
+  /// Goes round a window by the Tab key and expects each control that gets the focus to be seen
   /// whole.
   /// \return the names of those controls
   static QStringList tabRound(QWidget& window) {

@@ -137,7 +137,7 @@ TEST(ChamberModelTest, AnEventOnceShownNeverChanges) {
 TEST(ChamberModelTest, TellsOfEachChange) {
   ChamberModel model(seed);
   int told = 0;
-  model.changed.add([&told] { ++told; });
+  const Subscription changes = model.changed.add([&told] { ++told; });
   model.setEventType(2);
   model.setPreferences({.show_axes = false});
   model.setNext({});
@@ -178,8 +178,8 @@ TEST(ChamberModelTest, TellsOfMarksWhenTheUserChangesThemAndNotOfANewEvent) {
   int told = 0;
   std::vector<std::size_t> seen;
   bool first_changed = false;
-  model.changed.add([&] { first_changed = true; });
-  model.marks_changed.add([&] {
+  const Subscription changes = model.changed.add([&] { first_changed = true; });
+  const Subscription changed_marks = model.marks_changed.add([&] {
     ++told;
     seen = model.marked();
     EXPECT_TRUE(first_changed);

@@ -57,7 +57,7 @@ TEST(EventHistoryTest, WhereThereIsNoOtherNothingChanges) {
   ChamberModel model(5);
   const auto events = make_events(model, 1);
   int told = 0;
-  model.changed.add([&told] { ++told; });
+  const Subscription changes = model.changed.add([&told] { ++told; });
   model.showPreviousEvent();
   model.showNextEvent();
   EXPECT_EQ(model.shown(), events.front());

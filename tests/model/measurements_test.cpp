@@ -78,7 +78,7 @@ TEST(MeasurementsTest, WhatChangesNothingIsNoStep) {
   EXPECT_FALSE(measurements.canUndo());
   measurements.add({row(1.0, "same")});
   int told = 0;
-  measurements.changed.add([&told] { ++told; });
+  const Subscription changes = measurements.changed.add([&told] { ++told; });
   measurements.change(0, row(1.0, "same"));
   EXPECT_EQ(told, 0);
   measurements.undo();
@@ -100,7 +100,7 @@ TEST(MeasurementsTest, ANewStepTakesThePlaceOfThoseUndone) {
 TEST(MeasurementsTest, EachChangeIsTold) {
   Measurements measurements;
   int told = 0;
-  measurements.changed.add([&told] { ++told; });
+  const Subscription changes = measurements.changed.add([&told] { ++told; });
   measurements.add({row(1.0)});
   measurements.change(0, row(1.0, "note"));
   measurements.undo();

@@ -122,7 +122,7 @@ TEST(ProjectorTest, APageHasAMappingOfItsOwn) {
 TEST(ProjectorTest, TellsOfEachChange) {
   Projector projector;
   int told = 0;
-  projector.changed.add([&told] { ++told; });
+  const Subscription changes = projector.changed.add([&told] { ++told; });
   projector.setZoom(2.0F);
   projector.press({0.0, 0.0});
   EXPECT_EQ(told, 1);

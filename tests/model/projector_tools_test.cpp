@@ -288,7 +288,7 @@ TEST(ProjectorToolsTest, TheSameTracksInAnotherFieldAreReadAnew) {
   Projector projector = projector_with(ProjectorTool::curve, 2.0F);
   click_all(projector, half_circle);
   int told = 0;
-  projector.changed.add([&told] { ++told; });
+  const Subscription changes = projector.changed.add([&told] { ++told; });
   auto event = std::make_shared<ShownEvent>();
   const auto same = event_of({}, 2.0F);
   projector.show(same);
@@ -372,7 +372,7 @@ TEST(ProjectorToolsTest, EachStepOfAPointIsTold) {
   for (const ProjectorTool tool : point_tools) {
     Projector projector = projector_with(tool);
     int told = 0;
-    projector.changed.add([&told] { ++told; });
+    const Subscription changes = projector.changed.add([&told] { ++told; });
     projector.press({100.0, 100.0});
     EXPECT_EQ(told, 1);
     projector.drag({110.0, 100.0});

@@ -19,7 +19,7 @@ constexpr std::uint64_t begun = 1'000'000;  // microseconds
 class TrackModelTest : public ::testing::Test {
  protected:
   TrackModelTest() {
-    model.changed.add([this] { ++changes; });
+    counting = model.changed.add([this] { ++changes; });
   }
 
   void begin() {
@@ -68,6 +68,7 @@ class TrackModelTest : public ::testing::Test {
 
   TrackModel model;
   int changes = 0;
+  Subscription counting;
   int cleared = 0;
 };
 
@@ -242,7 +243,7 @@ class TrackModelTelling : public ::testing::TestWithParam<TellingCase> {};
 TEST_P(TrackModelTelling, TellsOfTheChange) {
   TrackModel model;
   int changes = 0;
-  model.changed.add([&changes] { ++changes; });
+  const Subscription counting = model.changed.add([&changes] { ++changes; });
   GetParam().change(model);
   EXPECT_EQ(changes, 1);
 }

@@ -199,7 +199,7 @@ TEST_F(MeasurementRowsTest, DeleteInANoteTakesALetterAndNoRow) {
   handle_waiting_events();
   EXPECT_EQ(rows(), 1);
   EXPECT_EQ(measurements().rows()[0].note, "b");
-  // Nor does it where another control has the keys.
+  // Nor does it where another control has the focus.
   auto& popup = windowControl<QComboBox>("quantity_popup");
   popup.setFocus();
   QTest::keyClick(&popup, Qt::Key_Delete);

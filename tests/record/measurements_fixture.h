@@ -19,7 +19,7 @@ class MeasurementsFixture : public DocumentsFixture {
   [[nodiscard]] Measurements& measurements() { return application().measurements(); }
   [[nodiscard]] QTableView& table() { return window().table(); }
 
-  /// Brings the window up by its menu item and waits until it has the keys.
+  /// Brings the window up by its menu item and waits until it is active.
   void openMeasurements();
   /// Lays the projector's tape from one place to another, view units, as a person does.
   void layTape(QPoint from, QPoint to);

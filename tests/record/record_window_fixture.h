@@ -20,7 +20,7 @@ class RecordWindowFixture : public DocumentsFixture {
   [[nodiscard]] RecordTree& tree() { return recordWindow().tree(); }
   [[nodiscard]] ChamberModel& model() { return application().model(); }
 
-  /// Brings the window up by its menu item and waits until it has the keys.
+  /// Brings the window up by its menu item and waits until it is active.
   void openRecord();
   /// Makes one event of a type under values.
   void newEvent(int type, const ChamberValues& values);

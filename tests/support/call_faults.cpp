@@ -37,7 +37,7 @@ struct CallCounts {
   int times;
 };
 
-/// CallCounts in memory that a process shares with its children.
+/// Counts in memory that a process shares with its children.
 std::shared_ptr<CallCounts> shared_counts(int spared, int times) {
   void* const memory = ::mmap(nullptr, sizeof(CallCounts), PROT_READ | PROT_WRITE,
                               MAP_SHARED | MAP_ANONYMOUS, -1, 0);

@@ -62,7 +62,7 @@ class TrackStatusTest : public TrackWindowFixture {
           << window->windowTitle().toStdString();
     }
   }
-  /// Closes the window that has the keys as a person does, by the window manager.
+  /// Closes the active window as a person does, by the window manager.
   void closeByWindowManager(QWidget& window) {
     activate(window);
     ASSERT_EQ(QProcess::execute(QStringLiteral("xdotool"),

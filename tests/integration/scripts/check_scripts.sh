@@ -170,7 +170,7 @@ check_lint_looks_apart_at_sources_with_a_name_in_common() {
   with_helper engine/two.cpp 'int helper(int number) { return number; }'
   with_helper app/main.cpp 'int helper(int number) { return number; }'
   run 1 scripts/lint
-  # Of other arguments than that of the first.
+  # two.cpp overloads one.cpp's helper and may stand beside it; main.cpp's is the same function and may not.
   printed_has 'scripts/lint: not all pass of engine/one.cpp, engine/two.cpp'
   printed_has 'scripts/lint: not all pass of app/main.cpp'
 }

@@ -17,7 +17,7 @@ struct Turn {
 };
 
 /// Runs something that shows modal dialogs and takes the user's turns with them, in their order,
-/// each as soon as its dialog is up and has the keys. Dialogs that nobody ends are closed after
+/// each as soon as its dialog is up and active. Dialogs that nobody ends are closed after
 /// some seconds.
 /// \return whether every turn was taken and no dialog had to be closed
 bool with_dialogs(const std::function<void()>& run, std::vector<Turn> turns);

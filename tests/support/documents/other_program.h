@@ -40,7 +40,7 @@ class RunningProgram {
   QString nextLine();
   /// What it has said on standard error so far.
   [[nodiscard]] QString errors();
-  /// Gives the keys to its window with a title and presses some in it, as xdotool names them.
+  /// Activates its window with a title and presses some keys in it, as xdotool names them.
   void type(const QString& title, const QString& keys);
   /// Titles of the windows that it has on the screen.
   [[nodiscard]] QStringList windowTitles();

@@ -42,7 +42,7 @@ class SilentDialogs : public UserDialogs {
   QStringList alerts;
 };
 
-/// The whole program with its windows on the screen, the chamber window having the keys, as it is
+/// The whole program with its windows on the screen, the chamber window active, as it is
 /// right after its start.
 class ApplicationFixture : public ::testing::Test {
  protected:
@@ -77,11 +77,11 @@ class ApplicationFixture : public ::testing::Test {
   void choose(const char* name) { item(name).trigger(); }
   void clickButton(const char* name);
 
-  /// Gives the keys to a window and waits until it has them.
+  /// Activates a window and waits until it is active.
   void activate(QWidget& window);
   /// Activates the live track and waits until it is: until then its item would activate it again.
   void showTrackWindow();
-  /// Brings up another window of the desktop that takes the keys.
+  /// Brings up another window of the desktop that becomes active.
   void activateAnotherProgram();
 
   /// Shows an event of the test's own making.

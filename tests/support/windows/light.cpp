@@ -28,11 +28,11 @@ double brightness(QRgb pixel) {
   return std::max({qRed(pixel), qGreen(pixel), qBlue(pixel)}) / 255.0;
 }
 
-int strangers(const QImage& one, const QImage& other) {
+int strangers(const QImage& one, const QImage& other, double dark) {
   int count = 0;
   for (int y = 0; y < one.height(); ++y) {
     for (int x = 0; x < one.width(); ++x) {
-      if (brightness(one.pixel(x, y)) > 0.5 && brightest_near(other, x, y) < 0.2) {
+      if (brightness(one.pixel(x, y)) > 0.5 && brightest_near(other, x, y) < dark) {
         ++count;
       }
     }

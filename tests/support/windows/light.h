@@ -11,6 +11,7 @@ namespace velquon::test {
 double brightness(QRgb pixel);
 
 /// How many pixels are lit in one picture and nowhere near in another.
-int strangers(const QImage& one, const QImage& other);
+/// \param dark brightness below which a place is not lit
+int strangers(const QImage& one, const QImage& other, double dark);
 
 }  // namespace velquon::test

@@ -17,7 +17,7 @@ namespace velquon::test {
 QStringList menu_path(const char* titles);
 
 /// Chooses a menu item as a person does without a mouse: opens its menu by Alt and its letter, and
-/// picks the rest by theirs. The window has to have the keys.
+/// picks the rest by theirs. The window has to be active.
 /// \param titles path of the item; each part needs a letter of its own
 /// \return whether the menus opened and closed again behind the choice
 bool choose_by_keys(QMainWindow& window, const char* titles);

@@ -20,7 +20,7 @@ bool wait_until(const std::function<bool()>& condition, int milliseconds = longe
 /// \return whether it came there within `longest_wait`
 bool wait_until_exposed(QWidget* window);
 
-/// Waits until a window has the keys.
+/// Waits until a window is active.
 /// \return whether it got them within `longest_wait`
 bool wait_until_active(QWidget* window);
 
