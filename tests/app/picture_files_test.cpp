@@ -3,6 +3,7 @@
 
 // Pictures of the views in files.
 
+#include <QTest>
 #include <QXmlStreamReader>
 #include <ctime>
 
