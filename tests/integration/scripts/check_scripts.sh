@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: The Velquon developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# Checks scripts/fuzz and scripts/lint.
+# Checks scripts/fuzz, scripts/lint and scripts/install-packages.
 #   check_scripts.sh CHECK SOURCE
 set -euo pipefail
 
@@ -10,7 +10,7 @@ check=$1 source=$2
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 mkdir -p "$work/scripts" "$work/programs" "$work/build/fuzz/tests/fuzz" "$work/build/ci"
-cp "$source/scripts/fuzz" "$source/scripts/lint" "$work/scripts/"
+cp "$source/scripts/fuzz" "$source/scripts/lint" "$source/scripts/install-packages" "$work/scripts/"
 cd "$work"
 export PATH=$work/programs:$PATH
 
@@ -189,6 +189,25 @@ check_lint_misses_a_source() {
   touch engine/new.cpp
   run 2 scripts/lint engine/new.cpp
   printed_has 'engine/new.cpp is no source of the ci build'
+}
+
+# No package is there, and none is installed: what would be is printed.
+stand_in_for_packages() {
+  printf '# [running]\ng++\n# [testing]\nlibgtest-dev\n' >packages.txt
+  printf '#!/bin/sh\nexit 1\n' >programs/dpkg-query
+  printf '#!/bin/sh\nexec "$@"\n' >programs/sudo
+  printf '#!/bin/sh\n' >programs/apt-get
+  chmod +x programs/*
+}
+
+check_what_tests_need_is_not_installed_for_running() {
+  stand_in_for_packages
+  run 0 scripts/install-packages running
+  [ "$printed" = 'Installing g++' ] || fail "is printed: $printed"
+  run 0 scripts/install-packages
+  [ "$printed" = 'Installing g++ libgtest-dev' ] || fail "is printed: $printed"
+  run 2 scripts/install-packages walking
+  printed_has 'usage: '
 }
 
 "check_$check"
