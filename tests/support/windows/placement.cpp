@@ -24,14 +24,17 @@ QWidgetList shown_windows() {
   return windows;
 }
 
-/// A window with its frame, as the window manager has it; a widget may have asked too early.
+/// A window with its frame, as the window manager has it; empty before it has given the window one. Each
+/// look may see more of that than the one before, and a widget may have looked too early.
 QRect frame_of(const QWidget& window) {
-  return window.windowHandle()->frameGeometry();
+  const QWindow& handle = *window.windowHandle();
+  const QRect frame = handle.frameGeometry();
+  return frame != handle.geometry() ? frame : QRect();
 }
 
 /// Where frames are of pixels finer than units, their places are rounded to the next unit.
-bool is_on_screen(const QWidget& window) {
-  return available_screen().adjusted(0, 0, 1, 1).contains(frame_of(window));
+bool is_on_screen(const QRect& frame) {
+  return !frame.isEmpty() && available_screen().adjusted(0, 0, 1, 1).contains(frame);
 }
 
 }  // namespace
@@ -41,12 +44,13 @@ QRect available_screen() {
 }
 
 void expect_on_screen(const QWidget& window) {
-  // The window manager gives it its frame and its place.
-  EXPECT_TRUE(
-      wait_until([&] { return frame_of(window) != window.geometry() && is_on_screen(window); }));
-  const QRect place = frame_of(window);
+  QRect place;
+  const bool is_seen = wait_until([&] {
+    place = frame_of(window);
+    return is_on_screen(place);
+  });
   const QRect screen = available_screen();
-  EXPECT_TRUE(is_on_screen(window))
+  EXPECT_TRUE(is_seen)
       << window.windowTitle().toStdString() << ": " << place.x() << ' ' << place.y() << ' '
       << place.width() << " x " << place.height() << " on " << screen.width() << " x "
       << screen.height();
