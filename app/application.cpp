@@ -56,8 +56,8 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
       menus_(std::make_unique<Menus>()),
       chamber_window_(std::make_unique<ChamberWindow>(model_)),
       projector_window_(std::make_unique<ProjectorWindow>(projector_)),
-      controller_(std::make_unique<ChamberController>(model_, *chamber_window_, *projector_window_,
-                                                      dialogs)),
+      controller_(std::make_unique<ChamberController>(model_, projector_, *chamber_window_,
+                                                      *projector_window_, dialogs)),
       documents_(std::make_unique<EventDocuments>(*controller_, dialogs)),
       exports_(std::make_unique<EventExports>(model_, dialogs)),
       pictures_(std::make_unique<PictureFiles>(*controller_, *chamber_window_->view(),
@@ -73,7 +73,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   const Ui::Menus& items = menus_->items();
   chamber_window_->fillToolBar(
       {items.new_event_item, items.replay_item, items.rotate_item, items.reset_orientation_item},
-      items.event_menu);
+      items.chosen_event_item, items.event_menu);
   join(*chamber_window_);
   join(*projector_window_);
   connect(projector_window_.get(), &ProjectorWindow::recordAsked, this,
@@ -133,7 +133,6 @@ TrackWindow& Application::trackWindow() {
   if (!track_window_) {
     track_window_ = std::make_unique<TrackWindow>(track_model_);
     join(*track_window_);
-    track_window_->setItems(menus_->items().inject_item, menus_->items().clear_screen_item);
     track_window_->tellStatusIn(*chamber_window_);
     track_window_->tellStatusIn(*projector_window_);
     track_window_->awakeFromNib();
@@ -217,9 +216,7 @@ void Application::join(GLPanel& window) {
   connect(&window, &GLPanel::fileDropped, documents_.get(), &EventDocuments::application_openFile,
           Qt::QueuedConnection);
   // A file may be dropped where and when one may be opened.
-  const QAction* const open_item = menus_->items().open_item;
-  window.setTakesFiles(open_item->isEnabled());
-  connect(open_item, &QAction::enabledChanged, &window, &GLPanel::setTakesFiles);
+  window.takeFilesWhile([this] { return track_model_.isEnabled(TrackItem::rest_of_program); });
 }
 
 void Application::addTrackCommands() {

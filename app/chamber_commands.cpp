@@ -40,7 +40,7 @@ void add_actions(Commands& commands, const Ui::Menus& menus, ChamberController& 
        {.item = menus.reset_orientation_item, .run = [&] { view.resetOrientation(); }},
        {.item = menus.print_item,
         .run = [&] { controller.print(); },
-        .is_enabled = [&] { return controller.validateMenuItem(*menus.print_item); }}});
+        .is_enabled = [&] { return controller.printView() != nullptr; }}});
 }
 
 void add_settings(Commands& commands, const Ui::Menus& menus, ChamberController& controller,
@@ -79,6 +79,11 @@ void add_choices(Commands& commands, const Ui::Menus& menus, ChamberController& 
   commands.add(one_of<int>(
       numbered_items(*menus.event_menu, 0), [&](int type) { controller.set_event_type(type); },
       [&] { return view.event_type(); }));
+  commands.add({.item = menus.chosen_event_item, .title = [&] {
+                  const auto kinds = menus.event_menu->actions();
+                  const int chosen = controller.model().event_type();
+                  return kinds.value(chosen, menus.chosen_event_item)->text();
+                }});
   commands.add(one_of<int>(
       numbered_items(*menus.axis_menu, 1), [&](int axis) { controller.set_axis(axis); },
       [&] { return view.rotation_axis(); }));

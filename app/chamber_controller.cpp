@@ -3,7 +3,6 @@
 
 #include "app/chamber_controller.h"
 
-#include <QAction>
 #include <QFileInfo>
 #include <cstdio>
 #include <cstdlib>
@@ -41,9 +40,11 @@ void set_title(GLPanel& window, const QString& title, QLatin1String prefix, cons
 
 }  // namespace
 
-ChamberController::ChamberController(ChamberModel& model, ChamberWindow& chamber_window,
+ChamberController::ChamberController(ChamberModel& model, Projector& projector,
+                                     ChamberWindow& chamber_window,
                                      ProjectorWindow& projector_window, UserDialogs& dialogs)
     : model_(model),
+      projector_(projector),
       chamber_window_(chamber_window),
       projector_window_(projector_window),
       chamber_view_(*chamber_window.view()),
@@ -75,7 +76,7 @@ void ChamberController::makeNewEvent() {
   }
   settings().setNextChamberValues();
   model_.makeNewEvent();
-  renameWindows(shownName());
+  titleWindows();
   projection_view_.restore();
   if (chamber_view_.reset_each()) {
     chamber_view_.resetOrientation();
@@ -104,13 +105,9 @@ void ChamberController::showNextEvent() {
 void ChamberController::showAgain(void (ChamberModel::*show)()) {
   chamber_view_.stopRotating();
   (model_.*show)();
-  renameWindows(shownName());
+  titleWindows();
   projection_view_.restore();
   displayViews();
-}
-
-void ChamberController::setChamberData(std::span<const PlotPoint> points) {
-  model_.showTracks(points);
 }
 
 void ChamberController::setCurrentChamberValues() {
@@ -125,10 +122,15 @@ QString ChamberController::shownName() const {
   return QString::fromStdString(model_.shown()->name);
 }
 
-void ChamberController::renameWindows(const QString& name) {
+void ChamberController::titleWindows() {
+  const QString name = shownName();
   set_title(chamber_window_, tr("Particle Chamber: %1"), QLatin1String("Particle Chamber: "), name);
   set_title(projector_window_, tr("Projector: %1"), QLatin1String("Projector: "), name);
+}
+
+void ChamberController::renameWindows(const QString& name) {
   model_.showName(name.toStdString());
+  titleWindows();
 }
 
 void ChamberController::reorderWindows() {
@@ -206,10 +208,6 @@ void ChamberController::togglePreference(bool ChamberPreferences::*preference) {
   displayViews();
 }
 
-bool ChamberController::validateMenuItem(const QAction& item) const {
-  return item.objectName() != QStringLiteral("print_item") || print_view_ != nullptr;
-}
-
 void ChamberController::setPrintView(Printable* view) {
   print_view_ = view;
   Q_EMIT printViewChanged();
@@ -241,6 +239,7 @@ void ChamberController::connectWindows() {
 void ChamberController::handOver() {
   chamber_view_.show(model_.shown());
   projection_view_.show(model_.shown());
+  projector_.show(model_.shown());
   projection_view_.mark(model_.marked());
   projection_view_.setColored(model_.preferences().colored_projector);
 }

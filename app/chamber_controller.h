@@ -22,6 +22,7 @@ class ChamberWindow;
 class GLPanel;
 class Printable;
 class ProjectionView;
+class Projector;
 class ProjectorWindow;
 class UserDialogs;
 struct PrintChoices;
@@ -38,7 +39,8 @@ class ChamberController : public QObject {
   Q_OBJECT
 
  public:
-  ChamberController(ChamberModel& model, ChamberWindow& chamber_window,
+  /// \param projector what the projector's window shows an event with
+  ChamberController(ChamberModel& model, Projector& projector, ChamberWindow& chamber_window,
                     ProjectorWindow& projector_window, UserDialogs& dialogs);
   ~ChamberController() override;
   ChamberController(const ChamberController&) = delete;
@@ -58,14 +60,6 @@ class ChamberController : public QObject {
   void showPreviousEvent();
   void showNextEvent();
 
-  // Run the generator of a kind of event under the next values as they stand.
-  void makePionDecay();
-  void makeMuonDecay();
-  void makePizeroDecay();
-  void makeLambdaDecay();
-
-  /// Shows tracks in both views. Does not draw.
-  void setChamberData(std::span<const PlotPoint> points);
   /// Makes the next chamber values those of the shown event.
   void setCurrentChamberValues();
 
@@ -75,7 +69,10 @@ class ChamberController : public QObject {
 
   /// The name in the titles of both windows.
   [[nodiscard]] QString shownName() const;
-  /// Titles both windows after a name. A name too long for a title of 256 bytes ends the program.
+  /// Titles both windows after the shown event's name. One too long for a title of 256 bytes ends the
+  /// program.
+  void titleWindows();
+  /// Gives the shown event another name, and the windows their titles after it.
   void renameWindows(const QString& name);
   /// Brings the window that the user wants in front there.
   void reorderWindows();
@@ -97,10 +94,20 @@ class ChamberController : public QObject {
   /// Switches one of the model's preferences on or off, and draws both views.
   void togglePreference(bool ChamberPreferences::*preference);
 
-  /// Whether an item of this controller may be chosen now.
-  [[nodiscard]] bool validateMenuItem(const QAction& item) const;
   /// The view that is printed; null while neither view's window is active.
   [[nodiscard]] Printable* printView() const { return print_view_; }
+
+  // What legacy.cpp has.
+
+  // Run the generator of a kind of event under the next values as they stand.
+  void makePionDecay();
+  void makeMuonDecay();
+  void makePizeroDecay();
+  void makeLambdaDecay();
+  /// Shows tracks in both views. Does not draw.
+  void setChamberData(std::span<const PlotPoint> points);
+  /// Whether an item of this controller may be chosen now.
+  [[nodiscard]] bool validateMenuItem(const QAction& item) const;
 
  Q_SIGNALS:
   /// Another view is printed than before, or none.
@@ -114,6 +121,7 @@ class ChamberController : public QObject {
   void keyWindowChanged();
 
   ChamberModel& model_;
+  Projector& projector_;
   ChamberWindow& chamber_window_;
   ProjectorWindow& projector_window_;
   ChamberView& chamber_view_;

@@ -10,6 +10,9 @@ namespace velquon {
 
 void Commands::add(const Command& command) {
   commands_.push_back(command);
+  if (!command.run) {
+    return;
+  }
   connect(command.item, &QAction::triggered, this, [this, run = command.run] {
     run();
     refresh();
@@ -24,7 +27,7 @@ void Commands::add(const std::vector<Command>& commands) {
 
 void Commands::enableBy(const QList<QAction*>& items, const std::function<bool()>& is_enabled) {
   for (QAction* const item : items) {
-    commands_.push_back({.item = item, .run = {}, .is_enabled = is_enabled});
+    commands_.push_back({.item = item, .is_enabled = is_enabled});
   }
 }
 

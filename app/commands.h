@@ -19,7 +19,8 @@ namespace velquon {
 /// What a menu item does, and how its look follows from what the program knows.
 struct Command {
   QAction* item = nullptr;
-  std::function<void()> run;
+  /// Null for one that opens a menu.
+  std::function<void()> run{};
   /// Whether the item is checked; null for one that never is.
   std::function<bool()> is_checked{};
   /// Whether the item can be chosen; null for one that always can.

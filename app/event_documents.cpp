@@ -7,7 +7,6 @@
 #include <QFileInfo>
 #include <cerrno>
 #include <cstring>
-#include <variant>
 
 #include <sys/stat.h>
 
@@ -96,13 +95,18 @@ bool EventDocuments::readAndDisplayFile(const QString& path) {
   if (!problem.isEmpty()) {
     return false;
   }
-  const ReadResult result = read_event_file(
-      std::as_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size()))));
-  if (const auto* const refusal = std::get_if<Refusal>(&result)) {
+  ChamberModel& model = controller_.model();
+  const auto refusal =
+      model.open(std::as_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size()))),
+                 QFileInfo(path).fileName().toStdString(), [this] { tellNegativeField(); });
+  if (refusal) {
     tellRefusal(*refusal, path);
     return false;
   }
-  show(std::get<StoredEvent>(result), QFileInfo(path).fileName());
+  controller_.settings().showValues(model.next());
+  controller_.titleWindows();
+  controller_.displayViews();
+  controller_.reorderWindows();
   return true;
 }
 
@@ -115,23 +119,11 @@ void EventDocuments::tellRefusal(Refusal refusal, const QString& path) {
                           tr("Sorry, Velquon can't read this file."), path);
 }
 
-void EventDocuments::show(const StoredEvent& event, const QString& name) {
-  controller_.model().beginEvent();
-  controller_.setChamberData(event.points);
-  if (event.field_was_negative) {
-    dialogs_.alert(tr("You should know..."),
-                   tr("The event was created with the chamber's magnetic field set to "
-                      "a negative value.  The controls and display will show the "
-                      "absolute value of the field."));
-  }
-  ChamberModel& model = controller_.model();
-  model.setNext(as_controls_hold(event.values));
-  controller_.settings().showValues(model.next());
-  controller_.setCurrentChamberValues();
-  model.setHasEvent();
-  controller_.renameWindows(name);
-  controller_.displayViews();
-  controller_.reorderWindows();
+void EventDocuments::tellNegativeField() {
+  dialogs_.alert(tr("You should know..."),
+                 tr("The event was created with the chamber's magnetic field set to "
+                    "a negative value.  The controls and display will show the "
+                    "absolute value of the field."));
 }
 
 }  // namespace velquon

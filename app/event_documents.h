@@ -42,7 +42,7 @@ class EventDocuments : public QObject {
 
  private:
   void tellRefusal(Refusal refusal, const QString& path);
-  void show(const StoredEvent& event, const QString& name);
+  void tellNegativeField();
 
   ChamberController& controller_;
   UserDialogs& dialogs_;

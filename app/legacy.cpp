@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// One operation for each kind of decay, from before the kinds of events stood in a table. Nothing of
-// the program calls them any more; kept because these are operations that others may know and call. The
-// field is taken as it is, and the particle for the positive one.
+// Operations from before there were a model and a table of commands, which nothing of the program calls
+// any more; kept because others may know and call them. Those of a kind of decay take the field as it
+// is, and the particle for the positive one.
 
+#include <QAction>
 #include <algorithm>
 
 #include "app/chamber_controller.h"
@@ -30,6 +31,14 @@ void ChamberController::makePizeroDecay() {
 }
 void ChamberController::makeLambdaDecay() {
   model_.makeTracks(type_named("lambda"));
+}
+
+void ChamberController::setChamberData(std::span<const PlotPoint> points) {
+  model_.showTracks(points);
+}
+
+bool ChamberController::validateMenuItem(const QAction& item) const {
+  return item.objectName() != QStringLiteral("print_item") || print_view_ != nullptr;
 }
 
 }  // namespace velquon

@@ -51,7 +51,7 @@ int end_with(const QString& text, int status) {
   return written ? status : 1;
 }
 
-int end_for_want_of(const QString& missing) {
+int end_without(const QString& missing) {
   return end_with(QStringLiteral("velquon: %1\n").arg(velquon::as_one_line(missing)), 1);
 }
 
@@ -79,7 +79,7 @@ int main(int argc, char** argv) {
     qputenv("DISPLAY", parsed.options->display.toLocal8Bit());
   }
   if (const std::string missing = velquon::missing_for_windows(); !missing.empty()) {
-    return end_for_want_of(QString::fromStdString(missing));
+    return end_without(QString::fromStdString(missing));
   }
   velquon::prepare_desktop();
   ArgumentVector qt_arguments(parsed.options->qt_arguments);
@@ -96,7 +96,7 @@ int main(int argc, char** argv) {
   velquon::Application application(parsed.options->seed, dialogs);
   application.showWindows();
   if (!application.viewsCanDraw()) {
-    return end_for_want_of(
+    return end_without(
         QStringLiteral("the OpenGL driver gives the views no context of version 2.1 to draw with"));
   }
   if (!parsed.options->pictures.isEmpty()) {

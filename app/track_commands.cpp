@@ -57,7 +57,7 @@ void enable_items(Commands& commands, const Ui::Menus& menus, const TrackModel& 
   enable({menus.activate_item}, TrackItem::activate);
   enable({menus.inject_item}, TrackItem::inject);
   enable({menus.track_window_item}, TrackItem::window);
-  enable({menus.open_item, menus.save_item}, TrackItem::rest_of_program);
+  enable({menus.open_item, menus.save_item, menus.chosen_event_item}, TrackItem::rest_of_program);
   for (QMenu* const menu : {menus.particle_menu, menus.direction_menu, menus.velocity_menu}) {
     enable(menu->actions() << menu->menuAction(), TrackItem::choice);
   }

@@ -7,11 +7,11 @@
 #include <QLabel>
 #include <QMenu>
 #include <QToolButton>
-#include <algorithm>
 
 #include "chamber/chamber_settings.h"
 #include "chamber/chamber_view.h"
 #include "ui_chamber_window.h"
+#include "widgets/designed_form.h"
 #include "widgets/wheel_guard.h"
 #include "wording/told_event.h"
 
@@ -19,32 +19,14 @@ namespace velquon {
 
 namespace {
 
-/// A button that shows the chosen kind of event and opens the menu of all.
-QToolButton* make_event_type_button(QMenu* event_menu) {
+QToolButton* make_event_type_button(QAction* chosen_event_item, QMenu* event_menu) {
+  chosen_event_item->setToolTip(ChamberWindow::tr("Kind of the next event"));
   auto* const button = new QToolButton;
   button->setObjectName(QStringLiteral("event_type_button"));
+  button->setDefaultAction(chosen_event_item);
   button->setPopupMode(QToolButton::InstantPopup);
   button->setMenu(event_menu);
-  button->setToolTip(ChamberWindow::tr("Kind of the next event"));
-  const auto show_choice = [button, event_menu] {
-    const auto items = event_menu->actions();
-    const auto chosen = std::ranges::find_if(items, &QAction::isChecked);
-    if (chosen != items.end()) {
-      button->setText((*chosen)->text().remove(QLatin1Char('&')));
-      button->setEnabled((*chosen)->isEnabled());
-    }
-  };
-  for (QAction* const item : event_menu->actions()) {
-    QObject::connect(item, &QAction::changed, button, show_choice);
-  }
-  show_choice();
   return button;
-}
-
-std::unique_ptr<Ui::ChamberWindow> controls_in(QMainWindow& window) {
-  auto controls = std::make_unique<Ui::ChamberWindow>();
-  controls->setupUi(&window);
-  return controls;
 }
 
 /// Gives a label room for a text; a value of many digits in a file does not widen the window.
@@ -56,7 +38,7 @@ void give_room_for(QLabel& label, const QString& text) {
 }  // namespace
 
 ChamberWindow::ChamberWindow(ChamberModel& model)
-    : ui_(controls_in(*this)),
+    : ui_(set_up_form<Ui::ChamberWindow>(*this)),
       view_(new ChamberView(model, ui_->chamber_area->viewport())),
       settings_(std::make_unique<ChamberSettings>(*ui_, model)) {
   view_->setObjectName(QStringLiteral("chamber_view"));
@@ -107,11 +89,12 @@ void ChamberWindow::keyPressEvent(QKeyEvent* event) {
   GLPanel::keyPressEvent(event);
 }
 
-void ChamberWindow::fillToolBar(const QList<QAction*>& items, QMenu* event_menu) {
+void ChamberWindow::fillToolBar(const QList<QAction*>& items, QAction* chosen_event_item,
+                                QMenu* event_menu) {
   QToolBar& bar = *ui_->chamber_tool_bar;
   bar.addActions(items);
   QAction* const second = items.at(1);
-  bar.insertWidget(second, make_event_type_button(event_menu));
+  bar.insertWidget(second, make_event_type_button(chosen_event_item, event_menu));
   bar.insertSeparator(second);
   const auto shown = bar.actions();
   for (QAction* const action : shown) {

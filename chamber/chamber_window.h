@@ -34,9 +34,9 @@ class ChamberWindow : public GLPanel {
   [[nodiscard]] ViewScrollArea* area() const;
   [[nodiscard]] ChamberSettings& settings() { return *settings_; }
 
-  /// Puts items into the tool bar, and behind the first of them a button that shows which item of a
-  /// menu is checked, and opens the menu.
-  void fillToolBar(const QList<QAction*>& items, QMenu* event_menu);
+  /// Puts items into the tool bar, and behind the first of them a button that shows the title of the
+  /// item of the chosen kind of event, and opens the menu of all.
+  void fillToolBar(const QList<QAction*>& items, QAction* chosen_event_item, QMenu* event_menu);
 
   /// Tells the shown event beside the picture and, to who cannot see it, in words.
   void tell(const ToldEvent& event);

@@ -12,8 +12,8 @@ class QWidget;
 namespace velquon {
 
 /// Sees the presses of keys and mouse buttons that reach the program's windows, and the requests to
-/// close them, and takes none of them: they are handled as ever when the event loop runs again. For
-/// work that does not return to the event loop and is to end when the user wants it to.
+/// close them, and takes none of them: they stay in Qt's queue and are handled when the event loop runs
+/// again. For work that does not return to the event loop and that the user can end.
 class InputWatch {
  public:
   /// Watches from now on. Without the X server's leave nothing is ever seen.

@@ -16,6 +16,8 @@ struct ChamberValues {
   float B_field = 0.6F;      ///< magnetic field along z, kG, signed
   float sides_cm = 500.0F;   ///< side of the chamber, cm
   float kinetic_Mev = 0.4F;  ///< kinetic energy of the incoming particle, MeV
+
+  bool operator==(const ChamberValues&) const = default;
 };
 
 /// The side as the control holds it, in metres: the product is formed in double precision.

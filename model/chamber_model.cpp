@@ -5,10 +5,35 @@
 
 #include <cstdlib>
 #include <utility>
+#include <variant>
 
 #include "model/clock.h"
 
 namespace velquon {
+
+namespace {
+
+std::shared_ptr<EventTracks> tracks_of(std::span<const PlotPoint> points) {
+  auto tracks = std::make_shared<EventTracks>();
+  tracks->points.assign(points.begin(), points.end());
+  return tracks;
+}
+
+/// Runs the chain of a kind of event. Null when the event is not handed over.
+std::shared_ptr<const EventTracks> made_tracks(const EventType& type, const ChamberValues& values) {
+  TrackBuffer event;
+  ParticleRecord record;
+  if (make_event(type, values, event, &record) == HandOver::no) {
+    return nullptr;
+  }
+  auto tracks = tracks_of(event.points());
+  tracks->type = static_cast<std::size_t>(&type - event_types().data());
+  tracks->values = values;
+  tracks->record = std::move(record);
+  return tracks;
+}
+
+}  // namespace
 
 ChamberModel::ChamberModel(std::optional<std::uint32_t> seed)
     : seed_(seed.value_or(static_cast<std::uint32_t>(Microseconds()))) {
@@ -34,66 +59,83 @@ void ChamberModel::setPreferences(const ChamberPreferences& preferences) {
 }
 
 void ChamberModel::makeNewEvent() {
-  beginEvent();
-  showNextValues();
+  ShownEvent event = *shown_;
+  event.values = next_;
+  event.has_event = true;
   const auto type = static_cast<std::size_t>(event_type_);
   if (type < event_types().size()) {
-    makeTracks(event_types()[type]);
-    showName("Untitled Type " + std::to_string(type + 1) + " Decay");
+    if (auto tracks = made_tracks(event_types()[type], next_)) {
+      event.tracks = std::move(tracks);
+    }
+    event.name = "Untitled Type " + std::to_string(type + 1) + " Decay";
   }
-  setHasEvent();
+  showAnother(event);
+}
+
+std::optional<Refusal> ChamberModel::open(std::span<const std::byte> file, const std::string& name,
+                                          const std::function<void()>& tell_negative_field) {
+  const ReadResult result = read_event_file(file);
+  if (const auto* const refusal = std::get_if<Refusal>(&result)) {
+    return *refusal;
+  }
+  show(std::get<StoredEvent>(result), name, tell_negative_field);
+  return std::nullopt;
+}
+
+void ChamberModel::show(const StoredEvent& event, const std::string& name,
+                        const std::function<void()>& tell_negative_field) {
+  const auto tracks = tracks_of(event.points);
+  const ChamberValues values = as_controls_hold(event.values);
+  const ShownEvent opened{.tracks = tracks, .values = values, .name = name, .has_event = true};
+  if (!event.field_was_negative) {
+    next_ = values;
+    showAnother(opened);
+    return;
+  }
+  ShownEvent points_alone = *shown_;
+  points_alone.tracks = tracks;
+  showAnother(points_alone);
+  tell_negative_field();
+  next_ = values;
+  changeShown(opened);
 }
 
 void ChamberModel::showPreviousEvent() {
   if (hasPreviousEvent()) {
-    showAgain(history_.previous());
+    take(history_.previous());
   }
 }
 
 void ChamberModel::showNextEvent() {
   if (hasNextEvent()) {
-    showAgain(history_.next());
+    take(history_.next());
   }
-}
-
-void ChamberModel::showAgain(std::shared_ptr<const ShownEvent> event) {
-  marked_.clear();
-  revealed_ = false;
-  shown_ = std::move(event);
-  changed.tell();
 }
 
 void ChamberModel::makeTracks(const EventType& type) {
-  TrackBuffer event;
-  ParticleRecord record;
-  if (make_event(type, next_, event, &record) == HandOver::no) {
-    return;
+  if (auto tracks = made_tracks(type, next_)) {
+    ShownEvent event = *shown_;
+    event.tracks = std::move(tracks);
+    changeShown(event);
   }
-  const std::span<const PlotPoint> points = event.points();
-  auto tracks = std::make_shared<EventTracks>();
-  tracks->points.assign(points.begin(), points.end());
-  tracks->type = static_cast<std::size_t>(&type - event_types().data());
-  tracks->values = next_;
-  tracks->record = std::move(record);
-  takeTracks(std::move(tracks));
 }
 
 void ChamberModel::showTracks(std::span<const PlotPoint> points) {
-  auto tracks = std::make_shared<EventTracks>();
-  tracks->points.assign(points.begin(), points.end());
-  takeTracks(std::move(tracks));
+  ShownEvent event = *shown_;
+  event.tracks = tracks_of(points);
+  changeShown(event);
 }
 
 void ChamberModel::showNextValues() {
-  changeShown([this](ShownEvent& shown) { shown.values = next_; });
+  ShownEvent event = *shown_;
+  event.values = next_;
+  changeShown(event);
 }
 
 void ChamberModel::showName(const std::string& name) {
-  changeShown([&name](ShownEvent& shown) { shown.name = name; });
-}
-
-void ChamberModel::setHasEvent() {
-  changeShown([](ShownEvent& shown) { shown.has_event = true; });
+  ShownEvent event = *shown_;
+  event.name = name;
+  changeShown(event);
 }
 
 void ChamberModel::mark(std::vector<std::size_t> points) {
@@ -110,18 +152,24 @@ void ChamberModel::revealAnswers() {
   changed.tell();
 }
 
-void ChamberModel::takeTracks(std::shared_ptr<const EventTracks> tracks) {
-  marked_.clear();
-  revealed_ = false;
-  changeShown([&](ShownEvent& shown) { shown.tracks = std::move(tracks); });
+void ChamberModel::showAnother(const ShownEvent& event) {
+  auto shown = std::make_shared<const ShownEvent>(event);
+  history_.add(shown);
+  take(std::move(shown));
 }
 
-template <typename Change>
-void ChamberModel::changeShown(Change change) {
-  auto shown = std::make_shared<ShownEvent>(*shown_);
-  change(*shown);
-  shown_ = std::move(shown);
-  history_.update(shown_);
+void ChamberModel::changeShown(const ShownEvent& event) {
+  auto shown = std::make_shared<const ShownEvent>(event);
+  history_.replace(shown);
+  take(std::move(shown));
+}
+
+void ChamberModel::take(std::shared_ptr<const ShownEvent> event) {
+  if (event->tracks != shown_->tracks) {
+    marked_.clear();
+    revealed_ = false;
+  }
+  shown_ = std::move(event);
   changed.tell();
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -13,6 +14,7 @@
 #include "engine/chamber_values.h"
 #include "engine/event_record.h"
 #include "events/event_types.h"
+#include "files/event_file.h"
 #include "model/event_history.h"
 #include "model/listeners.h"
 #include "model/shown_event.h"
@@ -40,8 +42,8 @@ class ChamberModel {
  public:
   /// Told after each change of what is shown or chosen.
   Listeners changed;
-  /// Told when the user has marked other points of the shown event, or none, after `changed`. Another
-  /// event takes the marks away without a word here.
+  /// Told when the user has marked other points of the shown event, or none, after `changed`; not when
+  /// another event takes the marks away.
   Listeners marks_changed;
 
   /// Seeds the process-wide random generator, once for the program's run.
@@ -71,8 +73,6 @@ class ChamberModel {
   /// The event that is shown; never null.
   [[nodiscard]] const std::shared_ptr<const ShownEvent>& shown() const { return shown_; }
 
-  /// What is shown from now on is another event than before: the one before stays in the history.
-  void beginEvent() { history_.begin(); }
   /// Whether there is an event that was made or opened before the one that is shown, or after it.
   [[nodiscard]] bool hasPreviousEvent() const { return history_.hasPrevious(); }
   [[nodiscard]] bool hasNextEvent() const { return history_.hasNext(); }
@@ -83,17 +83,28 @@ class ChamberModel {
   /// Makes an event of the chosen kind with the next values and shows it. An event whose tracks
   /// are not handed over leaves those that are shown; values and name change all the same.
   void makeNewEvent();
+  /// Reads an event file of any layout and shows what it holds.
+  /// \param tell_negative_field as for `show`
+  /// \return why the file is refused, when nothing has changed; nothing when it is shown
+  std::optional<Refusal> open(std::span<const std::byte> file, const std::string& name,
+                              const std::function<void()>& tell_negative_field);
+  /// Shows an event that was read from a file. Its values, as the controls hold them, are the next
+  /// ones, too.
+  /// \param tell_negative_field called for a file that held a negative field, when the event's points
+  ///                            are shown, and its values and its name not yet
+  void show(const StoredEvent& event, const std::string& name,
+            const std::function<void()>& tell_negative_field);
+
+  // Change the event that is shown, which keeps its place in the history.
 
   /// Runs a chain of decays under the next values and shows the tracks if they are handed over.
   /// \param type kind of the event, of which the chain is
   void makeTracks(const EventType& type);
-
   /// Shows tracks that were not made here.
   void showTracks(std::span<const PlotPoint> points);
   /// Shows the next values as those of the event.
   void showNextValues();
   void showName(const std::string& name);
-  void setHasEvent();
 
   /// Points of the shown event that the views emphasise: their indices, rising. Another event has
   /// none.
@@ -107,10 +118,9 @@ class ChamberModel {
   void revealAnswers();
 
  private:
-  template <typename Change>
-  void changeShown(Change change);
-  void takeTracks(std::shared_ptr<const EventTracks> tracks);
-  void showAgain(std::shared_ptr<const ShownEvent> event);
+  void showAnother(const ShownEvent& event);
+  void changeShown(const ShownEvent& event);
+  void take(std::shared_ptr<const ShownEvent> event);
 
   std::uint32_t seed_;
   int event_type_ = 0;

@@ -7,15 +7,15 @@
 
 namespace velquon {
 
-void EventHistory::begin() {
-  events_.push_back(std::make_shared<const ShownEvent>());
+void EventHistory::add(std::shared_ptr<const ShownEvent> event) {
+  events_.push_back(std::move(event));
   if (events_.size() > longest) {
     events_.pop_front();
   }
   position_ = events_.size() - 1;
 }
 
-void EventHistory::update(std::shared_ptr<const ShownEvent> event) {
+void EventHistory::replace(std::shared_ptr<const ShownEvent> event) {
   if (!events_.empty()) {
     events_.at(position_) = std::move(event);
   }

@@ -18,10 +18,10 @@ class EventHistory {
   /// More events are not kept; the oldest goes.
   static constexpr std::size_t longest = 100;
 
-  /// From now on another event is shown, which comes last.
-  void begin();
-  /// What is shown has become this: in place of the event that is shown.
-  void update(std::shared_ptr<const ShownEvent> event);
+  /// From now on this event is shown, which comes last.
+  void add(std::shared_ptr<const ShownEvent> event);
+  /// Puts an event in the place of the one that is shown. Nothing before the first.
+  void replace(std::shared_ptr<const ShownEvent> event);
 
   [[nodiscard]] bool hasPrevious() const { return position_ > 0; }
   [[nodiscard]] bool hasNext() const { return position_ + 1 < events_.size(); }

@@ -18,6 +18,12 @@ struct Place {
   friend constexpr bool operator==(Place a, Place b) = default;
 };
 
+/// The place of a point of any kind that has `x()` and `y()`.
+template <typename Point>
+[[nodiscard]] Place place_of(const Point& point) {
+  return {point.x(), point.y()};
+}
+
 /// Radians of a whole turn.
 inline constexpr double whole_turn = 2.0 * std::numbers::pi;
 

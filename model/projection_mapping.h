@@ -17,6 +17,9 @@ enum class ProjectionPlane : std::uint8_t { xy = 1, xz = 2, yz = 3 };
 /// -x upwards, as the resting view of the chamber does.
 [[nodiscard]] Place project(const PlotPoint& point, ProjectionPlane plane);
 
+/// Half the side of a point's square, view units.
+inline constexpr double half_square = 0.5;
+
 /// The outline of the chamber on a plane, view units.
 struct ProjectedFrame {
   Place lower_left;

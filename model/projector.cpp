@@ -35,6 +35,9 @@ void Projector::show(std::shared_ptr<const ShownEvent> event) {
   if (has_other_tracks || has_other_field) {
     changed.tell();
   }
+  if (const double scaler = projection_scaler(event_->values); scaler != scaler_) {
+    setScaler(scaler);
+  }
 }
 
 void Projector::setPlane(ProjectionPlane plane) {

@@ -45,8 +45,9 @@ class Projector {
   /// Whether the points of curve and angle are set onto a point of the event that is near.
   [[nodiscard]] bool snaps() const { return snaps_; }
 
-  /// Takes the event that is shown, whose points the tools snap to and whose field bends its tracks.
-  /// Other tracks clear curve and angle.
+  /// Takes the event that is shown, whose points the tools snap to and whose values are the scale and
+  /// the field that bends its tracks. Other tracks clear curve and angle; with another scale a tape
+  /// that is laid out is read anew.
   void show(std::shared_ptr<const ShownEvent> event);
 
   // What is laid out goes with another plane, zoom or tool: the tape is hidden, curve and angle are

@@ -18,7 +18,6 @@ namespace velquon {
 namespace {
 
 constexpr QPointF projection_page_offset{20.0, 100.0};
-constexpr double half_page_square = 0.5;
 constexpr QColor frame_gray(128, 128, 128);
 
 QPointF on_page(Place place) {
@@ -44,9 +43,10 @@ std::vector<QRectF> squares_of(std::span<const PlotPoint> points, ProjectionPlan
   squares.reserve(points.size());
   for (const PlotPoint& point : points) {
     const Place place = mapping.map(project(point, plane));
-    const QPointF corner(place.x - half_page_square, place.y - half_page_square);
+    const QPointF corner(place.x - half_square, place.y - half_square);
     if (can_be_on_paper(corner)) {
-      squares.emplace_back(corner + projection_page_offset, QSizeF(1.0, 1.0));
+      squares.emplace_back(corner + projection_page_offset,
+                           QSizeF(2.0 * half_square, 2.0 * half_square));
     }
   }
   return squares;

@@ -19,7 +19,6 @@ namespace velquon {
 
 namespace {
 
-constexpr double half_square = 0.5;
 constexpr double half_marked_square = 1.5;
 
 /// \param ratio device pixels per view unit

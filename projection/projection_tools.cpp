@@ -13,14 +13,6 @@
 
 namespace velquon {
 
-namespace {
-
-Place place_of(QPointF point) {
-  return {point.x(), point.y()};
-}
-
-}  // namespace
-
 void ProjectionView::mousePressEvent(QMouseEvent* event) {
   hideCross();
   if (event->button() == Qt::LeftButton) {

@@ -26,14 +26,9 @@ ProjectionView::ProjectionView(Projector& projector, QWidget* parent)
 
 void ProjectionView::show(std::shared_ptr<const ShownEvent> event) {
   const bool has_other_tracks = event->tracks != event_->tracks;
-  const double scaler_before = scaler();
   event_ = std::move(event);
-  projector_.show(event_);
   if (has_other_tracks) {
     makeDisplayPoints();
-  }
-  if (const double scaler_now = projection_scaler(event_->values); scaler_now != scaler_before) {
-    setScaler(scaler_now);
   }
 }
 

@@ -34,8 +34,7 @@ class ProjectionView : public GLView, public Printable {
   /// \param projector plane, zoom, tools and tape
   explicit ProjectionView(Projector& projector, QWidget* parent = nullptr);
 
-  /// Takes the event to draw. A tape on the screen is read anew, curve and angle are cleared by other
-  /// tracks. Does not draw.
+  /// Takes the event to draw. Does not draw.
   void show(std::shared_ptr<const ShownEvent> event);
 
   /// Emphasises points of the event on the screen, not on a page. Does not draw.

@@ -13,6 +13,7 @@
 #include "projection/projection_view.h"
 #include "projection/readings_text.h"
 #include "ui_projector_window.h"
+#include "widgets/designed_form.h"
 #include "widgets/number_text.h"
 #include "widgets/palette_icon.h"
 #include "widgets/view_scroll_area.h"
@@ -21,12 +22,6 @@
 namespace velquon {
 
 namespace {
-
-std::unique_ptr<Ui::ProjectorWindow> set_up_controls(QMainWindow& window) {
-  auto controls = std::make_unique<Ui::ProjectorWindow>();
-  controls->setupUi(&window);
-  return controls;
-}
 
 /// Calls something once whenever a button of a group is chosen: by a click, which may choose the same
 /// button again, or by a screen reader, which toggles without a click.
@@ -60,7 +55,7 @@ void connect_choices(ProjectionView* view, void (ProjectionView::*choose)(Value)
 }  // namespace
 
 ProjectorWindow::ProjectorWindow(Projector& projector)
-    : ui_(set_up_controls(*this)),
+    : ui_(set_up_form<Ui::ProjectorWindow>(*this)),
       projector_(projector),
       view_(new ProjectionView(projector, ui_->projector_area->viewport())) {
   view_->setObjectName(QStringLiteral("projection_view"));

@@ -3,7 +3,6 @@
 
 #include "track/track_panel.h"
 
-#include <QAction>
 #include <QComboBox>
 #include <QSignalBlocker>
 #include <algorithm>
@@ -13,6 +12,7 @@
 #include "model/track_model.h"
 #include "track/new_track_view.h"
 #include "ui_track_panel.h"
+#include "widgets/designed_form.h"
 #include "widgets/number_text.h"
 #include "widgets/view_scroll_area.h"
 #include "widgets/wheel_guard.h"
@@ -47,16 +47,6 @@ void enable(QWidget* control, bool enabled, QWidget* keys_meanwhile) {
   }
 }
 
-/// Makes a button do what an item does.
-void make_stand_for(QAbstractButton* button, QAction* item, QWidget* keys_meanwhile) {
-  const auto follow = [button, item, keys_meanwhile] {
-    enable(button, item->isEnabled(), keys_meanwhile);
-  };
-  QObject::connect(button, &QAbstractButton::clicked, item, &QAction::trigger);
-  QObject::connect(item, &QAction::changed, button, follow);
-  follow();
-}
-
 /// Makes a control choose one of some values, and follow who else chooses one.
 template <typename Values, typename Choose>
 void connect_choice(QComboBox* popup, const Values& values, Choose choose) {
@@ -76,11 +66,10 @@ void show_choice(QComboBox* popup, const Values& values, Value present) {
 }  // namespace
 
 TrackPanel::TrackPanel(TrackModel& model, QWidget* parent)
-    : QWidget(parent), model_(model), ui_(std::make_unique<Ui::track_panel>()) {
-  ui_->setupUi(this);
-  // The scrolled area, in which the view lies, is the form's.
-  // NOLINTNEXTLINE(cppcoreguidelines-prefer-member-initializer)
-  view_ = new NewTrackView(ui_->track_area->viewport());
+    : QWidget(parent),
+      model_(model),
+      ui_(set_up_form<Ui::track_panel>(*this)),
+      view_(new NewTrackView(ui_->track_area->viewport())) {
   view_->setObjectName(QStringLiteral("track_view"));
   view_->setAccessibleName(tr("Track"));
   view_->setAccessibleDescription(tr("The particle's track. Drag with the mouse to measure it."));
@@ -89,6 +78,8 @@ TrackPanel::TrackPanel(TrackModel& model, QWidget* parent)
   ui_->track_area->setAccessibleName(tr("Part of the track that is seen"));
   ui_->track_area->setView(view_, {track_area_width, track_area_height});
   connect(ui_->vSlider, &ValueSlider::moved, view_, [this] { view_->setMagField(vSlider()); });
+  connect(ui_->inject_button, &QAbstractButton::clicked, view_, &NewTrackView::injectParticle);
+  connect(ui_->clear_button, &QAbstractButton::clicked, view_, &NewTrackView::clearScreen);
   connectChoices();
   makeRoomForReadings();
   changes_ = model_.changed.add([this] { showModel(); });
@@ -116,11 +107,6 @@ void TrackPanel::makeRoomForReadings() {
   make_room(ui_->tape_unit, tr("units"));
 }
 
-void TrackPanel::setItems(QAction* inject_item, QAction* clear_item) {
-  make_stand_for(ui_->inject_button, inject_item, view_);
-  make_stand_for(ui_->clear_button, clear_item, view_);
-}
-
 void TrackPanel::showModel() {
   const double field = model_.simulation().settings.B_field;
   const std::optional<double> reading = model_.reading();
@@ -134,6 +120,8 @@ void TrackPanel::showModel() {
   for (QComboBox* const popup : {ui_->particle_popup, ui_->direction_popup, ui_->velocity_popup}) {
     enable(popup, model_.isEnabled(TrackItem::choice), view_);
   }
+  enable(ui_->inject_button, model_.isEnabled(TrackItem::inject), view_);
+  enable(ui_->clear_button, model_.isEnabled(TrackItem::clear), view_);
 }
 
 ViewScrollArea* TrackPanel::track_area() const {

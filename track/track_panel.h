@@ -9,7 +9,6 @@
 #include "model/listeners.h"
 
 class QAbstractButton;
-class QAction;
 class QLabel;
 
 namespace Ui {
@@ -33,9 +32,6 @@ class TrackPanel : public QWidget {
   explicit TrackPanel(TrackModel& model, QWidget* parent = nullptr);
   ~TrackPanel() override;
 
-  /// Makes each of the two buttons stand for a menu item: do what it does while it is enabled.
-  void setItems(QAction* inject_item, QAction* clear_item);
-
   [[nodiscard]] NewTrackView* track_view() const { return view_; }
   [[nodiscard]] ViewScrollArea* track_area() const;
   /// Field and tape as the window shows them, a line each.
@@ -53,7 +49,7 @@ class TrackPanel : public QWidget {
 
   TrackModel& model_;
   std::unique_ptr<Ui::track_panel> ui_;
-  NewTrackView* view_ = nullptr;
+  NewTrackView* view_;
   Subscription changes_;
 };
 

@@ -12,14 +12,6 @@
 
 namespace velquon {
 
-namespace {
-
-Place place_in_view(QPointF point) {
-  return {point.x(), point.y()};
-}
-
-}  // namespace
-
 double NewTrackView::tapeLength() const {
   return model_->tapeLength();
 }
@@ -28,14 +20,14 @@ void NewTrackView::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) {
     return;
   }
-  model_->press(place_in_view(locationOf(*event)));
+  model_->press(place_of(locationOf(*event)));
 }
 
 void NewTrackView::mouseMoveEvent(QMouseEvent* event) {
   if (!event->buttons().testFlag(Qt::LeftButton)) {
     return;
   }
-  model_->drag(place_in_view(locationOf(*event)));
+  model_->drag(place_of(locationOf(*event)));
   drawing_.showAll();
   redraw();
 }
@@ -45,7 +37,7 @@ void NewTrackView::mouseReleaseEvent(QMouseEvent* event) {
     return;
   }
   clearColorBuffer();
-  model_->release(place_in_view(locationOf(*event)));
+  model_->release(place_of(locationOf(*event)));
   // The whole track now, also after a click that was no drag, and with the next drawing again.
   drawing_.showAll();
   redraw();

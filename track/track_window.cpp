@@ -28,10 +28,6 @@ void TrackWindow::awakeFromNib() {
   controller_->awakeFromNib();
 }
 
-void TrackWindow::setItems(QAction* inject_item, QAction* clear_item) {
-  panel_->setItems(inject_item, clear_item);
-}
-
 void TrackWindow::tellStatusIn(QMainWindow& window) {
   auto* const status = new TrackStatus(window);
   connect(controller_.get(), &TrackController::activatedChanged, status, &TrackStatus::setActive);

@@ -7,8 +7,6 @@
 
 #include "widgets/gl_panel.h"
 
-class QAction;
-
 namespace velquon {
 
 class TrackController;
@@ -26,9 +24,6 @@ class TrackWindow : public GLPanel {
 
   /// Puts choices and controls into their start-up state.
   void awakeFromNib();
-
-  /// Makes each of the window's two buttons stand for a menu item.
-  void setItems(QAction* inject_item, QAction* clear_item);
 
   /// Has a line at the foot of another window tell that this one is active, while it is.
   void tellStatusIn(QMainWindow& window);

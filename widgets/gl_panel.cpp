@@ -100,18 +100,22 @@ void GLPanel::closeEvent(QCloseEvent* event) {
 }
 
 void GLPanel::dragEnterEvent(QDragEnterEvent* event) {
-  if (!dragged_file(*event->mimeData()).isEmpty()) {
+  if (!fileToTake(*event).isEmpty()) {
     take_copy(*event);
   }
 }
 
 void GLPanel::dropEvent(QDropEvent* event) {
-  const QString path = dragged_file(*event->mimeData());
+  const QString path = fileToTake(*event);
   if (!path.isEmpty()) {
     take_copy(*event);
     came_to_front_ = std::chrono::steady_clock::now();
     Q_EMIT fileDropped(path);
   }
+}
+
+QString GLPanel::fileToTake(const QDropEvent& event) const {
+  return takesFiles() ? dragged_file(*event.mimeData()) : QString();
 }
 
 }  // namespace velquon

@@ -5,6 +5,10 @@
 
 #include <QMainWindow>
 #include <chrono>
+#include <functional>
+#include <utility>
+
+class QDropEvent;
 
 namespace velquon {
 
@@ -33,8 +37,10 @@ class GLPanel : public QMainWindow {
   /// Brings the window to the front and activates it.
   void makeKeyAndOrderFront();
 
-  /// Whether files may be dropped on the window; at first they may.
-  void setTakesFiles(bool takes) { setAcceptDrops(takes); }
+  /// \param may_take asked whether files may be dropped on the window now; without it they always may
+  void takeFilesWhile(std::function<bool()> may_take) { may_take_files_ = std::move(may_take); }
+  /// Whether files may be dropped on the window now.
+  [[nodiscard]] bool takesFiles() const { return !may_take_files_ || may_take_files_(); }
 
   /// Wide enough for the menu bar, which Qt leaves out.
   [[nodiscard]] QSize sizeHint() const override;
@@ -53,7 +59,10 @@ class GLPanel : public QMainWindow {
   void dropEvent(QDropEvent* event) override;
 
  private:
+  [[nodiscard]] QString fileToTake(const QDropEvent& event) const;
+
   QString title_;
+  std::function<bool()> may_take_files_;
   std::chrono::steady_clock::time_point came_to_front_;
 };
 

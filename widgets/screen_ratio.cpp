@@ -75,7 +75,7 @@ void ScreenRatio::watch(QWidget* window) {
 }
 
 void ScreenRatio::followSoon(QWidget* window) {
-  // Qt is still at it.
+  // Qt has not finished its own work on the change.
   QMetaObject::invokeMethod(
       this,
       [this, shown = QPointer<QWidget>(window)] {

@@ -131,7 +131,6 @@ TEST_F(EventTellingTest, WhatFindsNoRoomIsReadInTheToolTip) {
 TEST_F(EventTellingTest, AFilesNameIsToldLetterByLetter) {
   const auto letters_on_screen = [this](const QString& name) {
     controller().renameWindows(name);
-    model().setHasEvent();
     return control<QLabel>("chamber_status").grab().toImage();
   };
   showEvent(std::vector{point_at(0, 0, 0, 4), point_at(0, 20, 0, 4)});
@@ -188,11 +187,9 @@ TEST_F(EventTellingTest, HiddenAnswersAreNotToldUntilTheyAreRevealed) {
 }
 
 TEST_F(EventTellingTest, AnEventOfAFileIsToldByItsNameAndCodes) {
-  controller().setChamberData(std::vector{point_at(0, 0, 0, 4), point_at(0, 20, 0, 4),
-                                          point_at(0, 40, 0, 4), point_at(300, 0, 0, 2),
-                                          point_at(300, 20, 0, 2)});
+  showEvent(std::vector{point_at(0, 0, 0, 4), point_at(0, 20, 0, 4), point_at(0, 40, 0, 4),
+                        point_at(300, 0, 0, 2), point_at(300, 20, 0, 2)});
   controller().renameWindows(QStringLiteral("lesson.cwd"));
-  model().setHasEvent();
   EXPECT_EQ(chamberStatus(),
             "lesson.cwd · event 1 · seed " + std::to_string(seed()) + " · 5 points · 2 tracks");
   EXPECT_EQ(symbolsOf(chamberLegend()), (QStringList{QStringLiteral("μ/e"), QStringLiteral("π")}));

@@ -12,12 +12,11 @@
 #include "files/event_file.h"
 #include "tests/support/windows/application_fixture.h"
 #include "tests/support/windows/real_input.h"
+#include "tests/support/windows/waiting.h"
 
 namespace velquon::test {
 
 namespace {
-
-constexpr int program_patience = 30'000;  // milliseconds
 
 /// A screen with a depth of our own choice.
 class OtherScreen {
@@ -28,7 +27,7 @@ class OtherScreen {
         QStringLiteral("Xvfb"),
         {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
          QStringLiteral("0"), size_and_depth, QStringLiteral("-nolisten"), QStringLiteral("tcp")});
-    EXPECT_TRUE(server_.waitForReadyRead(program_patience));
+    EXPECT_TRUE(server_.waitForReadyRead(2 * longest_wait));
     name_ = QLatin1Char(':') + QString::fromLatin1(server_.readLine()).trimmed();
   }
   ~OtherScreen() {
@@ -63,7 +62,7 @@ class ProgramTest : public testing::Test {
   }
   /// The end with a status and a last line of errors.
   void expectEnd(int status, const QByteArray& last_line) {
-    ASSERT_TRUE(program_.waitForFinished(program_patience));
+    ASSERT_TRUE(program_.waitForFinished(2 * longest_wait));
     EXPECT_EQ(program_.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(program_.exitCode(), status);
     const QByteArray errors = program_.readAllStandardError();

@@ -18,6 +18,14 @@ namespace {
 
 constexpr std::uint32_t seed = 20'240'611;
 
+const std::vector some_points{PlotPoint{.coords = {1.0, 2.0, 3.0, 1.0}, .code = 4},
+                              PlotPoint{.coords = {4.0, 5.0, 6.0, 1.0}, .code = 1}};
+constexpr ChamberValues some_values{.B_field = 1.5F, .sides_cm = 33.3F, .kinetic_Mev = 7.0F};
+
+void never() {
+  ADD_FAILURE() << "no field was negative";
+}
+
 std::vector<PlotPoint> copy_of(std::span<const PlotPoint> points) {
   return {points.begin(), points.end()};
 }
@@ -99,19 +107,109 @@ TEST(ChamberModelTest, AnEventThatIsNotHandedOverChangesValuesAndNameAlone) {
   EXPECT_GT(kept, 10);
 }
 
+TEST(ChamberModelTest, ANewEventIsToldOfOnceAndWhole) {
+  ChamberModel model(seed);
+  int told = 0;
+  const Subscription changes = model.changed.add([&] {
+    ++told;
+    EXPECT_TRUE(model.shown()->has_event);
+    EXPECT_EQ(model.shown()->name, "Untitled Type 1 Decay");
+    EXPECT_FALSE(model.shown()->points().empty());
+  });
+  model.makeNewEvent();
+  EXPECT_EQ(told, 1);
+}
+
 TEST(ChamberModelTest, AnOpenedEventHasNoRecordAndNoType) {
   ChamberModel model(seed);
   model.makeNewEvent();
-  const std::vector points{PlotPoint{.coords = {1.0, 2.0, 3.0, 1.0}, .code = 4}};
-  model.showTracks(points);
-  model.setNext(as_controls_hold({.B_field = -1.0F, .sides_cm = 123.4F, .kinetic_Mev = 7.0F}));
-  model.showNextValues();
-  model.setHasEvent();
-  model.showName("some.cwd");
-  EXPECT_EQ(copy_of(model.shown()->points()), points);
+  EXPECT_EQ(model.open(encode_event(some_points, some_values), "some.cwd", never), std::nullopt);
+  EXPECT_EQ(copy_of(model.shown()->points()), some_points);
   EXPECT_FALSE(model.shown()->tracks->type);
   EXPECT_FALSE(model.shown()->tracks->record);
-  EXPECT_EQ(model.shown()->values.B_field, -1.0F);
+}
+
+TEST(ChamberModelTest, AnOpenedEventIsToldOfOnceAndWhole) {
+  ChamberModel model(seed);
+  const ChamberValues held = as_controls_hold(some_values);
+  int told = 0;
+  const Subscription changes = model.changed.add([&] {
+    ++told;
+    EXPECT_TRUE(model.shown()->has_event);
+    EXPECT_EQ(model.shown()->name, "some.cwd");
+    EXPECT_EQ(copy_of(model.shown()->points()), some_points);
+    EXPECT_EQ(model.shown()->values, held);
+    EXPECT_EQ(model.next(), held);
+  });
+  model.open(encode_event(some_points, some_values), "some.cwd", never);
+  EXPECT_EQ(told, 1);
+}
+
+TEST(ChamberModelTest, AnOpenedEventComesAfterTheOneBefore) {
+  ChamberModel model(seed);
+  model.makeNewEvent();
+  const auto made = model.shown();
+  model.open(encode_event(some_points, some_values), "some.cwd", never);
+  const auto opened = model.shown();
+  model.showPreviousEvent();
+  EXPECT_EQ(model.shown(), made);
+  model.showNextEvent();
+  EXPECT_EQ(model.shown(), opened);
+  EXPECT_FALSE(model.hasNextEvent());
+}
+
+TEST(ChamberModelTest, ARefusedFileChangesNothingAndIsNotToldOf) {
+  std::vector<std::byte> cut_off = encode_event(some_points, some_values);
+  cut_off.pop_back();
+  const std::vector<std::pair<std::vector<std::byte>, Refusal>> files{
+      {{}, Refusal::wrong_format},
+      {{std::byte{'x'}}, Refusal::wrong_format},
+      {cut_off, Refusal::bad_data}};
+  ChamberModel model(seed);
+  model.makeNewEvent();
+  const auto shown = model.shown();
+  const ChamberValues next = model.next();
+  int told = 0;
+  const Subscription changes = model.changed.add([&told] { ++told; });
+  for (const auto& [file, reason] : files) {
+    EXPECT_EQ(model.open(file, "some.cwd", never), reason);
+  }
+  EXPECT_EQ(model.shown(), shown);
+  EXPECT_EQ(model.next(), next);
+  EXPECT_FALSE(model.hasPreviousEvent());
+  EXPECT_EQ(told, 0);
+}
+
+TEST(ChamberModelTest, ANegativeFieldOfAFileIsToldOfBetweenThePointsAndTheValues) {
+  ChamberModel model(seed);
+  model.makeNewEvent();
+  const ShownEvent before = *model.shown();
+  int told = 0;
+  const auto tell = [&] {
+    ++told;
+    EXPECT_EQ(copy_of(model.shown()->points()), some_points);
+    EXPECT_EQ(model.shown()->values, before.values);
+    EXPECT_EQ(model.shown()->name, before.name);
+    EXPECT_EQ(model.next(), before.values);
+  };
+  model.show({.points = some_points, .values = some_values, .field_was_negative = true}, "old.cwd",
+             tell);
+  EXPECT_EQ(told, 1);
+  EXPECT_EQ(model.shown()->values, as_controls_hold(some_values));
+  EXPECT_EQ(model.shown()->name, "old.cwd");
+  model.showPreviousEvent();
+  EXPECT_EQ(model.shown()->tracks, before.tracks);
+  EXPECT_FALSE(model.hasPreviousEvent());
+}
+
+TEST(ChamberModelTest, AnotherNameIsThatOfTheShownEvent) {
+  ChamberModel model(seed);
+  model.makeNewEvent();
+  const auto tracks = model.shown()->tracks;
+  model.showName("kept.cwd");
+  EXPECT_EQ(model.shown()->name, "kept.cwd");
+  EXPECT_EQ(model.shown()->tracks, tracks);
+  EXPECT_FALSE(model.hasPreviousEvent());
 }
 
 TEST(ChamberModelTest, ControlsHoldTheSideInMetres) {
@@ -143,7 +241,7 @@ TEST(ChamberModelTest, TellsOfEachChange) {
   model.setNext({});
   EXPECT_EQ(told, 3);
   model.makeNewEvent();
-  EXPECT_GT(told, 3);
+  EXPECT_EQ(told, 4);
 }
 
 TEST(ChamberModelTest, TellsUnderWhatItsTracksWereMade) {

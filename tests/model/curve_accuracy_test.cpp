@@ -95,7 +95,6 @@ std::shared_ptr<const ShownEvent> event_of(EventTracks&& tracks, const ChamberVa
 
 /// Shows an event with Curve as the tool.
 void lay_curves(Projector& projector, const std::shared_ptr<const ShownEvent>& event) {
-  projector.setScaler(projection_scaler(event->values));
   projector.show(event);
   projector.setTool(ProjectorTool::curve);
 }

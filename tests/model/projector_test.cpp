@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <memory>
 
 namespace velquon::test {
 
@@ -80,6 +81,16 @@ TEST(ProjectorTest, OnlyATapeThatIsLaidOutIsReadAnewInAChamberOfAnotherSize) {
   projector.setZoom(1.0F);
   projector.setScaler(1.25);
   EXPECT_EQ(projector.reading(), 0.0);
+}
+
+TEST(ProjectorTest, AnEventInAChamberOfAnotherSizeHasTheTapeReadAnew) {
+  Projector projector = projector_of_5_m();
+  lay_tape(projector, {100.0, 100.0}, {200.0, 100.0});
+  auto event = std::make_shared<ShownEvent>();
+  event->values.sides_cm = 200.0F;
+  projector.show(event);
+  EXPECT_EQ(projector.scaler(), 0.5);
+  EXPECT_EQ(projector.reading(), 50.0);
 }
 
 TEST(ProjectorTest, TheGrabMovesThePictureAcrossAndUpAsTheMouse) {

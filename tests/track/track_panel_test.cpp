@@ -126,19 +126,28 @@ TEST(TrackPanel, TheWheelTurnsTheFieldOnlyWithTheFocus) {
   EXPECT_GT(rig.model.simulation().settings.B_field, 0.0);
 }
 
-TEST(TrackPanel, ItsButtonsStandForTheMenuItems) {
+TEST(TrackPanel, ItsButtonsDoWhatTheMenuItemsDo) {
   TrackRig rig;
   rig.activate();
-  rig.inject_item->setEnabled(false);
-  EXPECT_FALSE(rig.panel->inject_button()->isEnabled());
-  rig.inject_item->setEnabled(true);
-  EXPECT_TRUE(rig.panel->inject_button()->isEnabled());
   QTest::mouseClick(rig.panel->inject_button(), Qt::LeftButton);
   EXPECT_TRUE(rig.view->is_tracking());
   QTest::mouseClick(rig.panel->clear_button(), Qt::LeftButton);
   EXPECT_TRUE(rig.model.simulation().clear_signal());
-  rig.clear_item->setEnabled(false);
-  EXPECT_FALSE(rig.panel->clear_button()->isEnabled());
+}
+
+TEST(TrackPanel, ItsButtonsCanBePressedWhileTheirItemsCanBeChosen) {
+  TrackRig rig;
+  const auto expect_same = [&rig](bool may_inject) {
+    EXPECT_EQ(rig.inject_item->isEnabled(), may_inject);
+    EXPECT_EQ(rig.panel->inject_button()->isEnabled(), may_inject);
+    EXPECT_TRUE(rig.clear_item->isEnabled());
+    EXPECT_TRUE(rig.panel->clear_button()->isEnabled());
+  };
+  expect_same(false);
+  rig.activate();
+  expect_same(true);
+  rig.injectAndHold();
+  expect_same(false);
 }
 
 TEST(TrackPanel, ItsChoicesFollowTheMenuAndTheMenuThem) {

@@ -15,8 +15,6 @@ namespace velquon::test {
 
 namespace {
 
-constexpr int track_patience = 30'000;  // milliseconds
-
 void insist(bool true_thing, const char* what) {
   if (!true_thing) {
     throw std::runtime_error(what);
@@ -48,7 +46,6 @@ TrackRig::TrackRig()
   add_track_commands(
       commands, menus, model, [this]() -> TrackController& { return *controller; },
       [this]() -> NewTrackView& { return *view; });
-  panel->setItems(inject_item, clear_item);
   QObject::connect(window, &GLPanel::becameKey, controller.get(),
                    &TrackController::windowDidBecomeKey);
   QObject::connect(window, &GLPanel::resignedKey, controller.get(),
@@ -128,7 +125,7 @@ void TrackRig::injectAndCircle(int straight_steps, double field, int steps) {
 bool TrackRig::waitForEnd() const {
   return wait_until(
       [this] { return view->trackTimer() != nullptr && !view->trackTimer()->isActive(); },
-      track_patience);
+      2 * longest_wait);
 }
 
 std::vector<QPoint> TrackRig::whitePixels() const {

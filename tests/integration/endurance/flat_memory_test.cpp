@@ -83,7 +83,6 @@ TEST_F(FlatMemoryTest, TwentyThousandNewEventsOfTheModelLeaveNothing) {
   ChamberModel& model = application().model();
   expectFlat("New events of the model", 20'000, [&](int i) {
     model.setEventType(type_of(i));
-    model.beginEvent();
     model.makeNewEvent();
   });
 }

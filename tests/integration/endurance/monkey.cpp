@@ -260,7 +260,7 @@ void Monkey::dropFile() {
   const QString path = dialogs_.anyPath();
   note(QStringLiteral("drop ") + path);
   GLPanel* const window = GLPanel::inFront();
-  if (window != nullptr && window->acceptDrops()) {
+  if (window != nullptr && window->takesFiles()) {
     Q_EMIT window->fileDropped(path);
   }
 }

@@ -125,8 +125,9 @@ void ApplicationFixture::activateAnotherProgram() {
 }
 
 void ApplicationFixture::showEvent(std::span<const PlotPoint> points) {
-  controller().setChamberData(points);
-  controller().model().setHasEvent();
+  ChamberModel& model = controller().model();
+  const ShownEvent shown = *model.shown();
+  model.show({.points = {points.begin(), points.end()}, .values = shown.values}, shown.name, {});
   controller().displayViews();
 }
 

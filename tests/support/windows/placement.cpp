@@ -50,10 +50,9 @@ void expect_on_screen(const QWidget& window) {
     return is_on_screen(place);
   });
   const QRect screen = available_screen();
-  EXPECT_TRUE(is_seen)
-      << window.windowTitle().toStdString() << ": " << place.x() << ' ' << place.y() << ' '
-      << place.width() << " x " << place.height() << " on " << screen.width() << " x "
-      << screen.height();
+  EXPECT_TRUE(is_seen) << window.windowTitle().toStdString() << ": " << place.x() << ' '
+                       << place.y() << ' ' << place.width() << " x " << place.height() << " on "
+                       << screen.width() << " x " << screen.height();
 }
 
 void expect_window_on_screen(const std::function<void()>& action) {
