@@ -72,12 +72,16 @@ else()
   target_compile_options(physics_options INTERFACE $<$<CONFIG:Debug>:-O1>)
 endif()
 
-add_library(qt_options INTERFACE)
-target_compile_definitions(qt_options INTERFACE
+# Of Qt without windows.
+add_library(qt_rules INTERFACE)
+target_compile_definitions(qt_rules INTERFACE
   QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
   QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+target_link_libraries(qt_rules INTERFACE project_options)
+
+add_library(qt_options INTERFACE)
 target_link_libraries(qt_options INTERFACE
-  project_options Qt6::Widgets Qt6::OpenGLWidgets Qt6::PrintSupport)
+  qt_rules Qt6::Widgets Qt6::OpenGLWidgets Qt6::PrintSupport)
 
 # Tests spend their time in the libraries that they test, not in their own code.
 add_library(test_options INTERFACE)

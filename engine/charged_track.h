@@ -25,9 +25,8 @@ enum class TrackEnd : bool {
 }
 
 /// Makes the helix of a particle in the field along z.
-/// \param particle its energy becomes sqrt(m^2 + p^2) and its z moves one step on: the first point
-/// of
-///                 the track lies one step from the start
+/// \param particle its energy becomes sqrt(m^2 + p^2) and its z moves one step on, since the track's
+///                 first point lies one step from the start
 /// \param path     all but `code` is written
 /// \param survival receives the probability of surviving one step
 /// \param field    kG, signed; a negative particle gets the field negated

@@ -16,8 +16,8 @@ inline constexpr std::int16_t event_point_limit = 350;
 
 /// One point of an event.
 struct PlotPoint {
-  std::array<double, 4>
-      coords{};           ///< x, y, z in drawing units, then the homogeneous coordinate 1.0
+  /// x, y, z in drawing units, then the homogeneous coordinate 1.0.
+  std::array<double, 4> coords{};
   double time = 0.0;      ///< key of the timed merge; the track engine never writes it
   std::int16_t code = 0;  ///< track code: the colour in which the point is drawn
 

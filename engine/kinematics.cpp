@@ -35,11 +35,4 @@ void to_the_lab(const Vector3& direction, Vector3& out, double along, double acr
          along * std::cos(theta) + across_2 * std::sin(theta)};
 }
 
-int get_quadrant(double angle) {
-  if (angle > 0.0) {
-    return angle > PI / 2 ? 2 : 1;
-  }
-  return angle < -PI / 2 ? 4 : 3;
-}
-
 }  // namespace velquon

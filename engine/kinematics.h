@@ -34,8 +34,4 @@ inline constexpr double PI = 3.141592653589793;
 void to_the_lab(const Vector3& direction, Vector3& out, double along, double across_1,
                 double across_2);
 
-/// Quadrant of an angle in radians, in this program's own numbering: 1 up to pi/2, 2 above it, 3
-/// from 0 down to -pi/2, 4 below it.
-[[nodiscard]] int get_quadrant(double angle);
-
 }  // namespace velquon

@@ -18,12 +18,4 @@ namespace velquon {
 void combine_paths(std::span<const PlotPoint> first, std::span<const PlotPoint> second,
                    std::span<PlotPoint> out, std::int16_t& count, std::int16_t limit);
 
-/// Merges two tracks by the time of their points; on equal times `second` leads at the start and
-/// the leading list afterwards. Arguments as for `combine_paths`.
-void combine_paths_timed(std::span<const PlotPoint> first, std::span<const PlotPoint> second,
-                         std::span<PlotPoint> out, std::int16_t& count, std::int16_t limit);
-
-/// 1 when the time of a is greater than that of b, else 0.
-[[nodiscard]] int compare_times(const PlotPoint& a, const PlotPoint& b);
-
 }  // namespace velquon

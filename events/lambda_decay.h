@@ -21,15 +21,16 @@ inline constexpr double lambda_charged_branching = 0.642;
 /// An angle in radians drawn with the weight 1 + 0.7 cos theta on a uniform theta in 0 to pi.
 ///
 /// The law for a polarised Lambda is 1 + alpha P cos theta on a uniform cos theta, alpha = 0.75
-/// (Particle Data Group, Review of Particle Physics). The uniform theta is a simplification:
+/// (Particle Data Group, Review of Particle Physics); 0.7 is that of a polarisation P of 0.93, which
+/// is this program's choice. The uniform theta is a simplification:
 /// without the factor sin theta of the solid angle, angles near 0 and pi are more frequent than in
 /// nature.
 [[nodiscard]] double get_proton_angle();
 
 /// Decays a Lambda to a proton and a negative pion.
 /// \param parent     mass, momentum and energy set
-/// \param the_proton receives momentum and energy in the chamber frame, like `the_pion`; positions
-/// stay
+/// \param the_proton receives momentum and energy in the chamber frame, like `the_pion`; both keep
+///                   their positions
 ///
 /// The weighted component of the decay momentum goes across the Lambda's flight, so that is where
 /// the asymmetry shows: a Lambda of strong production is polarised across its plane of production.

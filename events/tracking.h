@@ -16,11 +16,12 @@ namespace velquon {
 /// Half the side of the chamber, drawing units: the bound of the neutral walks.
 inline constexpr double half_chamber_side = CHAMBER_SIDE * 0.5;
 
-/// Length of a step of a charged track, drawing units.
+/// Length of a step of a charged track, drawing units: a fortieth of the chamber's side, this program's
+/// choice. A track across the chamber has some 40 points, which are seen one by one.
 inline constexpr double track_step = 20.0;
 
-/// The bound of the charged tracks for a half side: a hundredth beyond the wall, at 404 drawing
-/// units.
+/// The bound of the charged tracks for a half side: a hundredth beyond the wall, at 404 drawing units.
+/// This program's choice, by which a point on the wall still belongs to the track.
 [[nodiscard]] constexpr double track_limit(double half_side) {
   return half_side * 1.01;
 }

@@ -37,19 +37,6 @@ void put_number_big_endian(std::span<std::byte> bytes, std::size_t offset, Numbe
 
 }  // namespace
 
-void pc_to_mac_short(std::span<std::byte, 2> bytes) {
-  std::ranges::reverse(bytes);
-}
-void pc_to_mac_long(std::span<std::byte, 4> bytes) {
-  std::ranges::reverse(bytes);
-}
-void pc_to_mac_float(std::span<std::byte, 4> bytes) {
-  std::ranges::reverse(bytes);
-}
-void pc_to_mac_double(std::span<std::byte, 8> bytes) {
-  std::ranges::reverse(bytes);
-}
-
 std::int16_t big_endian_short(std::span<const std::byte> bytes, std::size_t offset) {
   return number_at<std::endian::big, std::int16_t>(bytes, offset);
 }

@@ -9,12 +9,6 @@
 
 namespace velquon {
 
-/// Unconditional byte reversals in place, whatever the byte order of the machine.
-void pc_to_mac_short(std::span<std::byte, 2> bytes);
-void pc_to_mac_long(std::span<std::byte, 4> bytes);
-void pc_to_mac_float(std::span<std::byte, 4> bytes);
-void pc_to_mac_double(std::span<std::byte, 8> bytes);
-
 /// Numbers at an offset of a file's bytes; the bytes must reach that far.
 [[nodiscard]] std::int16_t big_endian_short(std::span<const std::byte> bytes, std::size_t offset);
 [[nodiscard]] double big_endian_double(std::span<const std::byte> bytes, std::size_t offset);

@@ -1,11 +1,24 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "files/fixed_point_record.h"
+#include "files/legacy.h"
 
 #include <algorithm>
 
 namespace velquon {
+
+void pc_to_mac_short(std::span<std::byte, 2> bytes) {
+  std::ranges::reverse(bytes);
+}
+void pc_to_mac_long(std::span<std::byte, 4> bytes) {
+  std::ranges::reverse(bytes);
+}
+void pc_to_mac_float(std::span<std::byte, 4> bytes) {
+  std::ranges::reverse(bytes);
+}
+void pc_to_mac_double(std::span<std::byte, 8> bytes) {
+  std::ranges::reverse(bytes);
+}
 
 double Fix2X(std::int32_t fixed) {
   return fixed / 65536.0;

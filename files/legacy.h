@@ -1,15 +1,25 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+// Conversions that readers with types have made unnecessary, and of point records that no file holds;
+// nothing of the program calls them. Kept because others may know and call them.
+
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 
 #include "engine/event_record.h"
 
 namespace velquon {
+
+/// Unconditional byte reversals in place, whatever the byte order of the machine.
+void pc_to_mac_short(std::span<std::byte, 2> bytes);
+void pc_to_mac_long(std::span<std::byte, 4> bytes);
+void pc_to_mac_float(std::span<std::byte, 4> bytes);
+void pc_to_mac_double(std::span<std::byte, 8> bytes);
 
 /// An older point record, with coordinates as signed 16.16 fixed-point numbers.
 struct FixedPlotPoint {

@@ -25,8 +25,8 @@ inline constexpr float marked_cube_side = 11.0F;
 /// What is drawn beside the points.
 struct SceneOptions {
   bool axes = true;
-  std::string
-      values;  ///< line of the overlay, which stands still while the chamber turns; or empty
+  /// Line of the overlay, which stands still while the chamber turns; or empty.
+  std::string values;
   /// Points that are drawn larger and over the others: their indices, rising.
   std::span<const std::size_t> marked{};
   bool axis_letters = false;         ///< at the tips of the axes, where these are drawn

@@ -12,7 +12,7 @@
 
 namespace velquon {
 
-/// Whether a place can be written into a page: neither far beyond any paper nor no place at all.
+/// Whether a place can be written into a page: both coordinates finite and not far beyond any paper.
 [[nodiscard]] bool can_be_on_paper(QPointF place);
 
 /// Floats that a feedback buffer for n points starts with: room for the chamber's lines and for

@@ -20,6 +20,18 @@ constexpr TrackStart legacy_start{.y = 235.0, .time_interval = 0.25};
 
 }  // namespace
 
+void NewTrackView::setScreenSpeed(double microseconds) {
+  musecs_ = static_cast<std::int32_t>(microseconds);
+}
+
+std::int32_t NewTrackView::musecs() const {
+  return musecs_;
+}
+
+bool NewTrackView::pause() const {
+  return pause_;
+}
+
 void NewTrackView::sliderSet() {
   model_->takeField(Bset, Bset);
   if (is_tracking()) {

@@ -73,15 +73,15 @@ class NewTrackView : public GLView {
   /// \param clock microseconds, never stepping back
   void setClock(Clock clock) { clock_ = std::move(clock); }
 
-  // What was there before the step timer, and is kept beside it.
+  // What legacy.cpp has.
 
   /// \param microseconds the delay of a step, which nothing heeds any more
-  void setScreenSpeed(double microseconds) { musecs_ = static_cast<std::int32_t>(microseconds); }
-  [[nodiscard]] std::int32_t musecs() const { return musecs_; }
+  void setScreenSpeed(double microseconds);
+  [[nodiscard]] std::int32_t musecs() const;
   /// Sets the field to that of the old slider, 0, and makes a step at once when a run goes on.
   void sliderSet();
   void goAhead();
-  [[nodiscard]] bool pause() const { return pause_; }
+  [[nodiscard]] bool pause() const;
   /// Notes that a timer fired and stops it.
   static void TestTimer(QTimer* timer);
   /// Runs to the end without returning to the event loop.

@@ -107,19 +107,6 @@ TEST(DotProduct, IsSummedInTheOrderXYZ) {
   EXPECT_EQ(dot_product({1.0, 2.0, 3.0}, {4.0, -5.0, 6.0}), 12.0);
 }
 
-TEST(GetQuadrant, HasItsOwnNumbering) {
-  struct Case {
-    double angle;
-    int quadrant;
-  };
-  for (const Case& row :
-       {Case{0.0, 3}, Case{-0.0, 3}, Case{PI / 2, 1}, Case{-PI / 2, 3}, Case{3.0, 2}, Case{-3.0, 4},
-        Case{1e-300, 1}, Case{-1e-300, 3}, Case{std::nextafter(PI / 2, 4.0), 2},
-        Case{std::nextafter(-PI / 2, -4.0), 4}}) {
-    EXPECT_EQ(get_quadrant(row.angle), row.quadrant) << row.angle;
-  }
-}
-
 TEST(TotalEnergy, OfAParticleAtRestIsItsMass) {
   EXPECT_EQ(total_energy(105.7, 0.0), 105.7);
   EXPECT_EQ(total_energy(0.0, 3.0), 3.0);

@@ -5,41 +5,17 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
 #include <vector>
 
+#include "tests/engine/merged_lists.h"
 #include "tests/support/case_name.h"
-#include "tests/support/event_making.h"
 
 namespace velquon {
 namespace {
 
-using Codes = std::vector<std::int16_t>;
-using Merge = void (*)(std::span<const PlotPoint>, std::span<const PlotPoint>, std::span<PlotPoint>,
-                       std::int16_t&, std::int16_t);
-
-/// Points with these codes, so that a merged list can be read off; times as given, else 0.
-std::vector<PlotPoint> points(const Codes& codes, const std::vector<double>& times = {}) {
-  std::vector<PlotPoint> list(codes.size());
-  for (std::size_t i = 0; i < codes.size(); ++i) {
-    const auto x = static_cast<double>(codes[i]);
-    list[i] = {
-        .coords = {x, 2 * x, 3 * x, 1.0}, .time = times.empty() ? 0.0 : times[i], .code = codes[i]};
-  }
-  return list;
-}
-
-/// Codes of the merged list; a guard point behind the limit must stay untouched.
-Codes merged(Merge merge, const std::vector<PlotPoint>& first, const std::vector<PlotPoint>& second,
-             std::int16_t limit) {
-  constexpr std::int16_t guard = -99;
-  std::vector<PlotPoint> out(static_cast<std::size_t>(limit) + 1);
-  out.back().code = guard;
-  std::int16_t count = 1234;
-  merge(first, second, out, count, limit);
-  EXPECT_EQ(out.back().code, guard);
-  return test::codes_of(std::span(out).first(static_cast<std::size_t>(count)));
-}
+using test::Codes;
+using test::merged;
+using test::points;
 
 struct MergeCase {
   const char* name;
@@ -92,62 +68,6 @@ TEST(CombinePathsWhole, TwoTracksOf175PointsFillAnEventStrictlyAlternating) {
   for (std::size_t i = 0; i < all.size(); ++i) {
     EXPECT_EQ(all[i], i % 2 == 0 ? 3 : 4);
   }
-}
-
-struct TimedCase {
-  const char* name;
-  Codes first;
-  std::vector<double> first_times;
-  Codes second;
-  std::vector<double> second_times;
-  std::int16_t limit;
-  Codes expected;
-};
-
-class CombinePathsTimed : public ::testing::TestWithParam<TimedCase> {};
-
-TEST_P(CombinePathsTimed, MergesByTime) {
-  const TimedCase& row = GetParam();
-  EXPECT_EQ(merged(combine_paths_timed, points(row.first, row.first_times),
-                   points(row.second, row.second_times), row.limit),
-            row.expected);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Lists, CombinePathsTimed,
-    ::testing::Values(
-        TimedCase{"EarlierFirstLeads", {10, 11}, {1, 3}, {20, 21}, {2, 4}, 9, {10, 20, 11, 21}},
-        TimedCase{"EarlierSecondLeads", {10, 11}, {2, 4}, {20, 21}, {1, 3}, 9, {20, 10, 21, 11}},
-        TimedCase{"SecondLeadsOnEqualFirstTimes", {10}, {1}, {20}, {1}, 9, {20, 10}},
-        TimedCase{"LeadingListGoesFirstOnEqualTimes",
-                  {10, 11},
-                  {0, 2},
-                  {20, 21},
-                  {2, 3},
-                  9,
-                  {10, 11, 20, 21}},
-        TimedCase{"ManyOthersBetweenTwoLeadingPoints",
-                  {10, 11},
-                  {0, 9},
-                  {20, 21, 22},
-                  {1, 2, 8},
-                  9,
-                  {10, 20, 21, 22, 11}},
-        TimedCase{"RestOfTheOtherListFollows", {10}, {0}, {20, 21}, {1, 2}, 9, {10, 20, 21}},
-        TimedCase{"EmptyFirst", {}, {}, {20, 21}, {1, 2}, 9, {20, 21}},
-        TimedCase{"EmptySecond", {10, 11}, {1, 2}, {}, {}, 9, {10, 11}},
-        TimedCase{"BothEmpty", {}, {}, {}, {}, 9, {}},
-        TimedCase{"StopsAtTheLimit", {10, 11}, {1, 3}, {20, 21}, {2, 4}, 3, {10, 20, 11}}),
-    test::case_name<TimedCase>);
-
-TEST(CompareTimes, IsOneOnlyForTheLaterPoint) {
-  const PlotPoint early{.time = 1.0};
-  const PlotPoint late{.time = 2.0};
-  const PlotPoint also_early{.coords = {5.0}, .time = 1.0, .code = 4};
-  EXPECT_EQ(compare_times(late, early), 1);
-  EXPECT_EQ(compare_times(early, late), 0);
-  EXPECT_EQ(compare_times(early, also_early), 0);
-  EXPECT_EQ(compare_times(also_early, early), 0);
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <vector>
 
 #include "tests/files/hex_bytes.h"
@@ -15,37 +14,6 @@ namespace {
 
 using test::hex_bytes;
 using test::hex_text;
-
-template <std::size_t size>
-std::array<std::byte, size> counting_bytes() {
-  std::array<std::byte, size> bytes{};
-  for (std::size_t i = 0; i < size; ++i) {
-    bytes[i] = static_cast<std::byte>(i + 1);
-  }
-  return bytes;
-}
-
-template <std::size_t size>
-void expect_reversal(void (*swap)(std::span<std::byte, size>), const char* reversed) {
-  auto bytes = counting_bytes<size>();
-  swap(bytes);
-  EXPECT_EQ(hex_text(bytes), reversed);
-  swap(bytes);
-  EXPECT_EQ(bytes, counting_bytes<size>()) << "twice restores the input";
-}
-
-TEST(PcToMac, ShortSwapsItsTwoBytes) {
-  expect_reversal(pc_to_mac_short, "0201");
-}
-TEST(PcToMac, LongReversesFourBytes) {
-  expect_reversal(pc_to_mac_long, "04030201");
-}
-TEST(PcToMac, FloatReversesFourBytes) {
-  expect_reversal(pc_to_mac_float, "04030201");
-}
-TEST(PcToMac, DoubleReversesEightBytes) {
-  expect_reversal(pc_to_mac_double, "0807060504030201");
-}
 
 TEST(NumbersInFiles, BigEndianOnesHaveTheirHighByteFirst) {
   const auto bytes = hex_bytes("FF 0102 FFFE 8000 3FF8000000000000 C000000000000000");

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "files/fixed_point_record.h"
+#include "files/legacy.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +9,41 @@
 #include <limits>
 #include <vector>
 
+#include "tests/files/hex_bytes.h"
+
 namespace velquon {
 namespace {
+
+template <std::size_t size>
+std::array<std::byte, size> counting_bytes() {
+  std::array<std::byte, size> bytes{};
+  for (std::size_t i = 0; i < size; ++i) {
+    bytes[i] = static_cast<std::byte>(i + 1);
+  }
+  return bytes;
+}
+
+template <std::size_t size>
+void expect_reversal(void (*swap)(std::span<std::byte, size>), const char* reversed) {
+  auto bytes = counting_bytes<size>();
+  swap(bytes);
+  EXPECT_EQ(test::hex_text(bytes), reversed);
+  swap(bytes);
+  EXPECT_EQ(bytes, counting_bytes<size>()) << "twice restores the input";
+}
+
+TEST(PcToMac, ShortSwapsItsTwoBytes) {
+  expect_reversal(pc_to_mac_short, "0201");
+}
+TEST(PcToMac, LongReversesFourBytes) {
+  expect_reversal(pc_to_mac_long, "04030201");
+}
+TEST(PcToMac, FloatReversesFourBytes) {
+  expect_reversal(pc_to_mac_float, "04030201");
+}
+TEST(PcToMac, DoubleReversesEightBytes) {
+  expect_reversal(pc_to_mac_double, "0807060504030201");
+}
 
 TEST(Fix2X, DividesTheSigned32BitValueBy65536) {
   EXPECT_EQ(Fix2X(0x00018000), 1.5);

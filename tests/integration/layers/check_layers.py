@@ -7,9 +7,11 @@
 usage: check_layers.py BUILD_FOLDER SOURCE_FOLDER
 
 A folder reaches its own headers and those of the folders below it that ALLOWED names; an include of
-any other must find no file.
+any other must find no file. So must an include of Qt but in the folders that QT names; and no source
+includes OpenGL but in those of OPENGL.
 """
 import json
+import re
 import shlex
 import subprocess
 import sys
@@ -35,6 +37,16 @@ ALLOWED = {
     "guide": {"widgets"},
     "app": DRAWN | {"chamber", "projection", "track", "record", "guide"},
 }
+
+WINDOWS = {"widgets", "wording", "printing", "chamber", "projection", "track", "record", "guide", "app"}
+# Headers of Qt and the folders that find them.
+QT = {
+    "QString": WINDOWS | {"render"},
+    "QOpenGLContext": WINDOWS | {"render"},
+    "QWidget": WINDOWS,
+}
+# OpenGL's own headers lie where every compiler looks: these folders may include them.
+OPENGL = {"render", "widgets", "chamber", "projection", "track"}
 
 
 def without_precompiled_header(words):
@@ -78,6 +90,11 @@ def is_as_wanted(folder, header, wanted, commands, source_folder):
     return preprocesses(folder, source, commands, source_folder) == wanted
 
 
+def includers_of_opengl(folder):
+    return [source for source in sorted(folder.glob("*.[ch]*"))
+            if re.search(r"^#include <GL/", source.read_text(), re.MULTILINE)]
+
+
 def main():
     build, source_folder = Path(sys.argv[1]), Path(sys.argv[2]).resolve()
     commands = json.loads((build / "compile_commands.json").read_text())
@@ -88,6 +105,12 @@ def main():
             wanted = other == folder or other in below
             if not is_as_wanted(folder, f"{other}/{header.name}", wanted, commands, source_folder):
                 wrong.append(f"{folder}/ {'does not find' if wanted else 'finds'} {other}/")
+        for header, folders in QT.items():
+            wanted = folder in folders
+            if not is_as_wanted(folder, header, wanted, commands, source_folder):
+                wrong.append(f"{folder}/ {'does not find' if wanted else 'finds'} {header}")
+        if folder not in OPENGL:
+            wrong += [f"{source} includes OpenGL" for source in includers_of_opengl(source_folder / folder)]
     print("\n".join(wrong))
     return 1 if wrong else 0
 
