@@ -19,7 +19,6 @@
 #include "app/picture_commands.h"
 #include "app/picture_files.h"
 #include "app/presentations.h"
-#include "app/readable_style.h"
 #include "app/track_commands.h"
 #include "app/worksheet_commands.h"
 #include "chamber/chamber_view.h"
@@ -69,7 +68,6 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
       dialogs_(dialogs),
       presentations_(std::make_unique<Presentations>()),
       commands_(std::make_unique<Commands>()) {
-  make_style_readable();
   const Ui::Menus& items = menus_->items();
   chamber_window_->fillToolBar(
       {items.new_event_item, items.replay_item, items.rotate_item, items.reset_orientation_item},

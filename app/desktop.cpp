@@ -8,7 +8,9 @@
 #include <QLocale>
 #include <clocale>
 
+#include "app/readable_style.h"
 #include "widgets/accessible_controls.h"
+#include "widgets/png_image.h"
 #include "widgets/surface_format.h"
 
 namespace velquon {
@@ -24,9 +26,11 @@ void finish_desktop() {
   std::setlocale(LC_NUMERIC, "C");
   QLocale::setDefault(QLocale::c());
   install_accessible_controls();
+  make_style_readable();
   QIcon icon;
   for (const int size : {16, 32, 48}) {
-    icon.addFile(QStringLiteral(":/icons/velquon-%1.png").arg(size));
+    icon.addPixmap(
+        QPixmap::fromImage(png_image(QStringLiteral(":/icons/velquon-%1.png").arg(size))));
   }
   QApplication::setWindowIcon(icon);
   QGuiApplication::setDesktopFileName(QStringLiteral("velquon"));

@@ -9,7 +9,7 @@ namespace velquon {
 void prepare_desktop();
 
 /// Settles what the application object has changed or left open: the decimal point of numbers in C,
-/// the icon, and what screen readers see of the program's own controls.
+/// the icon, the style, and what screen readers see of the program's own controls.
 void finish_desktop();
 
 }  // namespace velquon

@@ -8,6 +8,7 @@
 #include <QProxyStyle>
 #include <QStyleOptionSlider>
 
+#include "app/extension_icon.h"
 #include "widgets/contrast.h"
 
 namespace velquon {
@@ -51,6 +52,19 @@ class ReadableStyle : public QProxyStyle {
     QStyleOptionSlider rest = *slider;
     rest.subControls.setFlag(SC_SliderTickmarks, false);
     QProxyStyle::drawComplexControl(control, &rest, painter, widget);
+  }
+
+  /// The styles' own for the ends of bars are images of dark lines.
+  [[nodiscard]] QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                   const QWidget* widget) const override {
+    switch (icon) {
+      case SP_ToolBarHorizontalExtensionButton:
+        return extension_icon(Qt::RightArrow);
+      case SP_ToolBarVerticalExtensionButton:
+        return extension_icon(Qt::DownArrow);
+      default:
+        return QProxyStyle::standardIcon(icon, option, widget);
+    }
   }
 
  private:

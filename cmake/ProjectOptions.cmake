@@ -83,6 +83,12 @@ add_library(qt_options INTERFACE)
 target_link_libraries(qt_options INTERFACE
   qt_rules Qt6::Widgets Qt6::OpenGLWidgets Qt6::PrintSupport)
 
+# Windows spend their time in Qt: small code is read sooner at the start and takes less memory, and is compiled
+# sooner. Drawing (render/) and physics are optimized for their speed.
+add_library(window_options INTERFACE)
+target_compile_options(window_options INTERFACE $<$<CONFIG:Release>:-Os>)
+target_link_libraries(window_options INTERFACE qt_options)
+
 # Tests spend their time in the libraries that they test, not in their own code.
 add_library(test_options INTERFACE)
 target_include_directories(test_options INTERFACE ${PROJECT_SOURCE_DIR})

@@ -3,11 +3,12 @@
 
 #include "widgets/cursors.h"
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QPixmap>
 #include <algorithm>
 #include <cmath>
+
+#include "widgets/png_image.h"
 
 namespace velquon {
 
@@ -20,10 +21,10 @@ constexpr int largest_image = 3;  // times the cursor's size
 QImage image_for(const QString& name, double ratio) {
   const int times = std::clamp(static_cast<int>(std::ceil(ratio)), 1, largest_image);
   const QString size = times == 1 ? QString() : QStringLiteral("@%1x").arg(times);
-  // Not opened by its name, to which Qt would add the ratio of its own choice.
-  QFile file(QStringLiteral(":/cursors/%1%2.png").arg(name, size));
-  file.open(QIODevice::ReadOnly);
-  return QImage::fromData(file.readAll());
+  QImage image = png_image(QStringLiteral(":/cursors/%1%2.png").arg(name, size));
+  // In pixels, whatever ratio Qt takes from the name.
+  image.setDevicePixelRatio(1.0);
+  return image;
 }
 
 }  // namespace

@@ -9,16 +9,26 @@
 #include <QPalette>
 
 #include "widgets/contrast.h"
+#include "widgets/png_image.h"
 
 namespace velquon {
 
 namespace {
 
+/// The icon of images for screens with one and with two pixels a unit.
+QIcon icon_of(const QString& path) {
+  QIcon icon;
+  for (const char* const ending : {".png", "@2x.png"}) {
+    icon.addPixmap(QPixmap::fromImage(png_image(path + QLatin1String(ending))));
+  }
+  return icon;
+}
+
 class PaletteIconEngine : public QIconEngine {
  public:
   explicit PaletteIconEngine(const QString& name)
-      : dark_(QStringLiteral(":/icons/%1.png").arg(name)),
-        light_(QStringLiteral(":/icons/light/%1.png").arg(name)) {}
+      : dark_(icon_of(QStringLiteral(":/icons/") + name)),
+        light_(icon_of(QStringLiteral(":/icons/light/") + name)) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
     lines().paint(painter, rect, Qt::AlignCenter, mode, state);

@@ -143,6 +143,16 @@ TEST_P(PaletteTest, IconsAreSeenOnTheirButtonsAtOnce) {
   }
 }
 
+TEST_P(PaletteTest, TheButtonOfABarThatIsTooShortIsSeen) {
+  chamberWindow().resize(300, chamberWindow().height());
+  auto& button = *control<QToolBar>("chamber_tool_bar")
+                      .findChild<QAbstractButton*>(QStringLiteral("qt_toolbar_ext_button"));
+  ASSERT_TRUE(wait_until([&] { return button.isVisible(); }));
+  const QImage seen = picture_on_screen(button);
+  EXPECT_GT(pixels_standing_out(seen, seen.rect(), QApplication::palette().color(QPalette::Window)),
+            15);
+}
+
 TEST_P(PaletteTest, AChosenButtonIsToldFromTheOthers) {
   for (const auto& [name, another] :
        {std::pair{"xz_button", "xy_button"}, std::pair{"zoom_2", "zoom_1"},

@@ -121,6 +121,18 @@ TEST_F(ProgramTest, AnOpenGLThatGivesNoContextIsToldAndEndsTheProgram) {
   expectEnd(1, told);
 }
 
+TEST_F(ProgramTest, TheStartLoadsNoneOfQtsPluginsForImages) {
+  start({largeEvent()});
+  activateWindow("Chamber");
+  QFile maps(QStringLiteral("/proc/%1/maps").arg(program_.processId()));
+  ASSERT_TRUE(maps.open(QIODevice::ReadOnly));
+  const QByteArray loaded = maps.readAll();
+  EXPECT_TRUE(loaded.contains("/plugins/platforms/"));
+  EXPECT_FALSE(loaded.contains("/plugins/imageformats/"));
+  const RealInput quit(QStringLiteral("key ctrl+q"));
+  expectEnd(0, "");
+}
+
 TEST_F(ProgramTest, QuitEndsTheProgramInTheMiddleOfAReplay) {
   start({largeEvent()});
   activateWindow("Chamber");
