@@ -30,8 +30,8 @@ inline std::vector<PlotPoint> points(const Codes& codes, const std::vector<doubl
 }
 
 /// Codes of the merged list; a guard point behind the limit must stay untouched.
-inline Codes merged(Merge merge, const std::vector<PlotPoint>& first, const std::vector<PlotPoint>& second,
-             std::int16_t limit) {
+inline Codes merged(Merge merge, const std::vector<PlotPoint>& first,
+                    const std::vector<PlotPoint>& second, std::int16_t limit) {
   constexpr std::int16_t guard = -99;
   std::vector<PlotPoint> out(static_cast<std::size_t>(limit) + 1);
   out.back().code = guard;
