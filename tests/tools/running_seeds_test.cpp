@@ -43,9 +43,14 @@ Words long_run(const TemporaryFolder& folder, const char* format, const char* se
           events,   "--jobs", "2",        "--format", format,    "--output", folder.path()};
 }
 
-// Long enough to be caught at work, short enough to wait for.
+// Long enough to be caught at work, short enough to wait for; the sanitizers take ten times as long.
+#if defined(SLOW_TOOL)
+constexpr const char* some_events = "6000";
+constexpr const char* some_event_files = "100";
+#else
 constexpr const char* some_events = "60000";
 constexpr const char* some_event_files = "500";
+#endif
 // More than a worker makes before a test is over.
 constexpr const char* endless_events = "100000000";
 
