@@ -169,7 +169,7 @@ void Application::recordReadings() {
   const std::vector<Reading> readings = projector_.readings();
   MeasurementsWindow& window = measurementsWindow();
   if (!window.isVisible()) {
-    // The keys stay with the window in which one measures.
+    // The window in which one measures stays active.
     window.setAttribute(Qt::WA_ShowWithoutActivating);
     window.show();
     window.setAttribute(Qt::WA_ShowWithoutActivating, false);
@@ -222,7 +222,7 @@ void Application::addTrackCommands() {
   add_track_commands(
       *commands_, items, track_model_,
       [this]() -> TrackController& { return trackWindow().controller(); },
-      [this]() -> NewTrackView& { return *trackWindow().panel().track_view(); });
+      [this] { return track_window_ ? track_window_->panel().track_view() : nullptr; });
   // After the track's own command, which may have hidden the last window.
   commands_->add({.item = items.activate_item, .run = [this] {
                     if (!GLPanel::anyOnScreen()) {

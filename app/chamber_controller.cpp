@@ -76,7 +76,6 @@ void ChamberController::makeNewEvent() {
   }
   settings().setNextChamberValues();
   model_.makeNewEvent();
-  titleWindows();
   projection_view_.restore();
   if (chamber_view_.reset_each()) {
     chamber_view_.resetOrientation();
@@ -105,7 +104,6 @@ void ChamberController::showNextEvent() {
 void ChamberController::showAgain(void (ChamberModel::*show)()) {
   chamber_view_.stopRotating();
   (model_.*show)();
-  titleWindows();
   projection_view_.restore();
   displayViews();
 }
@@ -124,13 +122,16 @@ QString ChamberController::shownName() const {
 
 void ChamberController::titleWindows() {
   const QString name = shownName();
+  if (name == titled_) {
+    return;
+  }
+  titled_ = name;
   set_title(chamber_window_, tr("Particle Chamber: %1"), QLatin1String("Particle Chamber: "), name);
   set_title(projector_window_, tr("Projector: %1"), QLatin1String("Projector: "), name);
 }
 
 void ChamberController::renameWindows(const QString& name) {
   model_.showName(name.toStdString());
-  titleWindows();
 }
 
 void ChamberController::reorderWindows() {
@@ -237,6 +238,7 @@ void ChamberController::connectWindows() {
 }
 
 void ChamberController::handOver() {
+  titleWindows();
   chamber_view_.show(model_.shown());
   projection_view_.show(model_.shown());
   projector_.show(model_.shown());

@@ -69,10 +69,8 @@ class ChamberController : public QObject {
 
   /// The name in the titles of both windows.
   [[nodiscard]] QString shownName() const;
-  /// Titles both windows after the shown event's name. One too long for a title of 256 bytes ends the
-  /// program.
-  void titleWindows();
-  /// Gives the shown event another name, and the windows their titles after it.
+  /// Gives the shown event another name; the windows have their titles after it. A name too long for a
+  /// title of 256 bytes ends the program.
   void renameWindows(const QString& name);
   /// Brings the window that the user wants in front there.
   void reorderWindows();
@@ -117,6 +115,7 @@ class ChamberController : public QObject {
   void connectWindows();
   void showAgain(void (ChamberModel::*show)());
   void handOver();
+  void titleWindows();
   void setPrintView(Printable* view);
   void keyWindowChanged();
 
@@ -129,6 +128,7 @@ class ChamberController : public QObject {
   UserDialogs& dialogs_;
   Printable* print_view_ = nullptr;
   std::unique_ptr<PrintChoices> print_choices_;
+  QString titled_;  ///< the name that the titles have
   Subscription changes_;
   Subscription changed_marks_;
 };

@@ -104,7 +104,6 @@ bool EventDocuments::readAndDisplayFile(const QString& path) {
     return false;
   }
   controller_.settings().showValues(model.next());
-  controller_.titleWindows();
   controller_.displayViews();
   controller_.reorderWindows();
   return true;

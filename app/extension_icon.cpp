@@ -7,6 +7,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
+#include <algorithm>
 #include <array>
 
 namespace velquon {
@@ -25,7 +26,7 @@ class ExtensionIconEngine : public QIconEngine {
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->translate(QRectF(rect).center());
-    painter->rotate(towards_ == Qt::DownArrow ? 90.0 : 0.0);
+    painter->rotate(degrees());
     const double side = std::min(rect.width(), rect.height());
     painter->scale(side, side);
     painter->setPen(QPen(color, line_width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
@@ -48,6 +49,18 @@ class ExtensionIconEngine : public QIconEngine {
   [[nodiscard]] QIconEngine* clone() const override { return new ExtensionIconEngine(*this); }
 
  private:
+  /// From the arrow to the right, clockwise.
+  [[nodiscard]] double degrees() const {
+    switch (towards_) {
+      case Qt::DownArrow:
+        return 90.0;
+      case Qt::LeftArrow:
+        return 180.0;
+      default:
+        return 0.0;
+    }
+  }
+
   Qt::ArrowType towards_;
 };
 

@@ -59,7 +59,7 @@ class ReadableStyle : public QProxyStyle {
                                    const QWidget* widget) const override {
     switch (icon) {
       case SP_ToolBarHorizontalExtensionButton:
-        return extension_icon(Qt::RightArrow);
+        return extension_icon(QGuiApplication::isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow);
       case SP_ToolBarVerticalExtensionButton:
         return extension_icon(Qt::DownArrow);
       default:

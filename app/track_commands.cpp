@@ -71,12 +71,19 @@ void enable_items(Commands& commands, const Ui::Menus& menus, const TrackModel& 
 
 void add_track_commands(Commands& commands, const Ui::Menus& menus, TrackModel& model,
                         const std::function<TrackController&()>& controller,
-                        const std::function<NewTrackView&()>& view) {
+                        const std::function<NewTrackView*()>& view) {
   commands.add({.item = menus.activate_item,
                 .run = [controller] { controller().setActivate(); },
                 .title = [&model] { return TrackController::activateTitle(model); }});
-  commands.add({.item = menus.inject_item, .run = [view] { view().injectParticle(); }});
-  commands.add({.item = menus.clear_screen_item, .run = [view] { view().clearScreen(); }});
+  const auto in_view = [view](void (NewTrackView::*operation)()) {
+    return [view, operation] {
+      if (NewTrackView* const shown = view()) {
+        (shown->*operation)();
+      }
+    };
+  };
+  commands.add({.item = menus.inject_item, .run = in_view(&NewTrackView::injectParticle)});
+  commands.add({.item = menus.clear_screen_item, .run = in_view(&NewTrackView::clearScreen)});
   commands.add(choices(menus, model, controller));
   commands.add(screen_speeds(menus, controller));
   enable_items(commands, menus, model);

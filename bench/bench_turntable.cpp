@@ -40,8 +40,8 @@ constexpr int counting_time = 3000;      // milliseconds
 void turn(benchmark::State& state, Application& application) {
   ChamberView& view = *application.chamberWindow().view();
   const Ui::Menus& items = application.menus().items();
-  application.model().show({.points = points_on_tracks(static_cast<int>(state.range()))}, "Tracks",
-                           {});
+  application.model().show(
+      {.points = points_on_tracks(static_cast<int>(state.range())), .values = {}}, "Tracks", {});
   items.rotate_faster_item->trigger();
   items.rotate_item->trigger();
   run_event_loop(settling_time);

@@ -84,7 +84,7 @@ target_link_libraries(qt_options INTERFACE
   qt_rules Qt6::Widgets Qt6::OpenGLWidgets Qt6::PrintSupport)
 
 # Windows spend their time in Qt: small code is read sooner at the start and takes less memory, and is compiled
-# sooner. Drawing (render/) and physics are optimized for their speed.
+# sooner. The physics and the chamber's scene (render/) are optimized for their speed.
 add_library(window_options INTERFACE)
 target_compile_options(window_options INTERFACE $<$<CONFIG:Release>:-Os>)
 target_link_libraries(window_options INTERFACE qt_options)

@@ -116,8 +116,10 @@ endfunction()
 # is_on_a_screen(<result> <suite>): whether tests of a suite are run by `add_screen_test`.
 function(is_on_a_screen result suite)
   get_property(filters GLOBAL PROPERTY screen_filters)
+  string(REPLACE ":" ";" filters "${filters}")
   set(${result} FALSE PARENT_SCOPE)
   foreach(filter IN LISTS filters)
+    # The name of the suite alone, as a regular expression.
     string(REGEX REPLACE "\\..*" "" pattern "${filter}")
     string(REGEX REPLACE "^.*/" "" pattern "${pattern}")
     string(REPLACE "*" ".*" pattern "${pattern}")

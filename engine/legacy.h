@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What other programs made of these events, and nothing here calls any more: a merge by the times of the
-// points, which no track writes now, and a numbering of angles. Kept because others may know and call them.
+// Operations that nothing of the program calls: a merge of tracks by the times of their points, which the
+// tracks here do not have, and a numbering of angles. Kept because others may know and call them.
 
 #pragma once
 
@@ -14,8 +14,7 @@
 namespace velquon {
 
 /// Merges two tracks by the time of their points; on equal times `second` leads at the start and
-/// the leading list afterwards. Arguments as for
-/// `combine_paths`.
+/// the leading list afterwards. Arguments as for `combine_paths`.
 void combine_paths_timed(std::span<const PlotPoint> first, std::span<const PlotPoint> second,
                          std::span<PlotPoint> out, std::int16_t& count, std::int16_t limit);
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Conversions that readers with types have made unnecessary, and of point records that no file holds;
-// nothing of the program calls them. Kept because others may know and call them.
+// Operations that nothing of the program calls: reversals of bytes, which the readers make while they read, and
+// the conversion of a point record that no file holds any more. Kept because others may know and call them.
 
 #pragma once
 

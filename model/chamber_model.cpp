@@ -95,21 +95,28 @@ void ChamberModel::show(const StoredEvent& event, const std::string& name,
   ShownEvent points_alone = *shown_;
   points_alone.tracks = tracks;
   showAnother(points_alone);
-  tell_negative_field();
+  if (tell_negative_field) {
+    tell_negative_field();
+  }
   next_ = values;
   changeShown(opened);
 }
 
 void ChamberModel::showPreviousEvent() {
   if (hasPreviousEvent()) {
-    take(history_.previous());
+    showAgain(history_.previous());
   }
 }
 
 void ChamberModel::showNextEvent() {
   if (hasNextEvent()) {
-    take(history_.next());
+    showAgain(history_.next());
   }
+}
+
+void ChamberModel::showAgain(std::shared_ptr<const ShownEvent> event) {
+  forgetWhatWasSeen();
+  take(std::move(event));
 }
 
 void ChamberModel::makeTracks(const EventType& type) {
@@ -164,10 +171,14 @@ void ChamberModel::changeShown(const ShownEvent& event) {
   take(std::move(shown));
 }
 
+void ChamberModel::forgetWhatWasSeen() {
+  marked_.clear();
+  revealed_ = false;
+}
+
 void ChamberModel::take(std::shared_ptr<const ShownEvent> event) {
   if (event->tracks != shown_->tracks) {
-    marked_.clear();
-    revealed_ = false;
+    forgetWhatWasSeen();
   }
   shown_ = std::move(event);
   changed.tell();

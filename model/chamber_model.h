@@ -91,7 +91,7 @@ class ChamberModel {
   /// Shows an event that was read from a file. Its values, as the controls hold them, are the next
   /// ones, too.
   /// \param tell_negative_field called for a file that held a negative field, when the event's points
-  ///                            are shown, and its values and its name not yet
+  ///                            are shown, and its values and its name not yet; or null
   void show(const StoredEvent& event, const std::string& name,
             const std::function<void()>& tell_negative_field);
 
@@ -120,7 +120,10 @@ class ChamberModel {
  private:
   void showAnother(const ShownEvent& event);
   void changeShown(const ShownEvent& event);
+  void showAgain(std::shared_ptr<const ShownEvent> event);
   void take(std::shared_ptr<const ShownEvent> event);
+  /// Takes away the marks, and that the answers were asked for.
+  void forgetWhatWasSeen();
 
   std::uint32_t seed_;
   int event_type_ = 0;

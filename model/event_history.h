@@ -20,7 +20,7 @@ class EventHistory {
 
   /// From now on this event is shown, which comes last.
   void add(std::shared_ptr<const ShownEvent> event);
-  /// Puts an event in the place of the one that is shown. Nothing before the first.
+  /// Puts an event in the place of the one that is shown. Does nothing before the first event.
   void replace(std::shared_ptr<const ShownEvent> event);
 
   [[nodiscard]] bool hasPrevious() const { return position_ > 0; }

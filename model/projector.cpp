@@ -32,11 +32,13 @@ void Projector::show(std::shared_ptr<const ShownEvent> event) {
     curve_.points.clear();
     angle_.points.clear();
   }
-  if (has_other_tracks || has_other_field) {
-    changed.tell();
+  const double scaler = projection_scaler(event_->values);
+  const bool has_other_scale = scaler != scaler_;
+  if (has_other_scale) {
+    takeScaler(scaler);
   }
-  if (const double scaler = projection_scaler(event_->values); scaler != scaler_) {
-    setScaler(scaler);
+  if (has_other_tracks || has_other_field || has_other_scale) {
+    changed.tell();
   }
 }
 
@@ -60,11 +62,15 @@ void Projector::setTool(ProjectorTool tool) {
 }
 
 void Projector::setScaler(double scaler) {
+  takeScaler(scaler);
+  changed.tell();
+}
+
+void Projector::takeScaler(double scaler) {
   scaler_ = scaler;
   if (tape_.visible) {
     reading_ = tapeLength();
   }
-  changed.tell();
 }
 
 void Projector::resetOffsets() {

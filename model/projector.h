@@ -102,6 +102,7 @@ class Projector {
   [[nodiscard]] ProjectionMapping mappingAt(double height) const;
 
  private:
+  void takeScaler(double scaler);
   void hideTape();
   void clearTools();
   void stretchTape(Place place);

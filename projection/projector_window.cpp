@@ -4,11 +4,12 @@
 #include "projection/projector_window.h"
 
 #include <QShortcut>
+#include <QSignalBlocker>
 #include <algorithm>
-#include <array>
 #include <initializer_list>
 #include <memory>
 #include <utility>
+#include <vector>
 
 #include "projection/projection_view.h"
 #include "projection/readings_text.h"
@@ -43,12 +44,45 @@ void on_chosen(QAbstractButton* button, Choose choose) {
   });
 }
 
+/// The buttons of a group, and what each chooses.
+template <typename Value>
+using Choices = std::vector<std::pair<QAbstractButton*, Value>>;
+
+Choices<ProjectionPlane> plane_choices(const Ui::ProjectorWindow& ui) {
+  return {{ui.xy_button, ProjectionPlane::xy},
+          {ui.xz_button, ProjectionPlane::xz},
+          {ui.yz_button, ProjectionPlane::yz}};
+}
+
+/// By rising zoom.
+Choices<float> zoom_choices(const Ui::ProjectorWindow& ui) {
+  return {{ui.zoom_1, 1.0F}, {ui.zoom_2, 2.0F}, {ui.zoom_3, 3.0F}};
+}
+
+Choices<ProjectorTool> tool_choices(const Ui::ProjectorWindow& ui) {
+  return {{ui.tape_tool, ProjectorTool::tape},
+          {ui.grab_tool, ProjectorTool::grab},
+          {ui.curve_tool, ProjectorTool::curve},
+          {ui.angle_tool, ProjectorTool::angle}};
+}
+
 /// Makes each button of a group choose its value by an operation of the view.
 template <typename Value>
 void connect_choices(ProjectionView* view, void (ProjectionView::*choose)(Value),
-                     std::initializer_list<std::pair<QAbstractButton*, Value>> buttons) {
-  for (const auto& [button, value] : buttons) {
+                     const Choices<Value>& choices) {
+  for (const auto& [button, value] : choices) {
     on_chosen(button, [=, value = value] { (view->*choose)(value); });
+  }
+}
+
+/// Checks the button of the present value, whoever has chosen that.
+template <typename Value>
+void show_choice(const Choices<Value>& choices, Value present) {
+  for (const auto& [button, value] : choices) {
+    if (value == present && !button->isChecked()) {
+      const QSignalBlocker chosen_elsewhere(button);
+      button->setChecked(true);
+    }
   }
 }
 
@@ -80,7 +114,11 @@ ProjectorWindow::ProjectorWindow(Projector& projector)
   makeRoomForStatus(long_status());
   connectButtons();
   connectKeys();
-  changes_ = projector_.changed.add([this] { showReading(); });
+  changes_ = projector_.changed.add([this] {
+    showChoices();
+    showReading();
+  });
+  showChoices();
   showReading();
   setContent(takeCentralWidget());
 }
@@ -98,17 +136,9 @@ QString ProjectorWindow::shownReadings() const {
 }
 
 void ProjectorWindow::connectButtons() {
-  connect_choices(view_, &ProjectionView::setProjection,
-                  {{ui_->xy_button, ProjectionPlane::xy},
-                   {ui_->xz_button, ProjectionPlane::xz},
-                   {ui_->yz_button, ProjectionPlane::yz}});
-  connect_choices(view_, &ProjectionView::setZoom,
-                  {{ui_->zoom_1, 1.0F}, {ui_->zoom_2, 2.0F}, {ui_->zoom_3, 3.0F}});
-  connect_choices(view_, &ProjectionView::setTool,
-                  {{ui_->tape_tool, ProjectorTool::tape},
-                   {ui_->grab_tool, ProjectorTool::grab},
-                   {ui_->curve_tool, ProjectorTool::curve},
-                   {ui_->angle_tool, ProjectorTool::angle}});
+  connect_choices(view_, &ProjectionView::setProjection, plane_choices(*ui_));
+  connect_choices(view_, &ProjectionView::setZoom, zoom_choices(*ui_));
+  connect_choices(view_, &ProjectionView::setTool, tool_choices(*ui_));
   connect(ui_->snap_button, &QAbstractButton::toggled, this,
           [this](bool on) { projector_.setSnaps(on); });
   connect(view_, &ProjectionView::zoomTurned, this, &ProjectorWindow::zoomBy);
@@ -116,14 +146,21 @@ void ProjectorWindow::connectButtons() {
 }
 
 void ProjectorWindow::zoomBy(ZoomTurn turn) {
-  const std::array zooms{ui_->zoom_1, ui_->zoom_2, ui_->zoom_3};
+  const auto choices = zoom_choices(*ui_);
   const auto present =
-      std::distance(zooms.begin(), std::ranges::find_if(zooms, &QAbstractButton::isChecked));
+      std::ranges::find(choices, projector_.zoom(), &Choices<float>::value_type::second) -
+      choices.begin();
   const auto next = static_cast<std::size_t>(turn == ZoomTurn::in ? present + 1 : present - 1);
   // Beyond either end nothing is chosen again, which would take the tape away.
-  if (next < zooms.size()) {
-    zooms.at(next)->click();
+  if (next < choices.size()) {
+    choices.at(next).first->click();
   }
+}
+
+void ProjectorWindow::showChoices() {
+  show_choice(plane_choices(*ui_), projector_.plane());
+  show_choice(zoom_choices(*ui_), projector_.zoom());
+  show_choice(tool_choices(*ui_), projector_.tool());
 }
 
 void ProjectorWindow::connectKeys() {

@@ -52,6 +52,7 @@ class ProjectorWindow : public GLPanel {
   void connectButtons();
   void connectKeys();
   void zoomBy(ZoomTurn turn);
+  void showChoices();
   void showReading();
   void describePicture();
 

@@ -21,7 +21,7 @@ namespace velquon {
 
 namespace {
 
-constexpr const char* had_keys = "had_keys";
+constexpr const char* had_focus = "had_focus";
 
 // What the choices are of, in the order of the items of their controls.
 constexpr std::array particles{TrackParticle::e_minus, TrackParticle::e_plus};
@@ -30,18 +30,18 @@ constexpr std::array speeds{1, 2, 3};
 
 /// Enables a control or disables it. While it is disabled another control gets the focus instead of
 /// the next one, which does something else; they come back with it.
-void enable(QWidget* control, bool enabled, QWidget* keys_meanwhile) {
-  const auto has_keys = [](const QWidget* widget) {
+void enable(QWidget* control, bool enabled, QWidget* focused_meanwhile) {
+  const auto has_focus = [](const QWidget* widget) {
     return widget->window()->focusWidget() == widget;
   };
-  if (!enabled && has_keys(control)) {
-    keys_meanwhile->setFocus();
-    control->setProperty(had_keys, true);
+  if (!enabled && has_focus(control)) {
+    focused_meanwhile->setFocus();
+    control->setProperty(had_focus, true);
   }
   control->setEnabled(enabled);
-  if (enabled && control->property(had_keys).toBool()) {
-    control->setProperty(had_keys, false);
-    if (has_keys(keys_meanwhile)) {
+  if (enabled && control->property(had_focus).toBool()) {
+    control->setProperty(had_focus, false);
+    if (has_focus(focused_meanwhile)) {
       control->setFocus();
     }
   }

@@ -114,6 +114,10 @@ void GLPanel::dropEvent(QDropEvent* event) {
   }
 }
 
+bool GLPanel::takesFiles() const {
+  return QApplication::activeModalWidget() == nullptr && (!may_take_files_ || may_take_files_());
+}
+
 QString GLPanel::fileToTake(const QDropEvent& event) const {
   return takesFiles() ? dragged_file(*event.mimeData()) : QString();
 }

@@ -39,8 +39,8 @@ class GLPanel : public QMainWindow {
 
   /// \param may_take asked whether files may be dropped on the window now; without it they always may
   void takeFilesWhile(std::function<bool()> may_take) { may_take_files_ = std::move(may_take); }
-  /// Whether files may be dropped on the window now.
-  [[nodiscard]] bool takesFiles() const { return !may_take_files_ || may_take_files_(); }
+  /// Whether files may be dropped on the window now; not while a modal dialog is shown.
+  [[nodiscard]] bool takesFiles() const;
 
   /// Wide enough for the menu bar, which Qt leaves out.
   [[nodiscard]] QSize sizeHint() const override;

@@ -27,8 +27,8 @@ QIcon icon_of(const QString& path) {
 class PaletteIconEngine : public QIconEngine {
  public:
   explicit PaletteIconEngine(const QString& name)
-      : dark_(icon_of(QStringLiteral(":/icons/") + name)),
-        light_(icon_of(QStringLiteral(":/icons/light/") + name)) {}
+      : dark_{.path = QStringLiteral(":/icons/") + name, .icon = {}},
+        light_{.path = QStringLiteral(":/icons/light/") + name, .icon = {}} {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
     lines().paint(painter, rect, Qt::AlignCenter, mode, state);
@@ -38,24 +38,34 @@ class PaletteIconEngine : public QIconEngine {
     return lines().pixmap(size, size_is_in_pixels, mode, state);
   }
   QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    return dark_.actualSize(size, mode, state);
+    return lines().actualSize(size, mode, state);
   }
   QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) override {
-    return dark_.availableSizes(mode, state);
+    return lines().availableSizes(mode, state);
   }
   [[nodiscard]] QIconEngine* clone() const override { return new PaletteIconEngine(*this); }
 
  private:
+  /// An icon that is read when it is first drawn.
+  struct Lines {
+    QString path;
+    QIcon icon;
+  };
+
   PaletteIconEngine(const PaletteIconEngine&) = default;
 
   /// The icon whose lines can be seen on the buttons of now.
-  [[nodiscard]] const QIcon& lines() const {
+  [[nodiscard]] const QIcon& lines() {
     const QColor button = QGuiApplication::palette().color(QPalette::Button);
-    return contrast(Qt::black, button) >= contrast(Qt::white, button) ? dark_ : light_;
+    Lines& seen = contrast(Qt::black, button) >= contrast(Qt::white, button) ? dark_ : light_;
+    if (seen.icon.isNull()) {
+      seen.icon = icon_of(seen.path);
+    }
+    return seen.icon;
   }
 
-  QIcon dark_;
-  QIcon light_;
+  Lines dark_;
+  Lines light_;
 };
 
 }  // namespace

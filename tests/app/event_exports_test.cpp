@@ -17,9 +17,9 @@
 #include <memory>
 
 #include "app/desktop_dialogs.h"
-#include "tests/record/record_window_fixture.h"
 #include "tests/support/documents/event_bytes.h"
 #include "tests/support/documents/modal.h"
+#include "tests/support/documents/record_window_fixture.h"
 #include "tests/support/file_size_limit.h"
 
 namespace velquon::test {

@@ -95,6 +95,19 @@ TEST(EventHistoryTest, MarksAndRevealedAnswersGoWithTheEvent) {
   EXPECT_FALSE(model.answersShown());
 }
 
+TEST(EventHistoryTest, MarksGoEvenWhenTheOtherEventHasTheSameTracks) {
+  ChamberModel model(5);
+  make_events(model, 1);
+  const auto tracks = model.shown()->tracks;
+  // There are no more than six: nothing is made, and the tracks stay.
+  model.setEventType(6);
+  model.makeNewEvent();
+  ASSERT_EQ(model.shown()->tracks, tracks);
+  model.mark({0});
+  model.showPreviousEvent();
+  EXPECT_TRUE(model.marked().empty());
+}
+
 TEST(EventHistoryTest, TheNextValuesStay) {
   ChamberModel model(5);
   model.setNext({.B_field = 1.0F, .sides_cm = 400.0F, .kinetic_Mev = 3.0F});

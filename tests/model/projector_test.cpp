@@ -88,7 +88,14 @@ TEST(ProjectorTest, AnEventInAChamberOfAnotherSizeHasTheTapeReadAnew) {
   lay_tape(projector, {100.0, 100.0}, {200.0, 100.0});
   auto event = std::make_shared<ShownEvent>();
   event->values.sides_cm = 200.0F;
+  event->values.B_field = 3.0F;
+  int told = 0;
+  const Subscription changes = projector.changed.add([&] {
+    ++told;
+    EXPECT_EQ(projector.reading(), 50.0);
+  });
   projector.show(event);
+  EXPECT_EQ(told, 1);
   EXPECT_EQ(projector.scaler(), 0.5);
   EXPECT_EQ(projector.reading(), 50.0);
 }

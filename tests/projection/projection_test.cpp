@@ -240,6 +240,19 @@ TEST_F(ProjectionTest, ButtonsWorkByKeys) {
   EXPECT_EQ(projection().mapping().zoom, 3.0);
 }
 
+TEST_F(ProjectionTest, TheButtonsShowWhatIsChosenElsewhere) {
+  projection().setProjection(ProjectionPlane::yz);
+  projection().setZoom(2.0F);
+  projection().setTool(ProjectorTool::angle);
+  for (const char* const name : {"yz_button", "zoom_2", "angle_tool"}) {
+    EXPECT_TRUE(control<QAbstractButton>(name).isChecked()) << name;
+  }
+  for (const char* const name : {"xy_button", "zoom_1", "tape_tool"}) {
+    EXPECT_FALSE(control<QAbstractButton>(name).isChecked()) << name;
+  }
+  EXPECT_EQ(projection().projection_plane(), ProjectionPlane::yz);
+}
+
 TEST_F(ProjectionTest, AChoiceDrawsOnce) {
   for (const char* const name : {"yz_button", "yz_button", "zoom_2", "zoom_2", "grab_tool"}) {
     const int passes = projection().passes();

@@ -9,7 +9,7 @@
 #include <QPainter>
 #include <QTest>
 
-#include "tests/record/record_window_fixture.h"
+#include "tests/support/documents/record_window_fixture.h"
 #include "tests/support/windows/matrices.h"
 #include "tests/support/windows/pictures.h"
 #include "tests/support/windows/screen_view.h"

@@ -16,8 +16,8 @@
 #include <cstdlib>
 
 #include "events/event_types.h"
-#include "tests/record/record_window_fixture.h"
 #include "tests/support/documents/event_bytes.h"
+#include "tests/support/documents/record_window_fixture.h"
 #include "tests/support/windows/waiting.h"
 
 namespace velquon::test {

@@ -45,7 +45,7 @@ TrackRig::TrackRig()
   controller = std::make_unique<TrackController>(model, *view, *slider, *window);
   add_track_commands(
       commands, menus, model, [this]() -> TrackController& { return *controller; },
-      [this]() -> NewTrackView& { return *view; });
+      [this] { return view; });
   QObject::connect(window, &GLPanel::becameKey, controller.get(),
                    &TrackController::windowDidBecomeKey);
   QObject::connect(window, &GLPanel::resignedKey, controller.get(),

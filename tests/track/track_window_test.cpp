@@ -62,6 +62,8 @@ TEST_F(TrackWindowTest, IsMadeWhenItIsFirstWanted) {
     });
   };
   EXPECT_EQ(made(), 0);
+  choose("clear_screen_item");
+  EXPECT_EQ(made(), 0) << "there is nothing to clear";
   activateTrack();
   EXPECT_EQ(made(), 1);
 }

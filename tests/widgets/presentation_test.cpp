@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include "chamber/chamber_settings.h"
+#include "files/event_file.h"
 #include "record/record_window.h"
 #include "tests/support/windows/input.h"
 #include "tests/support/windows/matrices.h"
@@ -268,6 +269,15 @@ TEST_F(PresentationTest, ShortcutsGoOnWorkingAndF11EndsIt) {
   EXPECT_TRUE(legend->accessibleName().contains(QStringLiteral("π⁻")));
   QTest::keyClick(&chamberWindow(), Qt::Key_F11);
   waitUntilOver(chamberWindow(), chamber(), usual);
+}
+
+TEST_F(PresentationTest, TheTitleIsThatOfTheEventThatIsShown) {
+  present(chamberWindow(), chamber());
+  const auto title = [this] { return told(chamberWindow(), "presentation_title"); };
+  application().model().open(encode_event(std::array{point_}, ChamberValues{}), "opened.cwd", {});
+  EXPECT_TRUE(title().contains(QStringLiteral("opened.cwd"))) << title().toStdString();
+  controller().renameWindows(QStringLiteral("saved.cwd"));
+  EXPECT_TRUE(title().contains(QStringLiteral("saved.cwd"))) << title().toStdString();
 }
 
 TEST_F(PresentationTest, SpaceStopsTheTurntableAndEscapeLeavesItTurning) {

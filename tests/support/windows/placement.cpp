@@ -50,7 +50,8 @@ void expect_on_screen(const QWidget& window) {
     return is_on_screen(place);
   });
   const QRect screen = available_screen();
-  EXPECT_TRUE(is_seen) << window.windowTitle().toStdString() << ": " << place.x() << ' '
+  EXPECT_TRUE(is_seen) << window.windowTitle().toStdString()
+                       << (place.isEmpty() ? ", without a frame" : "") << ": " << place.x() << ' '
                        << place.y() << ' ' << place.width() << " x " << place.height() << " on "
                        << screen.width() << " x " << screen.height();
 }

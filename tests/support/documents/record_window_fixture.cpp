@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "tests/record/record_window_fixture.h"
+#include "tests/support/documents/record_window_fixture.h"
 
 #include <QTest>
 #include <QTreeWidgetItemIterator>
