@@ -17,8 +17,8 @@ namespace velquon {
 namespace {
 
 /// A window of the same size in view units, as far as its screen has room, has other pixels.
-void keep_size(QWidget& window) {
-  const QSize size = window.size().boundedTo(room_on_screen(window));
+void keep_size(QWidget& window, const QSize& wanted) {
+  const QSize size = wanted.boundedTo(room_on_screen(window));
   // Qt takes a size for new only when it differs in view units, and what it paints into as well.
   window.resize(size + QSize(1, 1));
   window.repaint();
@@ -50,6 +50,11 @@ bool ScreenRatio::eventFilter(QObject* watched, QEvent* event) {
     if (widget != nullptr && is_window_or_dialog(*widget) && widget->windowHandle() != nullptr) {
       watch(widget);
     }
+  } else if (event->type() == QEvent::Hide && !event->spontaneous()) {
+    auto* const widget = qobject_cast<QWidget*>(watched);
+    if (widget != nullptr && widget->isWindow()) {
+      noteHidden(*widget);
+    }
   }
   return QObject::eventFilter(watched, event);
 }
@@ -57,21 +62,21 @@ bool ScreenRatio::eventFilter(QObject* watched, QEvent* event) {
 void ScreenRatio::watch(QScreen* screen) {
   // With another ratio a screen is of another size in view units.
   connect(screen, &QScreen::geometryChanged, this, [this] {
-    for (auto known = ratios_.keyBegin(); known != ratios_.keyEnd(); ++known) {
+    for (auto known = windows_.keyBegin(); known != windows_.keyEnd(); ++known) {
       followSoon(*known);
     }
   });
 }
 
 void ScreenRatio::watch(QWidget* window) {
-  if (ratios_.contains(window)) {
+  if (windows_.contains(window)) {
     followSoon(window);
     return;
   }
-  ratios_.insert(window, window->devicePixelRatioF());
+  windows_.insert(window, {.ratio = window->devicePixelRatioF()});
   connect(window->windowHandle(), &QWindow::screenChanged, this,
           [this, window] { followSoon(window); });
-  connect(window, &QObject::destroyed, this, [this, window] { ratios_.remove(window); });
+  connect(window, &QObject::destroyed, this, [this, window] { windows_.remove(window); });
 }
 
 void ScreenRatio::followSoon(QWidget* window) {
@@ -88,15 +93,24 @@ void ScreenRatio::followSoon(QWidget* window) {
 }
 
 void ScreenRatio::follow(QWidget& window) {
+  const Seen before = windows_.value(&window);
   const double ratio = window.devicePixelRatioF();
-  if (ratio == ratios_.value(&window)) {
+  windows_.insert(&window, {.ratio = ratio});
+  if (ratio == before.ratio) {
     return;
   }
-  ratios_.insert(&window, ratio);
   if (window.isMaximized()) {
     fill_screen_anew(window);
   } else if (!window.isFullScreen()) {
-    keep_size(window);
+    // A window that was hidden comes up with the pixels that it had, and X may have told that already.
+    keep_size(window, before.hidden_at.isValid() ? before.hidden_at : window.size());
+  }
+}
+
+void ScreenRatio::noteHidden(QWidget& window) {
+  const auto known = windows_.find(&window);
+  if (known != windows_.end()) {
+    known->hidden_at = window.size();
   }
 }
 

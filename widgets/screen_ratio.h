@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QSize>
 
 class QScreen;
 class QWidget;
@@ -26,8 +27,15 @@ class ScreenRatio : public QObject {
   void watch(QWidget* window);
   void followSoon(QWidget* window);
   void follow(QWidget& window);
+  void noteHidden(QWidget& window);
 
-  QHash<QWidget*, double> ratios_;  ///< of the windows that have been shown
+  /// How a window was seen last.
+  struct Seen {
+    double ratio = 1.0;
+    QSize hidden_at{};  ///< its size when it was hidden, view units; invalid while it is not
+  };
+
+  QHash<QWidget*, Seen> windows_;  ///< those that have been shown
 };
 
 }  // namespace velquon

@@ -102,4 +102,17 @@ TEST_F(ChangedRatioTest, AWindowThatWasHiddenMeanwhileComesUpAtItsSize) {
   EXPECT_EQ(application().trackWindow().size(), before);
 }
 
+TEST_F(ChangedRatioTest, AHiddenWindowComesUpAtItsSizeThoughItsOldPixelsAreToldFirst) {
+  ASSERT_NO_FATAL_FAILURE(showTrackWindow());
+  QWidget& window = application().trackWindow();
+  const QSize before = window.size();
+  choose("activate_item");
+  changeRatio(2.0);
+  window.show();
+  // What Qt makes of X's telling that the window has the pixels that it had.
+  window.resize(before / 2);
+  EXPECT_TRUE(
+      wait_until([&] { return window.size() == before && pixelsOf(window) == before * 2; }));
+}
+
 }  // namespace velquon::test
