@@ -10,7 +10,7 @@
 
 #include "app/chamber_commands.h"
 #include "app/chamber_controller.h"
-#include "app/commands.h"
+#include "app/chamber_tool_bar.h"
 #include "app/event_documents.h"
 #include "app/event_exports.h"
 #include "app/event_telling.h"
@@ -21,6 +21,7 @@
 #include "app/presentations.h"
 #include "app/track_commands.h"
 #include "app/worksheet_commands.h"
+#include "chamber/chamber_settings.h"
 #include "chamber/chamber_view.h"
 #include "chamber/chamber_window.h"
 #include "model/measurement_of_event.h"
@@ -34,6 +35,7 @@
 #include "track/track_panel.h"
 #include "track/track_window.h"
 #include "ui_menus.h"
+#include "widgets/commands.h"
 #include "widgets/screen_ratio.h"
 #include "widgets/screen_room.h"
 #include "wording/legend_text.h"
@@ -69,9 +71,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
       presentations_(std::make_unique<Presentations>()),
       commands_(std::make_unique<Commands>()) {
   const Ui::Menus& items = menus_->items();
-  chamber_window_->fillToolBar(
-      {items.new_event_item, items.replay_item, items.rotate_item, items.reset_orientation_item},
-      items.chosen_event_item, items.event_menu);
+  fill_chamber_tool_bar(*chamber_window_->toolBar(), items);
   join(*chamber_window_);
   join(*projector_window_);
   connect(projector_window_.get(), &ProjectorWindow::recordAsked, this,
@@ -83,6 +83,7 @@ Application::Application(std::optional<std::uint32_t> seed, UserDialogs& dialogs
   addTrackCommands();
   addWindowCommands();
   help_->addTo(*commands_);
+  connect(commands_.get(), &Commands::aboutToRun, this, &Application::finishTyping);
   controller_->awakeFromNib();
   numbering_ = std::make_unique<EventNumbering>(model_);
   telling_ =
@@ -192,7 +193,7 @@ bool Application::eventFilter(QObject* watched, QEvent* event) {
       return window != watched && qobject_cast<const GLPanel*>(window) != nullptr &&
              window->isVisible();
     });
-    if (is_last && !measurement_files_->mayDiscard()) {
+    if (is_last && !mayEnd()) {
       event->ignore();
       return true;
     }
@@ -200,8 +201,20 @@ bool Application::eventFilter(QObject* watched, QEvent* event) {
   return QObject::eventFilter(watched, event);
 }
 
+void Application::finishTyping() {
+  chamber_window_->settings().finishTyping();
+  if (measurements_window_) {
+    measurements_window_->finishEdit();
+  }
+}
+
+bool Application::mayEnd() {
+  finishTyping();
+  return measurement_files_->mayDiscard();
+}
+
 void Application::quit() {
-  if (measurement_files_->mayDiscard()) {
+  if (mayEnd()) {
     // Not QCoreApplication::quit: that would first ask the windows to close, and they only hide.
     QCoreApplication::exit();
   }

@@ -81,7 +81,11 @@ class Application : public QObject {
   void addFileCommands();
   void addWindowCommands();
   void addPresentation();
-  /// Ends the program, unless the user wants to keep measurements that are not saved.
+  /// Takes what is being typed into the windows.
+  void finishTyping();
+  /// Whether the program may end; asks about measurements that are not saved.
+  [[nodiscard]] bool mayEnd();
+  /// Ends the program if it may.
   void quit();
 
   ChamberModel model_;

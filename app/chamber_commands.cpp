@@ -6,9 +6,9 @@
 #include <QMenu>
 
 #include "app/chamber_controller.h"
-#include "app/commands.h"
 #include "chamber/chamber_view.h"
 #include "ui_menus.h"
+#include "widgets/commands.h"
 
 namespace velquon {
 

@@ -6,12 +6,12 @@
 #include <QApplication>
 #include <utility>
 
-#include "app/commands.h"
 #include "app/menus.h"
 #include "guide/about.h"
 #include "guide/guide_window.h"
 #include "guide/shortcuts_window.h"
 #include "ui_menus.h"
+#include "widgets/commands.h"
 #include "widgets/window_order.h"
 
 namespace velquon {

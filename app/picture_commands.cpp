@@ -5,9 +5,9 @@
 
 #include <utility>
 
-#include "app/commands.h"
 #include "app/picture_files.h"
 #include "ui_menus.h"
+#include "widgets/commands.h"
 
 namespace velquon {
 

@@ -6,10 +6,10 @@
 #include <QAction>
 #include <QMenu>
 
-#include "app/commands.h"
 #include "track/new_track_view.h"
 #include "track/track_controller.h"
 #include "ui_menus.h"
+#include "widgets/commands.h"
 
 namespace velquon {
 

@@ -8,13 +8,13 @@
 #include <QProgressDialog>
 #include <optional>
 
-#include "app/commands.h"
 #include "model/chamber_model.h"
 #include "model/clock.h"
 #include "printing/whole_file.h"
 #include "printing/worksheet_panel.h"
 #include "printing/worksheets.h"
 #include "ui_menus.h"
+#include "widgets/commands.h"
 #include "widgets/user_dialogs.h"
 
 namespace velquon {
@@ -31,7 +31,7 @@ WorksheetOrder offered_order(const ChamberModel& model) {
   constexpr int usual_class = 30;
   constexpr std::uint64_t seeds_offered = 100'000;
   return {.type = &event_types()[static_cast<std::size_t>(model.event_type())],
-          .values = model.next(),
+          .values = model.chosen(),
           .seed = static_cast<std::uint32_t>(Microseconds() % seeds_offered),
           .events = usual_class};
 }

@@ -31,7 +31,7 @@ void ChamberView::mouseMoveEvent(QMouseEvent* event) {
     return;
   }
   const QPointF place = locationOf(*event);
-  // A hand that clicks is not quite still.
+  // The mouse moves a little in a click, too.
   if (!dragged_to_ &&
       (place - *pressed_at_).manhattanLength() < QApplication::startDragDistance()) {
     return;

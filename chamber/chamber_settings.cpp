@@ -117,6 +117,7 @@ void ChamberSettings::letValuesBeTyped() {
 }
 
 void ChamberSettings::showValues(const ChamberValues& values) {
+  finishTyping();
   setFieldControl(values.B_field);
   setSidesControl(values.sides_cm);
   setEnergyControl(values.kinetic_Mev);
@@ -149,6 +150,7 @@ void ChamberSettings::reset_energy(const ValueSlider* sender) {
   const double shown = snapped_value(*sender, energy_tolerance_share * sender->maxValue());
   show_value(*controls_.kinetic_energy_text, QStringLiteral("T = %1 MeV"), shown,
              energy_decimals(shown));
+  reportValues();
 }
 
 void ChamberSettings::setFieldControl(float field_kG) {
@@ -159,6 +161,7 @@ void ChamberSettings::setFieldControl(float field_kG) {
 void ChamberSettings::reset_field(const ValueSlider* sender) {
   show_value(*controls_.magfield_text, QStringLiteral("B = %1 kG"),
              snapped_value(*sender, tick_tolerance), 3);
+  reportValues();
 }
 
 void ChamberSettings::setSidesControl(float side_cm) {
@@ -169,16 +172,26 @@ void ChamberSettings::setSidesControl(float side_cm) {
 void ChamberSettings::reset_sides(const ValueSlider* sender) {
   show_value(*controls_.sides_text, QStringLiteral("L = %1 m"),
              snapped_value(*sender, tick_tolerance), 3);
+  reportValues();
+}
+
+void ChamberSettings::reportValues() {
+  model_.setChosen({.B_field = controls_.magfield_slider->floatValue(),
+                    .sides_cm = cm_from_metres(controls_.size_slider->floatValue()),
+                    .kinetic_Mev = controls_.energy_slider->floatValue()});
+}
+
+void ChamberSettings::finishTyping() {
+  for (const QWidget* const label :
+       {controls_.magfield_text, controls_.sides_text, controls_.kinetic_energy_text}) {
+    ValueEditor::finish(*label);
+  }
 }
 
 void ChamberSettings::setNextChamberValues() {
-  model_.setNext({.B_field = controls_.magfield_slider->floatValue(),
-                  .sides_cm = cm_from_metres(controls_.size_slider->floatValue()),
-                  .kinetic_Mev = controls_.energy_slider->floatValue()});
-}
-
-const ChamberValues& ChamberSettings::next() const {
-  return model_.next();
+  finishTyping();
+  reportValues();
+  model_.setNext(model_.chosen());
 }
 
 }  // namespace velquon

@@ -17,13 +17,13 @@ class ChamberModel;
 class ValueSlider;
 
 /// The controls of the chamber values for the next event and the labels that show them. What they are
-/// put to is the model's when an event is made.
+/// put to are the model's chosen values.
 class ChamberSettings {
  public:
   /// Connects the controls.
   ChamberSettings(const Ui::ChamberWindow& controls, ChamberModel& model);
 
-  /// Puts all controls to the values.
+  /// Puts all controls to the values. A value that is being typed is lost.
   void showValues(const ChamberValues& values);
 
   /// Put a control to a value, in kG, cm and MeV. The energy's range follows the value.
@@ -38,9 +38,12 @@ class ChamberSettings {
   void setNextBField(float field_kG);
   void setNextSidesCm(float side_cm);
   void setNextMev(float energy_MeV);
-  /// Takes the values of the sliders as they are, not as the labels round them to a tick.
+  /// Takes the values of the sliders as they are, not as the labels round them to a tick. A value that
+  /// is being typed is taken first.
   void setNextChamberValues();
-  [[nodiscard]] const ChamberValues& next() const;
+
+  /// Takes a value that is being typed.
+  void finishTyping();
 
  private:
   void letValuesBeTyped();
@@ -48,6 +51,7 @@ class ChamberSettings {
   void reset_energy(const ValueSlider* sender);
   void reset_field(const ValueSlider* sender);
   void reset_sides(const ValueSlider* sender);
+  void reportValues();
 
   const Ui::ChamberWindow& controls_;
   ChamberModel& model_;

@@ -5,8 +5,6 @@
 
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMenu>
-#include <QToolButton>
 
 #include "chamber/chamber_settings.h"
 #include "chamber/chamber_view.h"
@@ -18,16 +16,6 @@
 namespace velquon {
 
 namespace {
-
-QToolButton* make_event_type_button(QAction* chosen_event_item, QMenu* event_menu) {
-  chosen_event_item->setToolTip(ChamberWindow::tr("Kind of the next event"));
-  auto* const button = new QToolButton;
-  button->setObjectName(QStringLiteral("event_type_button"));
-  button->setDefaultAction(chosen_event_item);
-  button->setPopupMode(QToolButton::InstantPopup);
-  button->setMenu(event_menu);
-  return button;
-}
 
 /// Gives a label room for a text; a value of many digits in a file does not widen the window.
 void give_room_for(QLabel& label, const QString& text) {
@@ -61,6 +49,10 @@ ViewScrollArea* ChamberWindow::area() const {
   return ui_->chamber_area;
 }
 
+QToolBar* ChamberWindow::toolBar() const {
+  return ui_->chamber_tool_bar;
+}
+
 void ChamberWindow::tell(const ToldEvent& event) {
   ui_->chamber_legend->setLegend(event.legend, event.spoken_legend);
   ui_->chamber_status->tell(event.status);
@@ -87,21 +79,6 @@ void ChamberWindow::keyPressEvent(QKeyEvent* event) {
     return;
   }
   GLPanel::keyPressEvent(event);
-}
-
-void ChamberWindow::fillToolBar(const QList<QAction*>& items, QAction* chosen_event_item,
-                                QMenu* event_menu) {
-  QToolBar& bar = *ui_->chamber_tool_bar;
-  bar.addActions(items);
-  QAction* const second = items.at(1);
-  bar.insertWidget(second, make_event_type_button(chosen_event_item, event_menu));
-  bar.insertSeparator(second);
-  const auto shown = bar.actions();
-  for (QAction* const action : shown) {
-    if (auto* const button = qobject_cast<QToolButton*>(bar.widgetForAction(action))) {
-      button->setFocusPolicy(Qt::TabFocus);
-    }
-  }
 }
 
 }  // namespace velquon

@@ -7,7 +7,7 @@
 
 #include "widgets/gl_panel.h"
 
-class QMenu;
+class QToolBar;
 
 namespace Ui {
 class ChamberWindow;
@@ -32,11 +32,9 @@ class ChamberWindow : public GLPanel {
 
   [[nodiscard]] ChamberView* view() const { return view_; }
   [[nodiscard]] ViewScrollArea* area() const;
+  /// The tool bar, for the menus to put items into.
+  [[nodiscard]] QToolBar* toolBar() const;
   [[nodiscard]] ChamberSettings& settings() { return *settings_; }
-
-  /// Puts items into the tool bar, and behind the first of them a button that shows the title of the
-  /// item of the chosen kind of event, and opens the menu of all.
-  void fillToolBar(const QList<QAction*>& items, QAction* chosen_event_item, QMenu* event_menu);
 
   /// Tells the shown event beside the picture and, to who cannot see it, in words.
   void tell(const ToldEvent& event);

@@ -17,9 +17,7 @@ void ChamberView::changeEvent(Change change) {
 }
 
 void ChamberView::setData(std::span<const PlotPoint> points) {
-  auto tracks = std::make_shared<EventTracks>();
-  tracks->points.assign(points.begin(), points.end());
-  changeEvent([&tracks](ShownEvent& event) { event.tracks = std::move(tracks); });
+  changeEvent([points](ShownEvent& event) { event.tracks = tracks_of(points); });
 }
 
 void ChamberView::setHasEvent(bool has_event) {
@@ -39,19 +37,19 @@ void ChamberView::setCurrentMev(float energy_MeV) {
 }
 
 void ChamberSettings::setNextBField(float field_kG) {
-  ChamberValues values = next();
+  ChamberValues values = model_.next();
   values.B_field = field_kG;
   model_.setNext(values);
 }
 
 void ChamberSettings::setNextSidesCm(float side_cm) {
-  ChamberValues values = next();
+  ChamberValues values = model_.next();
   values.sides_cm = side_cm;
   model_.setNext(values);
 }
 
 void ChamberSettings::setNextMev(float energy_MeV) {
-  ChamberValues values = next();
+  ChamberValues values = model_.next();
   values.kinetic_Mev = energy_MeV;
   model_.setNext(values);
 }

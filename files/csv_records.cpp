@@ -189,16 +189,6 @@ std::optional<TextError> find_bad_bytes(std::string_view bytes) {
 
 }  // namespace
 
-std::string reason_with_values(const TextError& error) {
-  std::string text = error.reason;
-  for (std::size_t i = 0; i < error.values.size(); ++i) {
-    std::string mark("%");
-    mark += std::to_string(i + 1);
-    text.replace(text.find(mark), mark.size(), error.values[i]);
-  }
-  return text;
-}
-
 CsvResult read_csv(std::string_view bytes, const CsvLimits& limits) {
   if (bytes.size() > limits.bytes) {
     return TextError{0, MODEL_TEXT("velquon::Model", "the file is too large"), {}};

@@ -20,9 +20,6 @@ struct TextError {
   friend bool operator==(const TextError&, const TextError&) = default;
 };
 
-/// What is wrong, with the values in their places.
-[[nodiscard]] std::string reason_with_values(const TextError& error);
-
 /// The fields between two line ends of a table, quotes taken off.
 struct CsvRecord {
   std::size_t line = 0;  ///< where it begins, from 1

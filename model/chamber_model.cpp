@@ -11,30 +11,6 @@
 
 namespace velquon {
 
-namespace {
-
-std::shared_ptr<EventTracks> tracks_of(std::span<const PlotPoint> points) {
-  auto tracks = std::make_shared<EventTracks>();
-  tracks->points.assign(points.begin(), points.end());
-  return tracks;
-}
-
-/// Runs the chain of a kind of event. Null when the event is not handed over.
-std::shared_ptr<const EventTracks> made_tracks(const EventType& type, const ChamberValues& values) {
-  TrackBuffer event;
-  ParticleRecord record;
-  if (make_event(type, values, event, &record) == HandOver::no) {
-    return nullptr;
-  }
-  auto tracks = tracks_of(event.points());
-  tracks->type = static_cast<std::size_t>(&type - event_types().data());
-  tracks->values = values;
-  tracks->record = std::move(record);
-  return tracks;
-}
-
-}  // namespace
-
 ChamberModel::ChamberModel(std::optional<std::uint32_t> seed)
     : seed_(seed.value_or(static_cast<std::uint32_t>(Microseconds()))) {
   std::srand(seed_);
@@ -43,6 +19,15 @@ ChamberModel::ChamberModel(std::optional<std::uint32_t> seed)
 void ChamberModel::setEventType(int type) {
   event_type_ = type;
   changed.tell();
+}
+
+void ChamberModel::setChosen(const ChamberValues& values) {
+  const bool differ = values != chosen_;
+  // Zeros of either sign are equal.
+  chosen_ = values;
+  if (differ) {
+    changed.tell();
+  }
 }
 
 void ChamberModel::setNext(const ChamberValues& values) {
@@ -117,20 +102,6 @@ void ChamberModel::showNextEvent() {
 void ChamberModel::showAgain(std::shared_ptr<const ShownEvent> event) {
   forgetWhatWasSeen();
   take(std::move(event));
-}
-
-void ChamberModel::makeTracks(const EventType& type) {
-  if (auto tracks = made_tracks(type, next_)) {
-    ShownEvent event = *shown_;
-    event.tracks = std::move(tracks);
-    changeShown(event);
-  }
-}
-
-void ChamberModel::showTracks(std::span<const PlotPoint> points) {
-  ShownEvent event = *shown_;
-  event.tracks = tracks_of(points);
-  changeShown(event);
 }
 
 void ChamberModel::showNextValues() {

@@ -57,7 +57,11 @@ class ChamberModel {
   [[nodiscard]] int event_type() const { return event_type_; }
   void setEventType(int type);
 
-  /// Values for the next event, as the controls hold them.
+  /// Values that the user has chosen, as the controls hold them.
+  [[nodiscard]] const ChamberValues& chosen() const { return chosen_; }
+  void setChosen(const ChamberValues& values);
+
+  /// Values that the next event is made with; the chosen ones, once the user wants an event.
   [[nodiscard]] const ChamberValues& next() const { return next_; }
   void setNext(const ChamberValues& values);
 
@@ -97,11 +101,6 @@ class ChamberModel {
 
   // Change the event that is shown, which keeps its place in the history.
 
-  /// Runs a chain of decays under the next values and shows the tracks if they are handed over.
-  /// \param type kind of the event, of which the chain is
-  void makeTracks(const EventType& type);
-  /// Shows tracks that were not made here.
-  void showTracks(std::span<const PlotPoint> points);
   /// Shows the next values as those of the event.
   void showNextValues();
   void showName(const std::string& name);
@@ -117,6 +116,14 @@ class ChamberModel {
   /// Has what happened told, until there is another event.
   void revealAnswers();
 
+  // What legacy.cpp has. They change the event that is shown, which keeps its place in the history.
+
+  /// Runs a chain of decays under the next values and shows the tracks if they are handed over.
+  /// \param type kind of the event, of which the chain is
+  void makeTracks(const EventType& type);
+  /// Shows tracks that were not made here.
+  void showTracks(std::span<const PlotPoint> points);
+
  private:
   void showAnother(const ShownEvent& event);
   void changeShown(const ShownEvent& event);
@@ -127,6 +134,7 @@ class ChamberModel {
 
   std::uint32_t seed_;
   int event_type_ = 0;
+  ChamberValues chosen_;
   ChamberValues next_;
   ChamberPreferences preferences_;
   Turntable turntable_;

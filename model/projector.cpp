@@ -61,8 +61,8 @@ void Projector::setTool(ProjectorTool tool) {
   changed.tell();
 }
 
-void Projector::setScaler(double scaler) {
-  takeScaler(scaler);
+void Projector::setSnaps(bool snaps) {
+  snaps_ = snaps;
   changed.tell();
 }
 
@@ -99,23 +99,23 @@ void Projector::drag(Place place) {
   if (PlacedPoints* const set = points()) {
     set->drag(place, snap());
     changed.tell();
-  } else if (tool_ == ProjectorTool::tape) {
+  } else if (is_pressed_ && tool_ == ProjectorTool::tape) {
     tape_.visible = true;
     stretchTape(place);
-  } else {
+  } else if (is_pressed_) {
     grabTo(place);
   }
 }
 
 void Projector::release(Place place) {
-  is_pressed_ = false;
+  const bool was_pressed = std::exchange(is_pressed_, false);
   if (PlacedPoints* const set = points()) {
     set->drag(place, snap());
     set->release();
     changed.tell();
-  } else if (tool_ == ProjectorTool::tape) {
+  } else if (was_pressed && tool_ == ProjectorTool::tape) {
     stretchTape(place);
-  } else {
+  } else if (was_pressed) {
     grabTo(place);
   }
 }

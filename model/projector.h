@@ -58,16 +58,15 @@ class Projector {
   /// The picture keeps its offsets.
   void setZoom(float zoom);
   void setTool(ProjectorTool tool);
-  void setSnaps(bool snaps) { snaps_ = snaps; }
-  /// A tape that is laid out is read anew.
-  void setScaler(double scaler);
+  void setSnaps(bool snaps);
 
   void resetOffsets();
   /// Puts the picture back to its place and clears what is laid out, for a new event.
   void restore();
 
   /// The mouse button went down at a place, moved or went up: lays out the tape, moves the picture
-  /// or sets points, as the tool says.
+  /// or sets points, as the tool says. Tape and picture stay where they are when what the press began
+  /// has been given up or cleared since.
   void press(Place place);
   void drag(Place place);
   void release(Place place);
@@ -100,6 +99,11 @@ class Projector {
   [[nodiscard]] ProjectionMapping mapping() const { return mappingAt(view_height_); }
   /// The way to a picture of another height, such as a page's.
   [[nodiscard]] ProjectionMapping mappingAt(double height) const;
+
+  // What legacy.cpp has.
+
+  /// Sets the centimetres of the chamber per view unit at zoom 1. A tape that is laid out is read anew.
+  void setScaler(double scaler);
 
  private:
   void takeScaler(double scaler);

@@ -5,8 +5,28 @@
 
 #include <array>
 #include <cstdio>
+#include <utility>
 
 namespace velquon {
+
+std::shared_ptr<EventTracks> tracks_of(std::span<const PlotPoint> points) {
+  auto tracks = std::make_shared<EventTracks>();
+  tracks->points.assign(points.begin(), points.end());
+  return tracks;
+}
+
+std::shared_ptr<const EventTracks> made_tracks(const EventType& type, const ChamberValues& values) {
+  TrackBuffer event;
+  ParticleRecord record;
+  if (make_event(type, values, event, &record) == HandOver::no) {
+    return nullptr;
+  }
+  auto tracks = tracks_of(event.points());
+  tracks->type = static_cast<std::size_t>(&type - event_types().data());
+  tracks->values = values;
+  tracks->record = std::move(record);
+  return tracks;
+}
 
 std::string values_text(const ChamberValues& values) {
   constexpr double cm_per_m = 100.0;

@@ -12,6 +12,7 @@
 
 #include "engine/chamber_values.h"
 #include "engine/event_record.h"
+#include "events/event_types.h"
 #include "events/particle_record.h"
 
 namespace velquon {
@@ -23,6 +24,14 @@ struct EventTracks {
   ChamberValues values;                  ///< under which a simulated event was made
   std::optional<ParticleRecord> record;  ///< what happened, of a simulated event
 };
+
+/// Tracks that were not made here, of which nothing but the points is known.
+[[nodiscard]] std::shared_ptr<EventTracks> tracks_of(std::span<const PlotPoint> points);
+
+/// Runs the decay chain of a kind of event.
+/// \return null when the event is not handed over
+[[nodiscard]] std::shared_ptr<const EventTracks> made_tracks(const EventType& type,
+                                                             const ChamberValues& values);
 
 /// The event that the windows show. It never changes: with another event, another value or another
 /// name another one takes its place.

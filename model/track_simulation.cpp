@@ -11,7 +11,6 @@ namespace velquon {
 namespace {
 
 // The particle may be that far outside of the area and still counts as inside, view units.
-constexpr double margin = 0.01;
 
 // Radians that a field of 1 turns a charge of 1 in a unit of time.
 constexpr double turn_rate = 0.05;
@@ -20,11 +19,8 @@ constexpr std::int32_t most_points = 9996;  // a track that has so many is compa
 constexpr std::int32_t dropped_points = 5000;
 constexpr std::int32_t kept_points = most_points - dropped_points;
 
-constexpr double legacy_floor = 15.0;
-constexpr double legacy_ceiling = 455.0;
-
 bool is_inside(double place, double length) {
-  return -margin < place && place < length + margin;
+  return -track_area_margin < place && place < length + track_area_margin;
 }
 
 }  // namespace
@@ -49,11 +45,6 @@ bool TrackSimulation::canStep() const {
   return stepping_.istep < static_cast<std::int32_t>(capacity) &&
          is_inside(stepping_.old_x, track_area_width) &&
          is_inside(stepping_.old_y, track_area_height);
-}
-
-bool TrackSimulation::isInLegacyArea() const {
-  return is_inside(stepping_.old_x, track_area_width) && legacy_floor < stepping_.old_y &&
-         stepping_.old_y < legacy_ceiling;
 }
 
 void TrackSimulation::advance() {

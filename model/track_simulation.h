@@ -13,6 +13,8 @@ namespace velquon {
 /// Size of the area that the particle crosses, view units; the origin is at the lower left.
 inline constexpr int track_area_width = 490;
 inline constexpr int track_area_height = 456;
+/// How far beyond it the particle still moves on, view units.
+inline constexpr double track_area_margin = 0.01;
 
 /// What the user has chosen.
 struct LiveTrackSettings {
@@ -62,8 +64,6 @@ class TrackSimulation {
 
   /// Whether the particle can be moved on: it is in the area and there is room for its next point.
   [[nodiscard]] bool canStep() const;
-  /// Whether the particle is inside of what the legacy loop regards as the area.
-  [[nodiscard]] bool isInLegacyArea() const;
 
   /// Moves the particle by its velocity, then turns the velocity in the field.
   void advance();
@@ -85,6 +85,11 @@ class TrackSimulation {
   [[nodiscard]] double vy() const { return vy_; }
   [[nodiscard]] double time_interval() const { return time_interval_; }
   [[nodiscard]] const SteppingState& stepping() const { return stepping_; }
+
+  // What legacy.cpp has.
+
+  /// Whether the particle is inside of what the legacy loop regards as the area.
+  [[nodiscard]] bool isInLegacyArea() const;
 
  private:
   using Points = std::array<float, capacity>;

@@ -53,12 +53,10 @@ class ProjectionView : public GLView, public Printable {
   void setZoom(float zoom);
   void setTool(ProjectorTool tool);
 
-  void resetOffsets() { projector_.resetOffsets(); }
   /// Puts the picture back to its place and hides the tape, for a new event.
   void restore() { projector_.restore(); }
 
   /// cm of the chamber per view unit at zoom 1.
-  void setScaler(double scaler) { projector_.setScaler(scaler); }
   [[nodiscard]] double scaler() const { return projector_.scaler(); }
   /// Distance between the tape's ends, cm of the chamber.
   [[nodiscard]] double tapeLength() const { return projector_.tapeLength(); }
@@ -78,6 +76,13 @@ class ProjectionView : public GLView, public Printable {
   [[nodiscard]] std::optional<QImage> picture(double scale) const;
 
   void paint(QPainter& page) override;
+
+  // What legacy.cpp has.
+
+  /// \param scaler cm of the chamber per view unit at zoom 1
+  void setScaler(double scaler);
+  /// Puts the picture back to its place.
+  void resetOffsets();
 
  Q_SIGNALS:
   /// The mouse wheel was turned by a notch over the picture.

@@ -161,6 +161,7 @@ void ProjectorWindow::showChoices() {
   show_choice(plane_choices(*ui_), projector_.plane());
   show_choice(zoom_choices(*ui_), projector_.zoom());
   show_choice(tool_choices(*ui_), projector_.tool());
+  ui_->snap_button->setChecked(projector_.snaps());
 }
 
 void ProjectorWindow::connectKeys() {

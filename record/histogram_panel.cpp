@@ -140,6 +140,7 @@ void HistogramPanel::refresh() {
   summary_->setText(summary());
   showPlot();
   showBins();
+  Q_EMIT sampleChanged();
 }
 
 void HistogramPanel::listQuantities() {

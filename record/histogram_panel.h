@@ -38,6 +38,10 @@ class HistogramPanel : public QWidget {
   [[nodiscard]] QByteArray asPng();
   [[nodiscard]] QByteArray asPdf();
 
+ Q_SIGNALS:
+  /// Other values are shown, or in another way.
+  void sampleChanged();
+
  private:
   void layOut();
   void listQuantities();

@@ -14,6 +14,8 @@
 #include <QRandomGenerator>
 #include <QSpinBox>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
 
 #include "widgets/model_text.h"
 #include "widgets/user_dialogs.h"
@@ -44,13 +46,30 @@ class NumberBox : public QDoubleSpinBox {
   }
 };
 
+/// Decimals that a value is shown with: more than usual where these would show little of it.
+int decimals_for(double value, int usual) {
+  constexpr int most = 9;
+  constexpr double lost_at_most = 1.0e-3;
+  int decimals = usual;
+  while (decimals < most) {
+    const double unit = std::pow(10.0, -decimals);
+    if (std::fabs(std::round(value / unit) * unit - value) <= lost_at_most * std::fabs(value)) {
+      break;
+    }
+    ++decimals;
+  }
+  return decimals;
+}
+
+/// \param offered widens the range where it lies beyond, as a value from a file may
 QDoubleSpinBox* number_box(double lowest, double highest, int decimals, const QString& unit,
-                           float value, QWidget* parent) {
+                           float offered, QWidget* parent) {
+  const auto value = static_cast<double>(offered);
   auto* const box = new NumberBox(parent);
-  box->setDecimals(decimals);
-  box->setRange(lowest, highest);
+  box->setDecimals(decimals_for(value, decimals));
+  box->setRange(std::min(lowest, value), std::max(highest, value));
   box->setSuffix(unit);
-  box->setValue(static_cast<double>(value));
+  box->setValue(value);
   return box;
 }
 

@@ -17,7 +17,6 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <functional>
 
 #include "record/histogram_panel.h"
 #include "record/make_events_dialog.h"
@@ -60,6 +59,7 @@ MeasurementsWindow::MeasurementsWindow(Measurements& measurements, MeasurementFi
       model_(model),
       dialogs_(dialogs),
       menu_(new QMenu(tr("&Measurements"), this)),
+      tool_bar_(new QToolBar(tr("Measurements"), this)),
       columns_(new MeasurementColumns(measurements, this)),
       table_(new QTableView(this)),
       histogram_(new HistogramPanel(measurements, this)),
@@ -67,7 +67,6 @@ MeasurementsWindow::MeasurementsWindow(Measurements& measurements, MeasurementFi
   setTitle(tr("Measurements"));
   menu_->setObjectName(QStringLiteral("measurements_menu"));
   addItems();
-  fillToolBar();
   layOut();
   changes_ = measurements_.changed.add([this] { refresh(); });
   refresh();
@@ -82,56 +81,69 @@ void MeasurementsWindow::tell(const QString& message) {
   message_->setVisible(!message.isEmpty());
 }
 
-void MeasurementsWindow::addItems() {
-  record_item_ = addItem("record_item", tr("&Record"), QKeySequence(Qt::CTRL | Qt::Key_Return),
-                         [this] { Q_EMIT recordAsked(); });
-  record_item_->setToolTip(tr("Note what the projector's tool reads (Ctrl+Return)"));
-  copy_item_ =
-      addItem("copy_rows_item", tr("&Copy Rows"), QKeySequence::Copy, [this] { copyRows(); });
-  copy_item_->setShortcuts(QKeySequence::Copy);
-  delete_item_ = addItem("delete_item", tr("&Delete Rows"), QKeySequence(Qt::Key_Delete),
-                         [this] { deleteRows(); });
+void MeasurementsWindow::addRowItems() {
+  const auto has_rows = [this] { return !measurements_.rows().empty(); };
+  QAction* const record = addItem(
+      "record_item", tr("&Record"),
+      {.keys = QKeySequence(Qt::CTRL | Qt::Key_Return), .run = [this] { Q_EMIT recordAsked(); }});
+  record->setToolTip(tr("Note what the projector's tool reads (Ctrl+Return)"));
+  QAction* const copy =
+      addItem("copy_rows_item", tr("&Copy Rows"),
+              {.keys = QKeySequence::Copy, .run = [this] { copyRows(); }, .is_enabled = has_rows});
+  copy->setShortcuts(QKeySequence::Copy);
+  QAction* const remove = addItem("delete_item", tr("&Delete Rows"),
+                                  {.keys = QKeySequence(Qt::Key_Delete),
+                                   .run = [this] { deleteRows(); },
+                                   .is_enabled = has_rows});
   // Where an editor or another control has the focus, these keys are its own.
-  for (QAction* const item : {copy_item_, delete_item_}) {
+  for (QAction* const item : {copy, remove}) {
     item->setShortcutContext(Qt::WidgetShortcut);
     table_->addAction(item);
   }
   menu_->addSeparator();
-  undo_item_ = addItem("undo_item", tr("&Undo"), QKeySequence(Qt::CTRL | Qt::Key_Z),
-                       [this] { measurements_.undo(); });
-  redo_item_ = addItem("redo_item", tr("Red&o"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
-                       [this] { measurements_.redo(); });
-  menu_->addSeparator();
-  addItem("open_measurements_item", tr("O&pen Measurements…"),
-          QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_O), [this] { files_.open(); });
-  add_item_ = addItem("add_files_item", tr("&Add Files…"),
-                      QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_A), [this] { files_.addFiles(); });
-  add_item_->setToolTip(tr("Append the rows of files, such as those of a class"));
-  save_item_ = addItem("save_measurements_item", tr("&Save Measurements…"),
-                       QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_S), [this] { files_.save(); });
-  menu_->addSeparator();
-  make_events_item_ =
-      addItem("make_events_item", tr("&Make Events…"), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_M),
-              [this] { makeEvents(); });
-  make_events_item_->setToolTip(tr("Have many events made and note one quantity of each"));
-  save_plot_item_ = addItem("save_plot_item", tr("Save P&lot…"),
-                            QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_P), [this] { savePlot(); });
-  // Return in the table records; while a cell is edited the editor has it.
-  connect(new QShortcut(QKeySequence(Qt::Key_Return), table_, nullptr, nullptr, Qt::WidgetShortcut),
-          &QShortcut::activated, this, &MeasurementsWindow::recordAsked);
+  QAction* const undo = addItem("undo_item", tr("&Undo"),
+                                {.keys = QKeySequence(Qt::CTRL | Qt::Key_Z),
+                                 .run = [this] { measurements_.undo(); },
+                                 .is_enabled = [this] { return measurements_.canUndo(); }});
+  QAction* const redo = addItem("redo_item", tr("Red&o"),
+                                {.keys = QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
+                                 .run = [this] { measurements_.redo(); },
+                                 .is_enabled = [this] { return measurements_.canRedo(); }});
+  tool_bar_->addActions({record, remove, undo, redo});
 }
 
-QAction* MeasurementsWindow::addItem(const char* name, const QString& text,
-                                     const QKeySequence& shortcut,
-                                     const std::function<void()>& run) {
-  QAction* const item = menu_->addAction(text);
-  item->setObjectName(QLatin1String(name));
-  item->setShortcut(shortcut);
-  connect(item, &QAction::triggered, this, [this, run] {
-    finishEdit();
-    run();
-  });
-  return item;
+void MeasurementsWindow::addFileItems() {
+  addItem("open_measurements_item", tr("O&pen Measurements…"),
+          {.keys = QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_O), .run = [this] { files_.open(); }});
+  QAction* const add = addItem(
+      "add_files_item", tr("&Add Files…"),
+      {.keys = QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_A), .run = [this] { files_.addFiles(); }});
+  add->setToolTip(tr("Append the rows of files, such as those of a class"));
+  QAction* const save = addItem("save_measurements_item", tr("&Save Measurements…"),
+                                {.keys = QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_S),
+                                 .run = [this] { files_.save(); },
+                                 .is_enabled = [this] { return !measurements_.rows().empty(); }});
+  tool_bar_->addActions({add, save});
+}
+
+void MeasurementsWindow::addEventItems() {
+  QAction* const make = addItem(
+      "make_events_item", tr("&Make Events…"),
+      {.keys = QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_M), .run = [this] { makeEvents(); }});
+  make->setToolTip(tr("Have many events made and note one quantity of each"));
+  QAction* const save_plot = addItem("save_plot_item", tr("Save P&lot…"),
+                                     {.keys = QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_P),
+                                      .run = [this] { savePlot(); },
+                                      .is_enabled = [this] { return histogram_->canBeSaved(); }});
+  tool_bar_->addActions({make, save_plot});
+}
+
+QAction* MeasurementsWindow::addItem(const char* name, const QString& text, const Item& item) {
+  QAction* const action = menu_->addAction(text);
+  action->setObjectName(QLatin1String(name));
+  action->setShortcut(item.keys);
+  commands_.add({.item = action, .run = item.run, .is_enabled = item.is_enabled});
+  return action;
 }
 
 void MeasurementsWindow::finishEdit() {
@@ -142,15 +154,23 @@ void MeasurementsWindow::finishEdit() {
   }
 }
 
-void MeasurementsWindow::fillToolBar() {
-  auto* const bar = new QToolBar(tr("Measurements"), this);
-  bar->setObjectName(QStringLiteral("measurements_tool_bar"));
-  bar->setMovable(false);
-  bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
-  bar->addActions({record_item_, delete_item_, undo_item_, redo_item_});
-  bar->addSeparator();
-  bar->addActions({add_item_, save_item_, make_events_item_, save_plot_item_});
-  addToolBar(bar);
+void MeasurementsWindow::addItems() {
+  tool_bar_->setObjectName(QStringLiteral("measurements_tool_bar"));
+  tool_bar_->setMovable(false);
+  tool_bar_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+  addToolBar(tool_bar_);
+  addRowItems();
+  menu_->addSeparator();
+  tool_bar_->addSeparator();
+  addFileItems();
+  menu_->addSeparator();
+  addEventItems();
+  // Return in the table records; while a cell is edited the editor has it.
+  connect(new QShortcut(QKeySequence(Qt::Key_Return), table_, nullptr, nullptr, Qt::WidgetShortcut),
+          &QShortcut::activated, this, &MeasurementsWindow::recordAsked);
+  connect(&commands_, &Commands::aboutToRun, this, &MeasurementsWindow::finishEdit);
+  connect(histogram_, &HistogramPanel::sampleChanged, &commands_, &Commands::refresh);
+  commands_.refreshOn(measurements_.changed);
 }
 
 void MeasurementsWindow::layOut() {
@@ -205,12 +225,6 @@ void MeasurementsWindow::refresh() {
   }
   histogram_->refresh();
   tell({});
-  copy_item_->setEnabled(rows > 0);
-  delete_item_->setEnabled(rows > 0);
-  undo_item_->setEnabled(measurements_.canUndo());
-  redo_item_->setEnabled(measurements_.canRedo());
-  save_item_->setEnabled(rows > 0);
-  save_plot_item_->setEnabled(histogram_->canBeSaved());
 }
 
 void MeasurementsWindow::fitColumns(bool may_shrink) {
@@ -259,7 +273,7 @@ void MeasurementsWindow::makeEvents() {
     return;
   }
   auto* const dialog = new MakeEventsDialog(static_cast<std::size_t>(model_.event_type()),
-                                            model_.next(), dialogs_, this);
+                                            model_.chosen(), dialogs_, this);
   make_events_dialog_ = dialog;
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   connect(dialog, &QDialog::accepted, this, [this, dialog] {

@@ -3,19 +3,23 @@
 
 #pragma once
 
+#include <QKeySequence>
 #include <QPointer>
 #include <cstddef>
+#include <functional>
 #include <vector>
 
 #include "model/chamber_model.h"
 #include "model/listeners.h"
 #include "model/measurements.h"
 #include "record/make_events_dialog.h"
+#include "widgets/commands.h"
 #include "widgets/gl_panel.h"
 
 class QLabel;
 class QMenu;
 class QTableView;
+class QToolBar;
 
 namespace velquon {
 
@@ -37,6 +41,9 @@ class MeasurementsWindow : public GLPanel {
   /// \param before the menu that it stands in front of
   void insertMenu(QAction* before);
 
+  /// Takes over what is typed in a cell that is being edited.
+  void finishEdit();
+
   /// Tells something below the table until the rows change.
   void tell(const QString& message);
 
@@ -50,13 +57,20 @@ class MeasurementsWindow : public GLPanel {
   void recordAsked();
 
  private:
+  /// What an item of the menu does.
+  struct Item {
+    QKeySequence keys;
+    std::function<void()> run;
+    std::function<bool()> is_enabled{};  ///< null for one that always is
+  };
+
   void layOut();
+  /// Makes the items of the menu and the tool bar.
   void addItems();
-  QAction* addItem(const char* name, const QString& text, const QKeySequence& shortcut,
-                   const std::function<void()>& run);
-  void fillToolBar();
-  /// Takes over what is typed in a cell that is being edited.
-  void finishEdit();
+  void addRowItems();
+  void addFileItems();
+  void addEventItems();
+  QAction* addItem(const char* name, const QString& text, const Item& item);
   void refresh();
   /// Makes columns as wide as their texts, but for long ones.
   /// \param may_shrink whether a column that is wider becomes narrower
@@ -72,20 +86,13 @@ class MeasurementsWindow : public GLPanel {
   MeasurementFiles& files_;
   const ChamberModel& model_;
   UserDialogs& dialogs_;
+  Commands commands_;
   QMenu* menu_;
+  QToolBar* tool_bar_;
   MeasurementColumns* columns_;
   QTableView* table_;
   HistogramPanel* histogram_;
   QLabel* message_;
-  QAction* record_item_ = nullptr;
-  QAction* copy_item_ = nullptr;
-  QAction* delete_item_ = nullptr;
-  QAction* undo_item_ = nullptr;
-  QAction* redo_item_ = nullptr;
-  QAction* save_item_ = nullptr;
-  QAction* add_item_ = nullptr;
-  QAction* make_events_item_ = nullptr;
-  QAction* save_plot_item_ = nullptr;
   QPointer<MakeEventsDialog> make_events_dialog_;
   Subscription changes_;
 };

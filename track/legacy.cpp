@@ -1,14 +1,15 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the track view did before it had the step timer, kept to compare the timed steps with. No path
-// of the program leads here.
+// What the track view did before it had the step timer, kept to compare the timed steps with, and what
+// menu items asked before they followed the model. No path of the program leads here.
 
 #include <QDebug>
 #include <QTimer>
 
 #include "model/track_model.h"
 #include "track/new_track_view.h"
+#include "track/track_controller.h"
 
 namespace velquon {
 
@@ -56,6 +57,10 @@ void NewTrackView::OldtrackOnScreen() {
     step();
   }
   endRun();
+}
+
+bool TrackController::validateMenuItem(TrackItem item) const {
+  return model_.isEnabled(item);
 }
 
 }  // namespace velquon

@@ -71,8 +71,4 @@ void TrackController::doMenus(bool on) {
   model_.doMenus(on);
 }
 
-bool TrackController::validateMenuItem(TrackItem item) const {
-  return model_.isEnabled(item);
-}
-
 }  // namespace velquon

@@ -44,11 +44,14 @@ class TrackController : public QObject {
   /// \param on allows what the track window offers and forbids the rest of the program, or the
   ///           reverse
   void doMenus(bool on);
-  /// Whether the user may do something in the present state.
-  [[nodiscard]] bool validateMenuItem(TrackItem item) const;
 
   [[nodiscard]] ValueSlider* vSlider() const { return slider_; }
   void setVSlider(ValueSlider* slider) { slider_ = slider; }
+
+  // What legacy.cpp has.
+
+  /// Whether the user may do something in the present state.
+  [[nodiscard]] bool validateMenuItem(TrackItem item) const;
 
  Q_SIGNALS:
   /// The track window has become active, or no longer is.

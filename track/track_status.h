@@ -10,8 +10,8 @@ class QMainWindow;
 
 namespace velquon {
 
-/// A line at the foot of a window that tells, while the track window is active, why the menus rest
-/// and how to get them back. It belongs to the window and is hidden at first.
+/// A line at the foot of a window that tells, while the track window is active, why the menus
+/// are disabled and how to enable them again. It belongs to the window and is hidden at first.
 class TrackStatus : public QStatusBar {
   Q_OBJECT
 

@@ -27,6 +27,15 @@ void ValueEditor::open(QWidget& label, const ValueBounds& bounds, double value,
   editor->selectAll();
 }
 
+void ValueEditor::finish(const QWidget& label) {
+  const auto editors = label.window()->findChildren<ValueEditor*>();
+  for (ValueEditor* const editor : editors) {
+    if (&editor->label_ == &label) {
+      editor->close(true);
+    }
+  }
+}
+
 ValueEditor::ValueEditor(QWidget& label, const ValueBounds& bounds, double value,
                          std::function<void(double)> take)
     : QDoubleSpinBox(label.window()), label_(label), take_(std::move(take)) {

@@ -31,6 +31,9 @@ class ValueEditor : public QDoubleSpinBox {
   static void open(QWidget& label, const ValueBounds& bounds, double value,
                    const std::function<void(double)>& take);
 
+  /// Takes what is typed in the editor over a label, if there is one.
+  static void finish(const QWidget& label);
+
   QString textFromValue(double value) const override;
   double valueFromText(const QString& text) const override;
   QValidator::State validate(QString& text, int& position) const override;

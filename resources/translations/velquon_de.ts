@@ -243,6 +243,10 @@
         <translation>&amp;Lambda Λ</translation>
     </message>
     <message>
+        <source>Kind of the next event</source>
+        <translation>Art des nächsten Ereignisses</translation>
+    </message>
+    <message>
         <source>Show &amp;Axes</source>
         <translation>&amp;Achsen zeigen</translation>
     </message>
@@ -751,10 +755,6 @@ Soll die Datei ersetzt werden?</translation>
 </context>
 <context>
     <name>velquon::ChamberWindow</name>
-    <message>
-        <source>Kind of the next event</source>
-        <translation>Art des nächsten Ereignisses</translation>
-    </message>
     <message>
         <source>Particle chamber</source>
         <translation>Teilchenkammer</translation>

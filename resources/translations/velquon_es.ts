@@ -243,6 +243,10 @@
         <translation>&amp;Lambda Λ</translation>
     </message>
     <message>
+        <source>Kind of the next event</source>
+        <translation>Tipo del próximo suceso</translation>
+    </message>
+    <message>
         <source>Show &amp;Axes</source>
         <translation>Mostrar los &amp;ejes</translation>
     </message>
@@ -751,10 +755,6 @@ Do you want to replace it?</source>
 </context>
 <context>
     <name>velquon::ChamberWindow</name>
-    <message>
-        <source>Kind of the next event</source>
-        <translation>Tipo del próximo suceso</translation>
-    </message>
     <message>
         <source>Particle chamber</source>
         <translation>Cámara de partículas</translation>

@@ -243,6 +243,10 @@
         <translation>&amp;Lambda Λ</translation>
     </message>
     <message>
+        <source>Kind of the next event</source>
+        <translation>Type du prochain événement</translation>
+    </message>
+    <message>
         <source>Show &amp;Axes</source>
         <translation>Afficher les &amp;axes</translation>
     </message>
@@ -751,10 +755,6 @@ Voulez-vous le remplacer&#xa0;?</translation>
 </context>
 <context>
     <name>velquon::ChamberWindow</name>
-    <message>
-        <source>Kind of the next event</source>
-        <translation>Type du prochain événement</translation>
-    </message>
     <message>
         <source>Particle chamber</source>
         <translation>Chambre à particules</translation>

@@ -243,6 +243,10 @@
         <translation>&amp;Lambda Λ</translation>
     </message>
     <message>
+        <source>Kind of the next event</source>
+        <translation>Tipo del prossimo evento</translation>
+    </message>
+    <message>
         <source>Show &amp;Axes</source>
         <translation>Mostra gli &amp;assi</translation>
     </message>
@@ -751,10 +755,6 @@ Vuoi sostituirlo?</translation>
 </context>
 <context>
     <name>velquon::ChamberWindow</name>
-    <message>
-        <source>Kind of the next event</source>
-        <translation>Tipo del prossimo evento</translation>
-    </message>
     <message>
         <source>Particle chamber</source>
         <translation>Camera a particelle</translation>

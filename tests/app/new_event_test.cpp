@@ -127,7 +127,7 @@ TEST_F(NewEventTest, TheFieldIsFlippedForTheGeneratorAlone) {
   for (const char* const type : {"piminus_item", "muminus_item"}) {
     choose(type);
     choose("new_event_item");
-    EXPECT_EQ(std::bit_cast<std::uint32_t>(controller().settings().next().B_field),
+    EXPECT_EQ(std::bit_cast<std::uint32_t>(controller().model().next().B_field),
               std::bit_cast<std::uint32_t>(0.6F));
     EXPECT_EQ(chamber().B_field(), static_cast<double>(0.6F));
   }

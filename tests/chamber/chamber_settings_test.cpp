@@ -216,13 +216,13 @@ TEST_F(ChamberSettingsTest, SidesControlWorksInMetresAndGivesCentimetresBack) {
   settings().setSidesControl(500.0F);
   EXPECT_TRUE(same_bits(slider("size_slider").floatValue(), 5.0F));
   settings().setNextChamberValues();
-  EXPECT_TRUE(same_bits(settings().next().sides_cm, 500.0F));
+  EXPECT_TRUE(same_bits(controller().model().next().sides_cm, 500.0F));
   for (const float side : {333.3F, 123.456F, 61.7F, 2500.0F}) {
     const auto metres = static_cast<float>(static_cast<double>(side) * 0.01);
     settings().setSidesControl(side);
     EXPECT_TRUE(same_bits(slider("size_slider").floatValue(), metres)) << side;
     settings().setNextChamberValues();
-    EXPECT_TRUE(same_bits(settings().next().sides_cm, metres * 100.0F)) << side;
+    EXPECT_TRUE(same_bits(controller().model().next().sides_cm, metres * 100.0F)) << side;
   }
 }
 
@@ -231,8 +231,8 @@ TEST_F(ChamberSettingsTest, ValuesOfTheProgramAreKeptToTheLastBit) {
     settings().setFieldControl(value);
     settings().setEnergyControl(std::fabs(value));
     settings().setNextChamberValues();
-    EXPECT_TRUE(same_bits(settings().next().B_field, value)) << value;
-    EXPECT_TRUE(same_bits(settings().next().kinetic_Mev, std::fabs(value))) << value;
+    EXPECT_TRUE(same_bits(controller().model().next().B_field, value)) << value;
+    EXPECT_TRUE(same_bits(controller().model().next().kinetic_Mev, std::fabs(value))) << value;
   }
 }
 
@@ -261,9 +261,9 @@ TEST_F(ChamberSettingsTest, MovedControlsChangeNothingUntilTheNextEvent) {
   EXPECT_EQ(label("magfield_text"), "B = 2.000 kG");
   EXPECT_EQ(label("sides_text"), "L = 2.500 m");
   EXPECT_EQ(label("kinetic_energy_text"), "T = 0.700 MeV");
-  EXPECT_TRUE(same_bits(settings().next().B_field, 0.6F));
-  EXPECT_TRUE(same_bits(settings().next().sides_cm, 500.0F));
-  EXPECT_TRUE(same_bits(settings().next().kinetic_Mev, 0.4F));
+  EXPECT_TRUE(same_bits(controller().model().next().B_field, 0.6F));
+  EXPECT_TRUE(same_bits(controller().model().next().sides_cm, 500.0F));
+  EXPECT_TRUE(same_bits(controller().model().next().kinetic_Mev, 0.4F));
   EXPECT_EQ(chamber().values_text(), "B = 0.6 kG, T = 0.4 MeV, L = 5 m");
   EXPECT_EQ(projection().scaler(), 1.25);
 

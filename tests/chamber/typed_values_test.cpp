@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QTest>
+#include <QToolBar>
+#include <functional>
 #include <vector>
 
 #include "tests/support/windows/application_fixture.h"
@@ -120,6 +122,43 @@ TEST_F(TypedValuesTest, AClickElsewhereTakesWhatIsTyped) {
   control<ValueSlider>("size_slider").setFocus(Qt::MouseFocusReason);
   EXPECT_EQ(editor(), nullptr);
   EXPECT_EQ(control<ValueSlider>("magfield_slider").floatValue(), 4.5F);
+}
+
+TEST_F(TypedValuesTest, ANewEventIsMadeWithAValueThatIsStillBeingTyped) {
+  const auto by_keys = [this] { QTest::keyClick(editor(), Qt::Key_N, Qt::ControlModifier); };
+  const auto by_button = [this] {
+    auto& bar = control<QToolBar>("chamber_tool_bar");
+    QTest::mouseClick(bar.widgetForAction(&item("new_event_item")), Qt::LeftButton);
+  };
+  const auto by_menu = [this] { choose("new_event_item"); };
+  float field_kG = 1.0F;
+  for (const std::function<void()>& make :
+       std::vector<std::function<void()>>{by_keys, by_button, by_menu}) {
+    field_kG += 0.5F;
+    QTest::mouseDClick(&control<ValueLabel>("magfield_text"), Qt::LeftButton);
+    ASSERT_NE(editor(), nullptr);
+    QTest::keyClicks(editor(), QString::number(static_cast<double>(field_kG)));
+    make();
+    EXPECT_EQ(editor(), nullptr);
+    EXPECT_EQ(controller().model().shown()->values.B_field, field_kG);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
+TEST_F(TypedValuesTest, AreChosenAtOnceAndTheNextOnesWithTheNextEvent) {
+  const ChamberModel& model = controller().model();
+  type("magfield_text", QStringLiteral("4.5"));
+  type("kinetic_energy_text", QStringLiteral("6500"));
+  control<ValueSlider>("size_slider").moveTo(3.0);
+  const ChamberValues chosen{.B_field = 4.5F, .sides_cm = 300.0F, .kinetic_Mev = 6500.0F};
+  EXPECT_EQ(model.chosen(), chosen);
+  EXPECT_NE(model.next(), chosen);
+  // A range beyond the energy takes it along.
+  control<QComboBox>("efactor_popup").setCurrentIndex(1);
+  EXPECT_EQ(model.chosen().kinetic_Mev, 1000.0F);
+  choose("new_event_item");
+  EXPECT_EQ(model.next(), model.chosen());
+  EXPECT_EQ(model.next().B_field, 4.5F);
 }
 
 TEST_F(TypedValuesTest, LabelsAreInTheOrderOfTab) {

@@ -62,6 +62,18 @@ TEST(ChamberModelTest, TheSeedDecidesTheEventsOfEveryType) {
   }
 }
 
+TEST(ChamberModelTest, TellsOfOtherChosenValuesAndLeavesTheNextOnes) {
+  ChamberModel model(seed);
+  int told = 0;
+  const Subscription changes = model.changed.add([&told] { ++told; });
+  const ChamberValues chosen{.B_field = 3.0F, .sides_cm = 300.0F, .kinetic_Mev = 50.0F};
+  model.setChosen(chosen);
+  model.setChosen(chosen);
+  EXPECT_EQ(told, 1);
+  EXPECT_EQ(model.chosen(), chosen);
+  EXPECT_EQ(model.next(), ChamberValues{});
+}
+
 TEST(ChamberModelTest, ANegativeParticleLeavesTheFieldThatIsTold) {
   ChamberModel model(seed);
   model.setNext({.B_field = 3.0F, .sides_cm = 300.0F, .kinetic_Mev = 50.0F});

@@ -18,6 +18,17 @@ namespace velquon {
 
 namespace {
 
+/// What is wrong, with the values in their places.
+std::string reason_with_values(const TextError& error) {
+  std::string text = error.reason;
+  for (std::size_t i = 0; i < error.values.size(); ++i) {
+    std::string mark("%");
+    mark += std::to_string(i + 1);
+    text.replace(text.find(mark), mark.size(), error.values[i]);
+  }
+  return text;
+}
+
 const std::string header(measurement_header);
 
 Measurement full_row() {

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cmath>
+#include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -340,6 +341,43 @@ TEST(ProjectorToolsTest, GivingUpAGrabBringsThePictureBack) {
   EXPECT_EQ(projector.mapping().offset_across, 470.0);
   EXPECT_EQ(projector.mapping().offset_up, 420.0);
   EXPECT_FALSE(projector.isHolding());
+}
+
+TEST(ProjectorToolsTest, WhatIsGivenUpInADragStaysSoThoughTheDragGoesOn) {
+  const std::vector<std::function<void(Projector&)>> ways{
+      [](Projector& projector) { projector.giveUp(); },
+      [](Projector& projector) { projector.setTool(projector.tool()); },
+      [](Projector& projector) { projector.setZoom(1.0F); },
+      [](Projector& projector) { projector.restore(); }};
+  for (const ProjectorTool tool : {ProjectorTool::tape, ProjectorTool::grab}) {
+    for (const auto& give_up : ways) {
+      Projector projector = projector_with(tool);
+      projector.press({100.0, 100.0});
+      projector.drag({130.0, 90.0});
+      give_up(projector);
+      const ProjectionMapping place = projector.mapping();
+      projector.drag({140.0, 80.0});
+      projector.release({150.0, 70.0});
+      EXPECT_FALSE(projector.tape().visible);
+      EXPECT_EQ(projector.reading(), 0.0);
+      EXPECT_EQ(projector.mapping().offset_across, place.offset_across);
+      EXPECT_EQ(projector.mapping().offset_up, place.offset_up);
+    }
+  }
+}
+
+TEST(ProjectorToolsTest, AnotherToolInADragBeginsWithTheNextPress) {
+  Projector projector = projector_with(ProjectorTool::tape);
+  projector.press({100.0, 100.0});
+  projector.drag({130.0, 90.0});
+  projector.setTool(ProjectorTool::grab);
+  projector.drag({140.0, 80.0});
+  projector.release({140.0, 80.0});
+  EXPECT_EQ(projector.mapping().offset_across, 470.0);
+  EXPECT_EQ(projector.mapping().offset_up, 420.0);
+  projector.press({100.0, 100.0});
+  projector.release({101.0, 100.0});
+  EXPECT_EQ(projector.mapping().offset_across, 471.0);
 }
 
 TEST(ProjectorToolsTest, TheLastPointCanBeTakenAway) {

@@ -21,6 +21,7 @@
 #include "tests/support/documents/pdf_page.h"
 #include "tests/support/windows/application_fixture.h"
 #include "tests/support/windows/waiting.h"
+#include "widgets/value_slider.h"
 
 namespace velquon::test {
 
@@ -85,13 +86,13 @@ class WorksheetPanelTest : public ApplicationFixture {
 
 TEST_F(WorksheetPanelTest, OffersWhatTheNextEventWouldBeAndMakesBothFiles) {
   choose("muplus_item");
-  controller().settings().setNextMev(37.25F);
-  const ChamberValues next = controller().model().next();
+  control<ValueSlider>("magfield_slider").moveTo(1.5);
+  controller().settings().setEnergyControl(37.25F);
   onPanel([&](QWidget& panel) {
     EXPECT_EQ(in<QComboBox>(panel, "worksheet_type_popup").currentText(),
               QStringLiteral("Positive Muon"));
-    EXPECT_EQ(in<QLineEdit>(panel, "field_box").text().toFloat(), next.B_field);
-    EXPECT_EQ(in<QLineEdit>(panel, "side_box").text().toFloat(), next.sides_cm);
+    EXPECT_EQ(in<QLineEdit>(panel, "field_box").text(), QStringLiteral("1.5"));
+    EXPECT_EQ(in<QLineEdit>(panel, "side_box").text(), QStringLiteral("500"));
     EXPECT_EQ(in<QLineEdit>(panel, "energy_box").text(), QStringLiteral("37.25"));
     EXPECT_EQ(in<QSpinBox>(panel, "count_box").value(), 30);
     in<QSpinBox>(panel, "count_box").setValue(4);

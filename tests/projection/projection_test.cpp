@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QTest>
 
+#include "model/projector.h"
+#include "projection/projector_window.h"
 #include "tests/support/windows/application_fixture.h"
 #include "tests/support/windows/input.h"
 #include "tests/support/windows/pictures.h"
@@ -251,6 +253,16 @@ TEST_F(ProjectionTest, TheButtonsShowWhatIsChosenElsewhere) {
     EXPECT_FALSE(control<QAbstractButton>(name).isChecked()) << name;
   }
   EXPECT_EQ(projection().projection_plane(), ProjectionPlane::yz);
+}
+
+TEST_F(ProjectionTest, TheButtonOfSnappingShowsWhatIsChosenElsewhere) {
+  Projector projector;
+  const ProjectorWindow window(projector);
+  const auto* const button = window.findChild<QAbstractButton*>(QStringLiteral("snap_button"));
+  ASSERT_NE(button, nullptr);
+  EXPECT_TRUE(button->isChecked());
+  projector.setSnaps(false);
+  EXPECT_FALSE(button->isChecked());
 }
 
 TEST_F(ProjectionTest, AChoiceDrawsOnce) {

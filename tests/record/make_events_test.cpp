@@ -20,6 +20,7 @@
 #include "tests/record/measurements_fixture.h"
 #include "tests/support/type_places.h"
 #include "tests/support/windows/waiting.h"
+#include "widgets/value_slider.h"
 
 namespace velquon::test {
 
@@ -69,9 +70,10 @@ class MakeEventsTest : public MeasurementsFixture {
 
 TEST_F(MakeEventsTest, OffersTheChosenKindAndTheValuesOfTheNextEvent) {
   choose("lambda_item");
+  control<ValueSlider>("magfield_slider").moveTo(1.5);
   openDialog();
   EXPECT_EQ(field<QComboBox>("make_type_popup").currentText().toStdString(), "Lambda");
-  EXPECT_EQ(field<QDoubleSpinBox>("make_field_box").value(), 0.6);
+  EXPECT_EQ(field<QDoubleSpinBox>("make_field_box").value(), 1.5);
   EXPECT_EQ(field<QDoubleSpinBox>("make_side_box").value(), 500.0);
   EXPECT_EQ(field<QDoubleSpinBox>("make_energy_box").value(), 0.4);
   for (const char* const name :
@@ -79,6 +81,28 @@ TEST_F(MakeEventsTest, OffersTheChosenKindAndTheValuesOfTheNextEvent) {
         "make_seed_box", "make_sampled_popup"}) {
     EXPECT_FALSE(field<QWidget>(name).accessibleName().isEmpty()) << name;
   }
+}
+
+TEST_F(MakeEventsTest, ValuesBeyondTheUsualRangesAreShownAsTheyAre) {
+  controller().settings().setFieldControl(-5.0F);
+  controller().settings().setSidesControl(0.25F);
+  controller().settings().setEnergyControl(0.0000125F);
+  openDialog();
+  EXPECT_EQ(field<QDoubleSpinBox>("make_field_box").text().toStdString(), "-5.000 kG");
+  EXPECT_EQ(field<QDoubleSpinBox>("make_side_box").text().toStdString(), "0.25 cm");
+  EXPECT_EQ(field<QDoubleSpinBox>("make_energy_box").text().toStdString(), "0.0000125 MeV");
+}
+
+TEST_F(MakeEventsTest, AFieldOfZeroCanBeTypedInThePlaceOfANegativeOne) {
+  controller().settings().setFieldControl(-5.0F);
+  openDialog();
+  auto& box = field<QDoubleSpinBox>("make_field_box");
+  box.selectAll();
+  QTest::keyClicks(&box, QStringLiteral("0"));
+  make(lambda_type, 3, SampledQuantity::decay_length);
+  ASSERT_TRUE(waitForEnd());
+  EXPECT_EQ(alert(), "");
+  EXPECT_EQ(cell(0, MeasurementColumn::field), "0");
 }
 
 TEST_F(MakeEventsTest, NumbersHaveAPointAndMayBeTypedWithACommaWhateverTheCountry) {

@@ -3,6 +3,7 @@
 
 // Files of measurements and what is asked before rows are lost.
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
@@ -10,6 +11,7 @@
 #include <QTimer>
 #include <cmath>
 #include <ctime>
+#include <functional>
 #include <vector>
 
 #include "tests/record/measurements_fixture.h"
@@ -237,6 +239,30 @@ TEST_F(MeasurementFilesTest, QuittingAsksNothingWhenAllIsSaved) {
   measurements().setSaved();
   EXPECT_TRUE(endsTheProgram([this] { item("quit_item").trigger(); }));
   EXPECT_TRUE(dialogs().unsaved_questions.empty());
+}
+
+TEST_F(MeasurementFilesTest, QuittingAsksAboutANoteThatIsStillBeingTyped) {
+  const std::vector<std::function<void()>> ways{[this] { item("quit_item").trigger(); },
+                                                [this] {
+                                                  chamberWindow().close();
+                                                  projectorWindow().close();
+                                                  window().close();
+                                                }};
+  addRows(Quantity::length, {10.0});
+  dialogs().save_answer = SaveAnswer::cancel;
+  QString note;
+  for (const auto& end : ways) {
+    measurements().setSaved();
+    openMeasurements();
+    clickCell(0, MeasurementColumn::note);
+    QTest::keyClick(&table(), Qt::Key_F2);
+    note += QLatin1Char('x');
+    QTest::keyClicks(QApplication::focusWidget(), note);
+    dialogs().unsaved_questions.clear();
+    EXPECT_FALSE(endsTheProgram(end));
+    EXPECT_EQ(dialogs().unsaved_questions.size(), 1U);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
 }
 
 TEST_F(MeasurementFilesTest, ClosingTheLastWindowAsksAndCancelLeavesItOpen) {

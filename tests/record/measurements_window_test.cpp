@@ -196,6 +196,22 @@ TEST_F(MeasurementsWindowTest, ThePopUpListsTheQuantitiesThatArePresent) {
   EXPECT_EQ(popup.count(), 3);
 }
 
+TEST_F(MeasurementsWindowTest, ThePlotCanBeSavedWhenTheChosenQuantityHasValues) {
+  addRows(Quantity::length, {5.0});
+  Measurement row = measurements().rows().front();
+  row.ending = Ending::left;
+  measurements().change(0, row);
+  addRows(Quantity::radius, {2.0});
+  openMeasurements();
+  auto& popup = windowControl<QComboBox>("quantity_popup");
+  ASSERT_EQ(popup.currentText().toStdString(), "length");
+  EXPECT_FALSE(windowControl<QAction>("save_plot_item").isEnabled());
+  popup.setCurrentIndex(1);
+  EXPECT_TRUE(windowControl<QAction>("save_plot_item").isEnabled());
+  popup.setCurrentIndex(0);
+  EXPECT_FALSE(windowControl<QAction>("save_plot_item").isEnabled());
+}
+
 TEST_F(MeasurementsWindowTest, TheNumberOfBinsIsAutomaticOrChosen) {
   addRows(Quantity::length, {0.0, 1.0, 2.0, 3.0, 10.0});
   openMeasurements();

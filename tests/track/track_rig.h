@@ -11,12 +11,12 @@
 #include <memory>
 #include <vector>
 
-#include "app/commands.h"
 #include "model/track_model.h"
 #include "track/new_track_view.h"
 #include "track/track_controller.h"
 #include "track/track_panel.h"
 #include "ui_menus.h"
+#include "widgets/commands.h"
 #include "widgets/gl_panel.h"
 #include "widgets/value_slider.h"
 

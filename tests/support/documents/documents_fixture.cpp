@@ -68,7 +68,7 @@ Shown DocumentsFixture::shown() {
   return {.points = copy_of(chamber().data_ptr()),
           .has_event = chamber().has_event(),
           .current_values = as_list(chamber().current_values()),
-          .next_values = as_list(controller().settings().next()),
+          .next_values = as_list(controller().model().next()),
           .controls = {control<ValueSlider>("magfield_slider").floatValue(),
                        control<ValueSlider>("size_slider").floatValue(),
                        control<ValueSlider>("energy_slider").floatValue()},

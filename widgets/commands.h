@@ -7,10 +7,9 @@
 #include <QObject>
 #include <QString>
 #include <functional>
+#include <memory>
 #include <utility>
 #include <vector>
-
-#include "model/listeners.h"
 
 class QAction;
 
@@ -29,7 +28,7 @@ struct Command {
   std::function<QString()> title{};
 };
 
-/// The table of the program's menu items. Choosing an item runs its command; afterwards, and whenever
+/// A table of menu items. Choosing an item runs its command; afterwards, and whenever
 /// `refresh` is called, all items show the present state.
 class Commands : public QObject {
   Q_OBJECT
@@ -45,11 +44,20 @@ class Commands : public QObject {
   /// Makes each item look as the program's state says.
   void refresh() const;
   /// Does so whenever something has changed.
-  void refreshOn(Listeners& changes);
+  /// \param changes its `add` takes what is to be called, and returns what keeps it called
+  template <typename Changes>
+  void refreshOn(Changes& changes) {
+    auto kept = changes.add([this] { refresh(); });
+    changes_.push_back(std::make_shared<decltype(kept)>(std::move(kept)));
+  }
+
+ Q_SIGNALS:
+  /// The user has chosen an item, whose command runs next.
+  void aboutToRun();
 
  private:
   std::vector<Command> commands_;
-  std::vector<Subscription> changes_;
+  std::vector<std::shared_ptr<void>> changes_;
 };
 
 /// The commands of items of which one is chosen at a time: each chooses its value, and the one whose

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Velquon developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/commands.h"
+#include "widgets/commands.h"
 
 #include <QAction>
 #include <QHash>
@@ -14,6 +14,7 @@ void Commands::add(const Command& command) {
     return;
   }
   connect(command.item, &QAction::triggered, this, [this, run = command.run] {
+    Q_EMIT aboutToRun();
     run();
     refresh();
   });
@@ -48,10 +49,6 @@ void Commands::refresh() const {
   for (const auto& [item, is_enabled] : enabled.asKeyValueRange()) {
     item->setEnabled(is_enabled);
   }
-}
-
-void Commands::refreshOn(Listeners& changes) {
-  changes_.push_back(changes.add([this] { refresh(); }));
 }
 
 }  // namespace velquon
