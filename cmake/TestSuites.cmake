@@ -6,7 +6,7 @@
 
 # Labels: unit, gui, programs (tests of programs without windows) and sources (of scripts and texts) say what
 # is looked at; long is in no plain run of the tests; once is what says the same of any build, or needs one
-# without sanitizers.
+# without sanitizers; sanitized is what is long and runs in the sanitizers' build alone.
 
 # What holds a program to a time; it runs alone.
 set(timed_tests *TenthOfASecond)
@@ -47,14 +47,27 @@ function(filter_of result suite)
   set(${result} ${suite}.*:${suite}Test.*:*/${suite}.*:*/${suite}Test.* PARENT_SCOPE)
 endfunction()
 
+# labels_of(<result> <label> <is long> <is once>): the labels of a test, of which the first is given.
+function(labels_of result label is_long is_once)
+  set(labels ${label})
+  if(is_long)
+    list(APPEND labels long)
+  endif()
+  if(is_once)
+    list(APPEND labels once)
+  elseif(is_long)
+    list(APPEND labels sanitized)
+  endif()
+  set(${result} ${labels} PARENT_SCOPE)
+endfunction()
+
 # add_suites(<prefix> <program> LABEL <label> TIMEOUT <seconds> [EXCEPT <suites>...] [LONG <suites>...]
-#            [COMMAND <words that the program is started with>...])
-# A test for each suite but the excepted ones, and one that the program has no other tests. Long ones are
-# in no plain run of the tests.
+#            [ONCE <suites>...] [COMMAND <words that the program is started with>...])
+# A test for each suite but the excepted ones, and one that the program has no other tests.
 function(add_suites prefix program)
-  cmake_parse_arguments(PARSE_ARGV 2 arg "" "LABEL;TIMEOUT" "EXCEPT;LONG;COMMAND")
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "LABEL;TIMEOUT" "EXCEPT;LONG;ONCE;COMMAND")
   suites_of(suites ${program})
-  foreach(named IN LISTS arg_EXCEPT arg_LONG)
+  foreach(named IN LISTS arg_EXCEPT arg_LONG arg_ONCE)
     if(NOT named IN_LIST suites)
       message(FATAL_ERROR "${program} has no suite ${named}")
     endif()
@@ -69,10 +82,15 @@ function(add_suites prefix program)
     endif()
     add_test(NAME ${prefix}.${suite}
       COMMAND ${arg_COMMAND} $<TARGET_FILE:${program}> --gtest_filter=${filter}-${timed_tests})
-    set(labels ${arg_LABEL})
+    set(is_long FALSE)
+    set(is_once FALSE)
     if(suite IN_LIST arg_LONG)
-      list(APPEND labels long)
+      set(is_long TRUE)
     endif()
+    if(suite IN_LIST arg_ONCE)
+      set(is_once TRUE)
+    endif()
+    labels_of(labels ${arg_LABEL} ${is_long} ${is_once})
     set_tests_properties(${prefix}.${suite} PROPERTIES LABELS "${labels}" TIMEOUT ${arg_TIMEOUT})
   endforeach()
   list(JOIN filters ":" known)
@@ -83,8 +101,8 @@ function(add_suites prefix program)
     LABELS ${arg_LABEL} TIMEOUT 60)
 endfunction()
 
-# add_window_tests(<prefix> <program> [EXCEPT <suites>...] [LONG <suites>...]): those of a program that
-# shows windows.
+# add_window_tests(<prefix> <program> [EXCEPT <suites>...] [LONG <suites>...] [ONCE <suites>...]): those of a
+# program that shows windows.
 function(add_window_tests prefix program)
   add_suites(${prefix} ${program} LABEL gui TIMEOUT 300
     COMMAND ${PROJECT_SOURCE_DIR}/scripts/with-display ${ARGN})
@@ -96,13 +114,7 @@ endfunction()
 function(add_screen_test name program)
   cmake_parse_arguments(PARSE_ARGV 2 arg "LONG;ONCE" "FILTER;WITH" "ENVIRONMENT")
   set_property(GLOBAL APPEND PROPERTY screen_filters ${arg_FILTER})
-  set(labels gui)
-  if(arg_LONG)
-    list(APPEND labels long)
-  endif()
-  if(arg_ONCE)
-    list(APPEND labels once)
-  endif()
+  labels_of(labels gui ${arg_LONG} ${arg_ONCE})
   if(arg_WITH)
     set(arg_WITH ${PROJECT_SOURCE_DIR}/scripts/${arg_WITH})
   endif()

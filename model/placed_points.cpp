@@ -23,7 +23,7 @@ void PlacedPoints::press(Place place, const Snap& snap) {
 
 void PlacedPoints::drag(Place place, const Snap& snap) {
   if (held_) {
-    // A hand that rests moves nothing, not onto a point of the picture either.
+    // Without a movement the point stays, though one of the picture be near.
     places_[held_->point] = place == held_->pressed ? held_->before : snap(place + held_->offset);
   }
 }

@@ -103,7 +103,7 @@ TEST(ArcTest, PlacesOnACircleGiveItsCentreRadiusSagittaAndChord) {
 
 TEST(ArcTest, TheErrorsAreThoseThatPlacingMakes) {
   constexpr double hand_error = 0.5;
-  constexpr int repetitions = 3000;
+  constexpr int repetitions = 1000;
   for (const auto& [radius, from, to, count] : arcs) {
     if (radius > 1000.0) {
       continue;  // its radius is no longer spread as a normal error is
